@@ -1,0 +1,40 @@
+# How the rooms of the house are built: one static library a folder, and the link line is the rule of who may see whom.
+
+add_library(house_flags INTERFACE)
+target_include_directories(house_flags INTERFACE ${PROJECT_SOURCE_DIR})
+target_compile_options(house_flags INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+if(TARNIVEL_SANITIZE)
+  target_compile_options(house_flags INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(house_flags INTERFACE -fsanitize=address,undefined)
+endif()
+
+# house_library(name SOURCES ... [LINKS rooms...] [QT modules...])
+#
+# QT modules are linked privately: their headers exist for this room alone.
+function(house_library name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;QT" ${ARGN})
+  add_library(${name} STATIC ${ARG_SOURCES})
+  target_link_libraries(${name} PUBLIC house_flags ${ARG_LINKS})
+  if(ARG_QT)
+    target_link_libraries(${name} PRIVATE ${ARG_QT})
+    target_compile_definitions(${name} PRIVATE QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII)
+  endif()
+endfunction()
+
+# house_program(name SOURCES ... LINKS rooms...): the program itself, at the top of the build folder.
+function(house_program name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  target_link_libraries(${name} PRIVATE ${ARG_LINKS})
+  add_dependencies(${name} resources)
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR})
+endfunction()
+
+# house_test(name SOURCES ... LINKS rooms... [QT modules...]): a GoogleTest program, each of its tests known to ctest.
+function(house_test name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;QT" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  target_link_libraries(${name} PRIVATE ${ARG_LINKS} GTest::gtest ${ARG_QT})
+  add_dependencies(${name} resources)
+  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
+endfunction()

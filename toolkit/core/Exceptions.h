@@ -1,0 +1,26 @@
+/// What the platform raises. Each is caught by the routine that calls the platform.
+#pragma once
+
+#include "toolkit/core/Text.h"
+
+#include <exception>
+
+/// An error of the platform: its number (that of the operating system or of the network layer) and its words.
+class RuntimeException : public std::exception {
+public:
+    RuntimeException(Int64 errorNumber, String message);
+
+    [[nodiscard]] const char* what() const noexcept override { return narrow_.c_str(); }
+
+    Int64 ErrorNumber;
+    String Message;
+
+private:
+    std::string narrow_;
+};
+
+/// A file could not be opened, read, written or closed.
+class IOException : public RuntimeException {
+public:
+    using RuntimeException::RuntimeException;
+};

@@ -1,0 +1,81 @@
+/// The place of a file or folder, whether it exists or not.
+#pragma once
+
+#include "toolkit/core/Text.h"
+
+#include <filesystem>
+#include <optional>
+#include <vector>
+
+/// A value: copying it copies the place, never the file.
+///
+/// An item stands for the name itself: for an alias (a symbolic link) `Exists`, `IsFolder` and `Name` speak of the link,
+/// not of what it leads to. Folders above the item are followed by the operating system as usual. Nothing here throws,
+/// and a question that the file system doesn't answer (no permission, a name that is too long) is answered with no.
+class FolderItem {
+public:
+    explicit FolderItem(std::filesystem::path absolutePath);
+
+    /// Drive 0 is the root of the file system, drives 1 and up are the children of the folder of volumes in the order
+    /// of `Children`. `index` must not be above `LastDriveIndex`.
+    static FolderItem DriveAt(Int64 index);
+    static Int64 LastDriveIndex();
+
+    /// The folder in which the platform shows further volumes ("/Volumes"), or nothing where it doesn't exist.
+    static std::optional<FolderItem> VolumesFolder();
+    /// Lets a test put a folder of its own in the place of "/Volumes"; nothing brings the platform's back.
+    static void SetVolumesFolder(std::optional<std::filesystem::path> folder);
+
+    /// The name as text: "Linux" for the root on Linux. Bytes that are no UTF-8 show as U+FFFD.
+    [[nodiscard]] String Name() const;
+
+    /// The item of that name on disk in this folder, which need not exist; nothing for a name that no item can have
+    /// ("", "..", with a "/" or a NUL inside). Where the exact name isn't there, an entry that is equal in canonical
+    /// form is taken. With `followAlias` an alias is replaced by what it leads to.
+    [[nodiscard]] std::optional<FolderItem> Child(StringView name, bool followAlias = true) const;
+
+    /// All items of the folder by name, case ignored, aliases not resolved; one pass over the folder.
+    /// Empty for what is no folder or can't be read.
+    [[nodiscard]] std::vector<FolderItem> Children() const;
+
+    /// The folder above; nothing for a drive's root.
+    [[nodiscard]] std::optional<FolderItem> Parent() const;
+
+    [[nodiscard]] bool Exists() const;
+    [[nodiscard]] bool IsFolder() const;
+    [[nodiscard]] bool IsAlias() const;
+    [[nodiscard]] bool IsReadable() const;
+    /// False for a name that begins with a dot.
+    [[nodiscard]] bool Visible() const;
+
+    /// "file://" and the percent-encoded path: one text for one place.
+    [[nodiscard]] String URLPath() const;
+    /// The path with "/" between names.
+    [[nodiscard]] String NativePath() const;
+    [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
+
+    /// Makes the folder, and those above it that are missing. Whether it worked is seen by `Exists`.
+    void CreateFolder() const;
+    /// Moves the item into `folder` under its own name, or to the place `folder` itself where that doesn't exist yet.
+    /// An item that is already there is never replaced. Raises IOException.
+    void MoveTo(const FolderItem& folder) const;
+    /// Removes a file, an alias or an empty folder. Raises IOException.
+    void Remove() const;
+
+private:
+    std::filesystem::path path_;
+};
+
+/// Places that the platform sets aside for each user; nothing when there is none (no home folder, a full disk).
+namespace SpecialFolder {
+/// Where programs keep their data; it is made when the user's account doesn't have it yet.
+std::optional<FolderItem> ApplicationData();
+std::optional<FolderItem> Preferences();
+std::optional<FolderItem> Documents();
+} // namespace SpecialFolder
+
+/// The file of the running program.
+FolderItem ExecutableFile();
+
+/// The folder of the program's sounds and translations: beside the program, in "share" or in the bundle.
+std::optional<FolderItem> ResourceFolder();

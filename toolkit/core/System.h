@@ -1,0 +1,16 @@
+/// The platform's clock and its translations.
+#pragma once
+
+#include "toolkit/core/Text.h"
+
+namespace System {
+/// Sixtieths of a second since some moment in the past; never goes back.
+Int64 Ticks();
+} // namespace System
+
+/// The text for `key` in `language` ("de", "pt"), where an empty language means that of the user; `defaultText` where the
+/// program has no translation.
+///
+/// Translations are id-based Qt files "translations/tarnivel_<language>.qm" in the resource folder, whose ids are the
+/// keys.
+String SystemGetLocalizedString(StringView key, StringView defaultText, StringView language);
