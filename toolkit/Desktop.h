@@ -1,0 +1,40 @@
+/// What the desktop around the program offers: beep, links, keys, pointer, screen, file manager, clipboard.
+#pragma once
+
+#include "toolkit/core/FolderItem.h"
+
+namespace System {
+void Beep();
+/// Opens a link with the program that the desktop uses for it. The text goes out as it stands.
+void GotoURL(StringView url);
+} // namespace System
+
+/// The shape of the mouse pointer over the whole program.
+enum class Cursor { StandardPointer, FingerPointer };
+void SetMouseCursor(Cursor cursor);
+
+/// The keys held down at this moment.
+namespace Keyboard {
+bool AsyncShiftKey();
+bool AsyncAltKey();
+bool AsyncControlKey();
+} // namespace Keyboard
+
+/// A screen; sizes in points.
+struct DesktopDisplay {
+    int Width, Height;
+    /// Screen 0 is the main one.
+    static DesktopDisplay DisplayAt(int index);
+};
+
+namespace Clipboard {
+void SetText(StringView text);
+String Text();
+} // namespace Clipboard
+
+/// Opens the item with the desktop's program for it: a folder in the file manager.
+void OpenItem(const FolderItem& item);
+/// Shows the item selected in the file manager.
+void RevealItem(const FolderItem& item);
+/// Whether the platform shows the folder as one file. Linux knows no such folders.
+bool IsPackage(const FolderItem& item);

@@ -1,0 +1,98 @@
+/// The simple controls: what they show, and the events that a user's act fires.
+#pragma once
+
+#include "toolkit/Color.h"
+#include "toolkit/DesktopUIControl.h"
+
+#include <functional>
+
+/// A push button. Its caption is literal: "&" is a character like any other.
+class DesktopButton : public DesktopUIControl {
+public:
+    /// `fontSize` in points of the layout, 0 for the system's size.
+    DesktopButton(DesktopWindow& window, const Placement& placement, StringView caption, int fontSize = 0);
+
+    [[nodiscard]] String Caption() const;
+    void SetCaption(StringView caption);
+
+    std::function<void()> Pressed;
+};
+
+/// A field of one line, black on white in every appearance. Line ends in its text stay, though they are not seen.
+class DesktopTextField : public DesktopUIControl {
+public:
+    DesktopTextField(DesktopWindow& window, const Placement& placement, StringView text = {});
+
+    [[nodiscard]] String Text() const;
+    void SetText(StringView text);
+};
+
+enum class TextAlignment { Left, Center, Right };
+
+struct LabelStyle {
+    ColorGroup color{};
+    TextAlignment alignment = TextAlignment::Left;
+    bool bold = false;
+    /// Points of the layout, 0 for the system's size.
+    int fontSize = 0;
+};
+
+/// A text that the user can't change. One with a `MouseUp` handler is a link: it can take the focus, and Enter or the
+/// space bar press it in its middle.
+class DesktopLabel : public DesktopUIControl {
+public:
+    DesktopLabel(DesktopWindow& window, const Placement& placement, StringView text, const LabelStyle& style = {});
+
+    [[nodiscard]] String Text() const;
+    void SetText(StringView text);
+
+    /// Positions are points in the label. `MouseDown` answers whether the label takes the press; the release comes to
+    /// `MouseUp` only then, wherever the pointer is by then.
+    std::function<bool(int x, int y)> MouseDown;
+    std::function<void(int x, int y)> MouseUp;
+    std::function<void()> MouseEnter;
+    std::function<void()> MouseExit;
+};
+
+class DesktopCheckBox : public DesktopUIControl {
+public:
+    DesktopCheckBox(DesktopWindow& window, const Placement& placement, StringView caption);
+
+    [[nodiscard]] bool Value() const;
+    void SetValue(bool checked);
+};
+
+/// Choices of which one is selected, one below the other in equal heights.
+class DesktopRadioGroup : public DesktopUIControl {
+public:
+    DesktopRadioGroup(DesktopWindow& window, const Placement& placement);
+
+    /// The captions, separated by line ends. The first choice is selected.
+    void SetInitialValue(StringView captions);
+    [[nodiscard]] int SelectedIndex() const;
+    void SetSelectedIndex(int index);
+};
+
+class DesktopPopupMenu : public DesktopUIControl {
+public:
+    /// `rows` are separated by line ends.
+    DesktopPopupMenu(DesktopWindow& window, const Placement& placement, StringView rows, int selectedRow);
+
+    /// -1 when no row is selected.
+    [[nodiscard]] int SelectedRowIndex() const;
+    void SetSelectedRowIndex(int row);
+    [[nodiscard]] String SelectedRowText() const;
+
+    std::function<void()> SelectionChanged;
+};
+
+/// A button of one segment that stays down when it is pressed and comes up when it is pressed again.
+class DesktopSegmentedButton : public DesktopUIControl {
+public:
+    DesktopSegmentedButton(DesktopWindow& window, const Placement& placement, StringView caption);
+
+    [[nodiscard]] bool Selected(int segmentIndex) const;
+    void SetSelected(int segmentIndex, bool selected);
+
+    std::function<void(int segmentIndex)> Pressed;
+};

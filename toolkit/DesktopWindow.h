@@ -1,0 +1,76 @@
+/// Windows.
+#pragma once
+
+#include "toolkit/DesktopUIControl.h"
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+/// What a window is made with. Sizes are points of the content, below the menu bar.
+struct WindowStyle {
+    String title;
+    int width, height;
+    int minimumWidth = 0, minimumHeight = 0;
+    int maximumWidth = 32000, maximumHeight = 32000;
+    bool hasMenuBar = false;
+    bool resizable = true;
+    bool hasCloseButton = true, hasMaximizeButton = true, hasMinimizeButton = true;
+};
+
+/// A window and the controls that stand in it, in the order of their creation. Hidden until `Show`.
+class DesktopWindow {
+public:
+    explicit DesktopWindow(const WindowStyle& style);
+    DesktopWindow(const DesktopWindow&) = delete;
+    DesktopWindow& operator=(const DesktopWindow&) = delete;
+    virtual ~DesktopWindow();
+
+    [[nodiscard]] String Title() const;
+    [[nodiscard]] int MinimumWidth() const;
+    [[nodiscard]] int MinimumHeight() const;
+
+    /// The content's place on the screen, in points; the frame and the menu bar lie outside.
+    [[nodiscard]] int Left() const;
+    [[nodiscard]] int Top() const;
+    [[nodiscard]] int Width() const;
+    [[nodiscard]] int Height() const;
+    void SetLeft(int points);
+    void SetTop(int points);
+    void SetWidth(int points);
+    void SetHeight(int points);
+
+    [[nodiscard]] bool Visible() const;
+    /// Shows the window and brings it to the front. The first call fires `Opening` before anything is seen.
+    void Show();
+    /// Asks `CancelClosing`, and closes the window unless it answers true.
+    void Close();
+
+    /// The control that has the focus, or null.
+    [[nodiscard]] DesktopUIControl* Focus() const;
+    /// Takes the focus from every control.
+    void SetFocus();
+
+    [[nodiscard]] const std::vector<DesktopUIControl*>& Controls() const { return controls_; }
+
+    std::function<void()> Opening;
+    /// The window becomes the one that the keyboard goes to.
+    std::function<void()> Activated;
+    /// The window is about to close, alone or with the whole program; true keeps it open.
+    std::function<bool(bool appQuitting)> CancelClosing;
+
+private:
+    friend class DesktopApplication;
+    friend class DesktopUIControl;
+    friend class Dialogs;
+    class Shell;
+
+    [[nodiscard]] QWidget* Content() const;
+    void Add(DesktopUIControl& control);
+    void Remove(DesktopUIControl& control);
+    /// Brings the Tab key's order in line with the controls' tab indices.
+    void ApplyTabOrder();
+
+    std::vector<DesktopUIControl*> controls_;
+    std::unique_ptr<Shell> shell_;
+};

@@ -1,0 +1,26 @@
+/// Timers.
+#pragma once
+
+#include <functional>
+#include <memory>
+
+class QTimer;
+
+/// Fires `Action` on the main thread once its period has passed.
+class Timer {
+public:
+    enum class RunModes { Off, Single, Multiple };
+
+    /// `period` in milliseconds.
+    explicit Timer(int period);
+    ~Timer();
+
+    /// Off stops it; Single and Multiple start the period anew. A single shot is Off again before `Action` runs.
+    void SetRunMode(RunModes mode);
+    [[nodiscard]] RunModes RunMode() const;
+
+    std::function<void()> Action;
+
+private:
+    std::unique_ptr<QTimer> timer_;
+};
