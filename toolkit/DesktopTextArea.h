@@ -18,8 +18,8 @@ public:
     [[nodiscard]] String Text() const;
     /// Shows a text in black; the caret goes to offset 0, with nothing selected.
     void SetText(StringView text);
-    /// Shows a text with colours: of spans that overlap the later one wins, what none covers is black. The caret goes to
-    /// offset 0, with nothing selected, and what is typed next is black.
+    /// Shows a text with colours: of spans that overlap the later one wins, what none covers is black. The caret goes
+    /// to offset 0, with nothing selected, and what is typed next is black.
     void SetStyledText(StringView text, std::span<const ColorSpan> colors);
 
     [[nodiscard]] Int64 SelectionStart() const;

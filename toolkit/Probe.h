@@ -22,8 +22,8 @@ public:
     using Answer = std::variant<int, std::optional<FolderItem>>;
     std::deque<Answer> Answers;
 
-    /// What was asked, in order: message, line end, explanation (where there is one), and the captions of the buttons in
-    /// brackets: "Really?\nIt is gone then.[Yes][No]". A chooser gives its prompt, a MessageBox its text alone.
+    /// What was asked, in order: message, line end, explanation (where there is one), and the captions of the buttons
+    /// in brackets: "Really?\nIt is gone then.[Yes][No]". A chooser gives its prompt, a MessageBox its text alone.
     std::vector<String> Asked;
     int Beeps = 0;
     /// File names of the sounds.

@@ -9,9 +9,10 @@
 
 /// A value: copying it copies the place, never the file.
 ///
-/// An item stands for the name itself: for an alias (a symbolic link) `Exists`, `IsFolder` and `Name` speak of the link,
-/// not of what it leads to. Folders above the item are followed by the operating system as usual. Nothing here throws,
-/// and a question that the file system doesn't answer (no permission, a name that is too long) is answered with no.
+/// An item stands for the name itself: for an alias (a symbolic link) `Exists`, `IsFolder` and `Name` speak of the
+/// link, not of what it leads to. Folders above the item are followed by the operating system as usual. Nothing here
+/// throws, and a question that the file system doesn't answer (no permission, a name that is too long) is answered with
+/// no.
 class FolderItem {
 public:
     explicit FolderItem(std::filesystem::path absolutePath);

@@ -8,8 +8,8 @@ namespace System {
 Int64 Ticks();
 } // namespace System
 
-/// The text for `key` in `language` ("de", "pt"), where an empty language means that of the user; `defaultText` where the
-/// program has no translation.
+/// The text for `key` in `language` ("de", "pt"), where an empty language means that of the user; `defaultText` where
+/// the program has no translation.
 ///
 /// Translations are id-based Qt files "translations/tarnivel_<language>.qm" in the resource folder, whose ids are the
 /// keys.
