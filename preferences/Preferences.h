@@ -1,0 +1,47 @@
+/// The preferences file as values.
+///
+/// A line is a key, the separator " :@: " and a value. The first separator of a line counts, so that a value may hold
+/// another; keys ignore case; of two lines with one key the later wins; a line with another key or with none is passed
+/// over. There is no quoting.
+#pragma once
+
+#include "toolkit/core/Text.h"
+
+#include <optional>
+#include <span>
+#include <vector>
+
+/// A window's place in points. The values of a fresh one fit no screen.
+struct WindowGeometry {
+    Int16 left = -1, top = -1, width = 0, height = 0;
+    bool operator==(const WindowGeometry&) const = default;
+};
+
+/// What the file says; an optional without a value leaves its control as it is.
+struct Preferences {
+    bool AffHelpTag = true;
+    bool DrapAffBtnSpecA = false;
+    /// Percent; -1 stands for none.
+    Int16 volume = -1;
+    WindowGeometry geometry;
+    /// 0 the model file, 1 the model URL.
+    std::optional<int> sourceModel;
+    /// A line gave the source another number than 0 or 1. It was passed over.
+    bool sourceModelRefused = false;
+    std::optional<String> modelFile, modelUrl, archiveFolder, spackFile;
+    std::optional<bool> archive;
+    /// Points.
+    Int16 WspecAheight = 0;
+    String PathSpecA;
+    std::vector<String> TabSpecAorg, TabSpecAdest1, TabSpecAdest2;
+};
+
+/// The settings of the lines of a preferences file; it never fails.
+Preferences ReadPreferences(std::span<const String> lines);
+
+/// The stored place if a window of at least that size fits there, and else the whole screen but for a margin: 30 points
+/// from the left, 60 from the top, 60 points less than the screen in width and height.
+///
+/// 48 points at the top belong to the menu bar and the window's title.
+WindowGeometry FitToScreen(const WindowGeometry& stored, int minimumWidth, int minimumHeight, int screenWidth,
+                           int screenHeight);
