@@ -14,7 +14,8 @@ App* current = nullptr;
 
 } // namespace
 
-App::App(int& argc, char** argv) : DesktopApplication(argc, argv, U"Tarnivel", String(Build::Version))
+App::App(int& argc, char** argv)
+    : DesktopApplication(argc, argv, U"Tarnivel", String(Build::Version))
 {
     current = this;
     menuBar_.ApplePrefs.Action = [this] { return ApplePrefs_Action(); };

@@ -3,8 +3,8 @@
 
 #include "toolkit/DesktopMenu.h"
 
-/// The items whose handlers or state belong to the program are members; the Edit items are served by the platform's text
-/// controls.
+/// The items whose handlers or state belong to the program are members; the Edit items are served by the platform's
+/// text controls.
 class MenuBar1 {
 public:
     MenuBar1();

@@ -78,7 +78,8 @@ void ReadLine(Preferences& preferences, StringView line)
     const Int64 end = IndexOf(line, separator);
     if (end < 0) return;
     for (const Key& key : keys)
-        if (SameText(key.name, Left(line, end))) return key.read(preferences, Middle(line, end + std::ssize(separator)));
+        if (SameText(key.name, Left(line, end)))
+            return key.read(preferences, Middle(line, end + std::ssize(separator)));
 }
 
 } // namespace
@@ -87,7 +88,8 @@ Preferences ReadPreferences(std::span<const String> lines)
 {
     Preferences preferences;
     preferences.AffHelpTag = ReadAffHelpTag(lines);
-    for (const String& line : lines) ReadLine(preferences, line);
+    for (const String& line : lines)
+        ReadLine(preferences, line);
     return preferences;
 }
 

@@ -1,0 +1,228 @@
+#include "mainwindow/WinMain.h"
+
+#include "app/Addresses.h"
+#include "app/App.h"
+#include "app/Build.h"
+#include "app/localisation/Localisation.h"
+#include "support/DialogHelpers.h"
+#include "support/FileHelpers.h"
+#include "support/Fncts.h"
+#include "support/Sounds.h"
+#include "support/TextHelpers.h"
+#include "toolkit/Desktop.h"
+
+using namespace Localisation;
+
+namespace {
+
+constexpr unsigned L = Lock::Left, T = Lock::Top, R = Lock::Right, B = Lock::Bottom;
+constexpr int timerPeriod = 10;
+
+} // namespace
+
+WinMain::WinMain()
+    : DesktopWindow({.title = U"Tarnivel",
+                     .width = 760,
+                     .height = 500,
+                     .minimumWidth = 720,
+                     .minimumHeight = 400,
+                     .hasMenuBar = true})
+    // clang-format off
+    //                            left  top width height  locks       tab
+    , BtnSelFichModel     (*this, { 630,  14, 110,  20, T | R,          5}, Btn_SelectFichier())
+    , TextFieldMod1       (*this, { 158,  13, 460,  22, L | T | R,      0})
+    , TextFieldMod2       (*this, { 158,  35, 460,  22, L | T | R,      1}, Addresses::DefaultModel)
+    , BtnOuvUrlModel      (*this, { 630,  36, 110,  20, T | R,          8}, Btn_OpenUrl())
+    , BtnSelFichSpack     (*this, { 630, 100, 110,  20, T | R,          9}, Btn_SelectFichier())
+    , TextFieldSpack      (*this, { 158,  99, 460,  22, L | T | R,      3})
+    , LbSpack             (*this, {  20, 100, 126,  20, L | T,         10}, StTextScenPack())
+    , TextAreaAff         (*this, {  20, 164, 720, 306, L | T | R | B,  4})
+    , BtnRun              (*this, {  20, 132, 126,  20, L | T,         12}, U"# Gen / Stop #")
+    , TimerDebRun         (timerPeriod)
+    , BtnSelArchivDoss    (*this, { 630,  68, 110,  20, T | R,         13}, Btn_SelectDossier())
+    , TextFieldArchiv     (*this, { 158,  67, 460,  22, L | T | R,      2})
+    , BtnSave             (*this, { 630, 132, 110,  20, T | R,         14}, Btn_SauvFichier())
+    , ChBoxArchiv         (*this, {  20,  68, 126,  20, L | T,         15}, ChBoxArchive())
+    , StaticTextVersion   (*this, { 690, 480,  50,  16, R | B,         16}, U"v.0.0.0",
+                           {.alignment = TextAlignment::Right, .bold = true, .fontSize = 10})
+    , BtnAide             (*this, {  20, 475,  22,  20, L | B,         17}, U"?")
+    , BtnEnabDis          (*this, { 478, 132, 140,  20, T | R,         18}, Btn_EnabDis())
+    , BtnAffDoss          (*this, { 346, 132, 120,  20, T | R,         19}, Btn_AffDoss())
+    , TextFieldCherch     (*this, {  52, 475, 175,  22, L | B,         20})
+    , PushButtCherch      (*this, { 257, 475,  38,  20, L | B,         22}, U"☞", 18)
+    , LabBlockUI          (*this, 23)
+    , PushButtInitCherch  (*this, { 229, 475,  26,  20, L | B,         24}, U"⊗")
+    , PushButtDebug       (*this, { 315, 478,  80,  20, L | B,         25}, U"Debug Butt")
+    , PopMenuAff          (*this, { 158, 132, 126,  20, L | T,         11}, PopupAff(), 2)
+    , SegButtSpecA        (*this, { 556, 477, 100,  24, L | B,         -1}, WinSpecA_Title())
+    , TimerQuit           (timerPeriod)
+    , RadGrpSrc           (*this, {  20,  14, 126,  45, L | T,         28})
+// clang-format on
+{
+    PushButtDebug.SetVisible(false);
+    URLCnctLirePage.AllowCertificateValidation = false;
+    NameControls();
+    BindHandlers();
+}
+
+void WinMain::NameControls()
+{
+    for (DesktopButton* button : {&BtnSelFichModel, &BtnSelFichSpack, &BtnSelArchivDoss})
+        button->SetTooltip(Btn_Select_HT());
+    BtnSave.SetTooltip(Btn_SauvFichier_HT());
+    BtnEnabDis.SetTooltip(Btn_EnabDis_HT());
+    BtnAffDoss.SetTooltip(Btn_AffDoss_HT());
+    PushButtCherch.SetTooltip(Btn_Chercher_HT());
+    StaticTextVersion.SetTooltip(Btn_Historic());
+
+    TextFieldMod1.SetAccessibleName(RdButtSourceA());
+    TextFieldMod2.SetAccessibleName(RdButtSourceB());
+    TextFieldArchiv.SetAccessibleName(ChBoxArchive());
+    TextFieldSpack.SetAccessibleName(StTextScenPack());
+    TextFieldCherch.SetAccessibleName(Btn_Chercher_HT());
+    PushButtCherch.SetAccessibleName(Btn_Chercher_HT());
+    PushButtInitCherch.SetAccessibleName(Menu_EditClear());
+    BtnAide.SetAccessibleName(WinAide_Title());
+    PopMenuAff.SetAccessibleName(ReplaceAll(PopupAff(), U"\n", U" / "));
+}
+
+void WinMain::BindHandlers()
+{
+    App::Current().MainWindow.EnableControls = [this](bool idle) { EnableControls(idle); };
+    Opening = [this] { Event_Opening(); };
+    CancelClosing = [this](bool appQuitting) { return Event_CancelClosing(appQuitting); };
+    Activated = [this] { Event_Activated(); };
+    BtnRun.Pressed = [this] { BtnRun_Pressed(); };
+    TimerDebRun.Action = [this] { TimerDebRun_Action(); };
+    URLCnctLirePage.ContentReceived = [this](const String& url, Int64 httpStatus, const Bytes& content) {
+        URLCnctLirePage_ContentReceived(url, httpStatus, content);
+    };
+    URLCnctLirePage.Error = [this](const RuntimeException& error) { URLCnctLirePage_Error(error); };
+    PopMenuAff.SelectionChanged = [this] { PopMenuAff_SelectionChanged(); };
+    StaticTextVersion.MouseDown = [this](int, int) { return StaticTextVersion_MouseDown(); };
+    StaticTextVersion.MouseUp = [this](int x, int y) { StaticTextVersion_MouseUp(x, y); };
+    StaticTextVersion.MouseEnter = [this] { StaticTextVersion_MouseEnter(); };
+    StaticTextVersion.MouseExit = [this] { StaticTextVersion_MouseExit(); };
+    PushButtDebug.Pressed = [this] { PushButtDebug_Pressed(); };
+    TimerQuit.Action = [this] { TimerQuit_Action(); };
+}
+
+void WinMain::EnableControls(bool idle)
+{
+    for (DesktopUIControl* control : std::initializer_list<DesktopUIControl*>{
+             &RadGrpSrc, &TextFieldMod1, &BtnSelFichModel, &TextFieldMod2, &BtnOuvUrlModel, &ChBoxArchiv,
+             &TextFieldArchiv, &BtnSelArchivDoss, &LbSpack, &TextFieldSpack, &BtnSelFichSpack})
+        control->SetEnabled(idle);
+    BtnRun.SetCaption(idle ? Btn_Generer() : Btn_Arreter());
+    for (DesktopUIControl* control : std::initializer_list<DesktopUIControl*>{
+             &PopMenuAff, &BtnAffDoss, &BtnEnabDis, &BtnSave, &TextAreaAff, &BtnAide, &TextFieldCherch,
+             &PushButtInitCherch, &PushButtCherch, &StaticTextVersion, &SegButtSpecA})
+        control->SetEnabled(idle);
+}
+
+void WinMain::Event_Opening()
+{
+    Fncts::DecPosCtrl(*this);
+    RadGrpSrc.SetInitialValue(RdButtSourceA() + String(EndOfLine::Native) + RdButtSourceB());
+    const String stamp(Build::Stamp);
+    const String help = Btn_Aide_HT();
+    BtnAide.SetTooltip(Fncts::FracTexte(help, 1) + Fncts::TypeCompil() + Fncts::FracTexte(help, 2) + stamp +
+                       Fncts::FracTexte(help, 3));
+    App::Current().DrapOkQuit = false;
+    StaticTextVersion.SetText(U"v." + App::Current().Version);
+    StaticTextVersion.SetTooltip(Fncts::TypeCompil() + U" - " + stamp);
+
+    if (const String failure = StartFailure(); !failure.empty()) return RefuseStart(failure);
+    PrefsCharger();
+    SegButtSpecA.SetVisible(App::Current().DrapAffBtnSpecA);
+    InitVars(true, true);
+    Fncts::AinitProg = true;
+    Fncts::DrapMenu = true;
+    App::Current().EnableMenuBoutons();
+    MemPopMaff = PopMenuAff.SelectedRowIndex();
+    TextAreaAff.SetAccessibleName(PopMenuAff.SelectedRowText());
+    TextAreaAff.SetFocus();
+}
+
+/// What keeps the program from starting, or "".
+String WinMain::StartFailure() const
+{
+    constexpr int margin = 60;
+    const DesktopDisplay screen = DesktopDisplay::DisplayAt(0);
+    if (screen.Width - margin < MinimumWidth() || screen.Height - margin < MinimumHeight())
+        return U"The screen size is too small.";
+    if (!Fncts::DefDossAppDataPref()) return U"Impossible to create the Preferences folder.";
+    return {};
+}
+
+void WinMain::RefuseStart(StringView failure)
+{
+    Fncts::BeepNbT(1);
+    Fncts::MyDialogBox(Join({{U"Error ! Please contact the authors.", U" ", failure}}, EndOfLine::Native), {},
+                       Btn_Quit(), {}, {}, 3, nullptr, true);
+    Fncts::DrapMenu = true;
+    Fncts::DossierPref.reset();
+    Close();
+}
+
+/// A user's close is refused at first: it starts the timer, which quits the program, whose close then passes.
+bool WinMain::Event_CancelClosing(bool appQuitting)
+{
+    if (App::Current().DrapOkQuit) {
+        if (!appQuitting) MessageBox(U"Error ! Please contact the authors.\nThe application should be quitting!");
+        return false;
+    }
+    if (!appQuitting && !Fncts::DrapMenu) {
+        Fncts::BeepNbT(1);
+        return true;
+    }
+    if (!appQuitting) {
+        App::Current().DrapOkQuit = true;
+        Fncts::DrapMenu = false;
+    }
+    TimerQuit.SetRunMode(Timer::RunModes::Single);
+    return true;
+}
+
+void WinMain::TimerQuit_Action()
+{
+    if (App::Current().DrapOkQuit)
+        App::Current().Quit(0);
+    else
+        Close();
+}
+
+void WinMain::Event_Activated()
+{
+    Fncts::CmLabBlockUI(2, this, nullptr, nullptr);
+    Fncts::WrkArrSegButBugF(*this);
+}
+
+bool WinMain::StaticTextVersion_MouseDown()
+{
+    OnStxtVersion = true;
+    return true;
+}
+
+void WinMain::StaticTextVersion_MouseUp(int x, int y)
+{
+    if (!OnStxtVersion) return;
+    OnStxtVersion = false;
+    SetMouseCursor(Cursor::StandardPointer);
+    if (x >= 0 && x <= StaticTextVersion.Width() && y >= 0 && y <= StaticTextVersion.Height())
+        System::GotoURL(Addresses::VersionNotes);
+}
+
+void WinMain::StaticTextVersion_MouseEnter() const
+{
+    if (StaticTextVersion.Enabled()) SetMouseCursor(Cursor::FingerPointer);
+}
+
+void WinMain::StaticTextVersion_MouseExit() const { SetMouseCursor(Cursor::StandardPointer); }
+
+/// The button is never seen; a debugger can press it to free or to lock the interface.
+void WinMain::PushButtDebug_Pressed() const
+{
+    Fncts::DrapMenu = !Fncts::DrapMenu;
+    App::Current().EnableMenuBoutons();
+}

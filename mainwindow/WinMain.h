@@ -1,0 +1,94 @@
+/// The main window.
+#pragma once
+
+#include "engine/SceneryTexts.h"
+#include "support/Covers.h"
+#include "toolkit/DesktopControls.h"
+#include "toolkit/DesktopTextArea.h"
+#include "toolkit/DesktopWindow.h"
+#include "toolkit/Timer.h"
+#include "toolkit/URLConnection.h"
+
+/// The window on which everything is done: it names the model and the scenery_packs.ini, runs, and shows and edits the
+/// three texts.
+///
+/// The controls hold the settings; a path is kept as text in its field and turned into a file at each use. An edit
+/// lives in the text area until another view is chosen.
+class WinMain final : public DesktopWindow {
+public:
+    WinMain();
+
+    // Run.cpp
+    void BtnRun_Pressed();
+    void TimerDebRun_Action();
+    void URLCnctLirePage_ContentReceived(const String& url, Int64 httpStatus, const Bytes& content);
+    void URLCnctLirePage_Error(const RuntimeException& error);
+
+    // Display.cpp
+    void PopMenuAff_SelectionChanged();
+    /// Shows the text of the selected row, coloured, and drops what was edited in the text area.
+    void AffArea();
+
+private:
+    // WinMain.cpp: the shell.
+    void BindHandlers();
+    void NameControls();
+    void EnableControls(bool idle);
+    void Event_Opening();
+    [[nodiscard]] String StartFailure() const;
+    void RefuseStart(StringView failure);
+    bool Event_CancelClosing(bool appQuitting);
+    void Event_Activated();
+    bool StaticTextVersion_MouseDown();
+    void StaticTextVersion_MouseUp(int x, int y);
+    void StaticTextVersion_MouseEnter() const;
+    void StaticTextVersion_MouseExit() const;
+    void PushButtDebug_Pressed() const;
+    void TimerQuit_Action();
+
+    // WinMainPreferences.cpp
+    /// Brings the controls, the volume and the window's place in line with the preferences file.
+    void PrefsCharger();
+
+    // Run.cpp
+    void InitVars(bool model, bool source) { texts_.InitVars(model, source); }
+    /// The second half of a run, wherever the model came from.
+    void RunSuite();
+    void Reorder(const FolderItem& dossier);
+
+    // Display.cpp
+    /// The working text that a row of the popup shows, or null for another row.
+    String* TextOfRow(int row);
+    void ShowText(StringView text, std::span<const Int64> marks);
+
+    SceneryTexts texts_;
+    /// The row whose text stands in the text area.
+    Int64 MemPopMaff = -1;
+    /// The mouse went down on the version label and hasn't come up yet.
+    bool OnStxtVersion = false;
+
+    DesktopButton BtnSelFichModel;
+    DesktopTextField TextFieldMod1, TextFieldMod2;
+    DesktopButton BtnOuvUrlModel, BtnSelFichSpack;
+    DesktopTextField TextFieldSpack;
+    DesktopLabel LbSpack;
+    DesktopTextArea TextAreaAff;
+    DesktopButton BtnRun;
+    Timer TimerDebRun;
+    DesktopButton BtnSelArchivDoss;
+    DesktopTextField TextFieldArchiv;
+    DesktopButton BtnSave;
+    DesktopCheckBox ChBoxArchiv;
+    DesktopLabel StaticTextVersion;
+    DesktopButton BtnAide, BtnEnabDis, BtnAffDoss;
+    DesktopTextField TextFieldCherch;
+    DesktopButton PushButtCherch;
+    LabBlockUISet LabBlockUI;
+    DesktopButton PushButtInitCherch;
+    URLConnection URLCnctLirePage;
+    DesktopButton PushButtDebug;
+    DesktopPopupMenu PopMenuAff;
+    DesktopSegmentedButton SegButtSpecA;
+    Timer TimerQuit;
+    DesktopRadioGroup RadGrpSrc;
+};

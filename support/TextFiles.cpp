@@ -1,0 +1,25 @@
+#include "support/TextFiles.h"
+
+#include "support/FileHelpers.h"
+#include "support/Fncts.h"
+#include "support/TextHelpers.h"
+#include "toolkit/core/TextInputStream.h"
+
+namespace Fncts {
+
+String TextOfBytes(const Bytes& data)
+{
+    return DefAppEncod.Decode(DefAppEncod.IsValidData(data) ? data : NettoiBadEncod(data, DefAppEncod));
+}
+
+String LireFichier(const std::optional<FolderItem>& fichier)
+{
+    if (!PasNil_Existe_Alias(fichier, true)) return {};
+    try {
+        return TextOfBytes(TextInputStream::Open(*fichier).ReadAll());
+    } catch (const std::exception&) {
+        return {};
+    }
+}
+
+} // namespace Fncts
