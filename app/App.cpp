@@ -2,6 +2,7 @@
 
 #include "app/Build.h"
 #include "app/FileTypes.h"
+#include "support/FileHelpers.h"
 #include "support/Fncts.h"
 #include "support/Sounds.h"
 #include "toolkit/Desktop.h"

@@ -1,0 +1,46 @@
+/// Covers over the windows that a dialog doesn't hang on, and small adjustments of windows.
+#pragma once
+
+#include "toolkit/DesktopControls.h"
+#include "toolkit/DesktopWindow.h"
+
+#include <memory>
+
+namespace Fncts {
+
+/// A window's two labels "LabBlockUI" and "LabBlockUI1". The second is the cover: hidden and small until a dialog on
+/// another window lays it over everything, where it takes the mouse.
+///
+/// A window holds one as a member and calls `Opening` from its own opening event, when all its controls exist.
+class LabBlockUI {
+public:
+    explicit LabBlockUI(DesktopWindow& window);
+
+    /// Makes the cover, above all controls that the window has by now.
+    void Opening();
+
+private:
+    DesktopLabel first_;
+    std::unique_ptr<DesktopLabel> clone_;
+};
+
+/// Lays the covers over all visible windows but `win` (`opening`), or takes them off. The result tells a dialog to hang
+/// on `win`: it is true when `opening` is and the window is visible; else nothing is covered.
+bool CtrlDsFenetrDiag(DesktopWindow* win, bool opening);
+
+/// Knows the window that a dialog hangs on. `action` 0 makes the label `clone` the cover that belongs to `first`; 1
+/// remembers the dialog's window `win`, or forgets it (null); 2 says that `win` was activated, and sends the user back
+/// to the dialog's window, with one beep unless the last call is no more than 12 ticks ago. The result is true when no
+/// window is remembered.
+bool CmLabBlockUI(Int16 action, DesktopWindow* win, DesktopLabel* first, DesktopLabel* clone);
+
+/// Moves each control to where its class looks best beside the others: text fields one point up. Once for each window.
+void DecPosCtrl(DesktopWindow& win);
+
+/// Tells the authors of windows that are open too early, that is, all but the `known` ones.
+void CtrlFenetrOuv(const std::vector<DesktopWindow*>& known);
+
+/// Gives the focus back to the control that has it, or to the window itself when none has or a segmented button does.
+void WrkArrSegButBugF(DesktopWindow& win);
+
+} // namespace Fncts

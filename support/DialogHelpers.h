@@ -1,0 +1,33 @@
+/// The three ways to ask the user something.
+///
+/// Each keeps the program quiet while the dialog is up: `DrapMenu` is false, and what it held comes back afterwards;
+/// with `sheet` the other windows are covered while the dialog hangs on the window `win`, and the focus is put back.
+/// Without a window, or with a hidden one, a sheet stands alone and covers nothing.
+#pragma once
+
+#include "toolkit/core/FolderItem.h"
+
+class DesktopWindow;
+
+namespace Fncts {
+
+/// A question or a notice; the result is 1 for the action button, 2 for the cancel button, 3 for the alternate button
+/// and 0 when the dialog was closed by other means.
+///
+/// Cancel and alternate buttons are shown when they have a caption; the action button must have one. `icon` is 0 for an
+/// ordinary notice, 1 for a warning, 2 for a question, 3 for a failure; any other number shows none.
+/// Example: `MyDialogBox(question, U"", Localisation::Btn_Cont(), Localisation::Btn_Annuler(), U"", 0, this, true) ==
+/// 1`
+Int16 MyDialogBox(StringView message, StringView explanation, StringView btnAction, StringView btnCancel,
+                  StringView btnAlternate, Int16 icon, DesktopWindow* win, bool sheet);
+
+/// Lets the user choose a file; nothing when the user gave up. The chooser begins in the folder `start`, or in the
+/// folder that holds the file `start`, or in the user's documents. `filter` holds extensions as in ".txt;.ini".
+std::optional<FolderItem> MyDialogLoad(const std::optional<FolderItem>& start, StringView prompt, StringView filter,
+                                       DesktopWindow* win, bool sheet);
+
+/// Lets the user choose a folder; nothing when the user gave up. It begins where `MyDialogLoad` does.
+std::optional<FolderItem> MyDialogFolder(const std::optional<FolderItem>& start, StringView prompt, DesktopWindow* win,
+                                         bool sheet);
+
+} // namespace Fncts

@@ -1,0 +1,45 @@
+/// Questions about files and folders, and what the program does with whole folders.
+#pragma once
+
+#include "toolkit/core/FolderItem.h"
+
+namespace Fncts {
+
+/// The item at the same place, with an alias resolved if `followAlias` is set; nothing for an alias that leads nowhere
+/// or to itself.
+std::optional<FolderItem> GetItemMoT_f(const std::optional<FolderItem>& item, bool followAlias);
+
+/// Whether there is an item and it exists; with `checkAlias`, an alias must also lead to something that exists.
+bool PasNil_Existe_Alias(const std::optional<FolderItem>& item, bool checkAlias);
+
+/// Removes a file, or a folder with all that is in it; aliases inside go, what they lead to stays. The result is true
+/// when anything is left over.
+///
+/// With `watchStop` a failure also sets `ArretUrg`, and nothing is removed while that is set.
+bool RemoveFileOrFolder(const FolderItem& item, bool watchStop);
+
+/// A package is a folder that the platform shows as one file.
+bool IsPackage_f(const FolderItem& item);
+
+/// A folder that is no package.
+bool DossPasPack_f(const FolderItem& item);
+
+/// The name's extension with its dot: ".gz" of "a.tar.gz", "." of "a.", and "" of "a" and of ".bashrc".
+String Extension_f(const FolderItem& item);
+
+/// Shows the item selected in the file manager; a volume is opened there instead.
+void RevealEltFinder(const FolderItem& item);
+
+/// The folder that holds the application: the bundle's folder where the program is in a bundle, else the folder of the
+/// executable itself.
+FolderItem RetDossCetApp();
+
+/// The same for any place of the executable.
+FolderItem FolderOfApplication(const FolderItem& executable);
+
+/// Finds the data folder "fr.Kavesti.Tarnivel Datas" or makes it, bringing in what older versions kept elsewhere, and
+/// stores it in `DossierPref`. False when there is none; a failure of the file system on the way is reported to the
+/// user.
+bool DefDossAppDataPref();
+
+} // namespace Fncts
