@@ -18,6 +18,32 @@ class WinMain final : public DesktopWindow {
 public:
     WinMain();
 
+    // The controls, in the order of creation.
+    DesktopButton BtnSelFichModel;
+    DesktopTextField TextFieldMod1, TextFieldMod2;
+    DesktopButton BtnOuvUrlModel, BtnSelFichSpack;
+    DesktopTextField TextFieldSpack;
+    DesktopLabel LbSpack;
+    DesktopTextArea TextAreaAff;
+    DesktopButton BtnRun;
+    Timer TimerDebRun;
+    DesktopButton BtnSelArchivDoss;
+    DesktopTextField TextFieldArchiv;
+    DesktopButton BtnSave;
+    DesktopCheckBox ChBoxArchiv;
+    DesktopLabel StaticTextVersion;
+    DesktopButton BtnAide, BtnEnabDis, BtnAffDoss;
+    DesktopTextField TextFieldCherch;
+    DesktopButton PushButtCherch;
+    LabBlockUISet LabBlockUI;
+    DesktopButton PushButtInitCherch;
+    URLConnection URLCnctLirePage;
+    DesktopButton PushButtDebug;
+    DesktopPopupMenu PopMenuAff;
+    DesktopSegmentedButton SegButtSpecA;
+    Timer TimerQuit;
+    DesktopRadioGroup RadGrpSrc;
+
     // Run.cpp
     void BtnRun_Pressed();
     void TimerDebRun_Action();
@@ -66,29 +92,4 @@ private:
     Int64 MemPopMaff = -1;
     /// The mouse went down on the version label and hasn't come up yet.
     bool OnStxtVersion = false;
-
-    DesktopButton BtnSelFichModel;
-    DesktopTextField TextFieldMod1, TextFieldMod2;
-    DesktopButton BtnOuvUrlModel, BtnSelFichSpack;
-    DesktopTextField TextFieldSpack;
-    DesktopLabel LbSpack;
-    DesktopTextArea TextAreaAff;
-    DesktopButton BtnRun;
-    Timer TimerDebRun;
-    DesktopButton BtnSelArchivDoss;
-    DesktopTextField TextFieldArchiv;
-    DesktopButton BtnSave;
-    DesktopCheckBox ChBoxArchiv;
-    DesktopLabel StaticTextVersion;
-    DesktopButton BtnAide, BtnEnabDis, BtnAffDoss;
-    DesktopTextField TextFieldCherch;
-    DesktopButton PushButtCherch;
-    LabBlockUISet LabBlockUI;
-    DesktopButton PushButtInitCherch;
-    URLConnection URLCnctLirePage;
-    DesktopButton PushButtDebug;
-    DesktopPopupMenu PopMenuAff;
-    DesktopSegmentedButton SegButtSpecA;
-    Timer TimerQuit;
-    DesktopRadioGroup RadGrpSrc;
 };

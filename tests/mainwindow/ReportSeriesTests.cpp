@@ -1,0 +1,30 @@
+#include "mainwindow/ReportSeries.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(ReportSeries, ManyReportsEndInOneThatHoldsTheRest)
+{
+    std::vector<String> shown;
+    ReportSeries series(
+        [&shown](const String& message, const String& explanation) { shown.push_back(message + U"|" + explanation); });
+    for (int i = 0; i < ReportSeries::Single + 2; ++i)
+        series.Add(ToText(i), U"line");
+    EXPECT_EQ(std::ssize(shown), ReportSeries::Single) << "the rest waits";
+    series.Finish();
+    ASSERT_EQ(std::ssize(shown), ReportSeries::Single + 1);
+    EXPECT_EQ(shown.front(), U"0|line");
+    EXPECT_EQ(shown.back(), U"20\nline\n\n21\nline\n\n|");
+}
+
+TEST(ReportSeries, FewReportsHaveNoEnd)
+{
+    int shown = 0;
+    ReportSeries series([&shown](const String&, const String&) { ++shown; });
+    series.Add(U"one");
+    series.Finish();
+    EXPECT_EQ(shown, 1);
+}
+
+} // namespace

@@ -1,0 +1,98 @@
+#include "preferences/Preferences.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+Preferences Read(std::initializer_list<const char32_t*> lines)
+{
+    return ReadPreferences(std::vector<String>(lines.begin(), lines.end()));
+}
+
+TEST(Preferences, AnEmptyFileGivesTheDefaults)
+{
+    const Preferences preferences = Read({});
+    EXPECT_TRUE(preferences.AffHelpTag);
+    EXPECT_FALSE(preferences.DrapAffBtnSpecA);
+    EXPECT_EQ(preferences.volume, -1);
+    EXPECT_EQ(preferences.geometry, (WindowGeometry{-1, -1, 0, 0}));
+    EXPECT_FALSE(preferences.sourceModel || preferences.modelFile || preferences.archive || preferences.spackFile);
+    EXPECT_TRUE(preferences.TabSpecAorg.empty());
+}
+
+TEST(Preferences, EachKeyGoesToItsSetting)
+{
+    const Preferences preferences = Read({
+        U"AFFICHER bouton Special A :@: TRUE",
+        U"Volume Sonore :@: 35 %",
+        U"Fenetre WinMain :@: 10,48,-3",
+        U"Source Model :@: 1",
+        U"SourceFile_Path :@: Linux:a :@: b",
+        U"SourceUrl :@: https://model",
+        U"Archiv Old File :@: 1",
+        U"ArchivFolder_Path :@: Linux:old:",
+        U"SceneryPack_Path :@: ",
+        U"WspecAheight :@: 420.9",
+        U"PathSpecA :@: Linux:p",
+        U"TabSpecAorg :@: name\ta\t\tb",
+        U"TabSpecAdest1 :@: ",
+        U"TabSpecAdest2 :@: x",
+        U"Unknown :@: 1",
+        U"no separator",
+        U" :@: ",
+    });
+    EXPECT_TRUE(preferences.DrapAffBtnSpecA);
+    EXPECT_EQ(preferences.volume, 35);
+    EXPECT_EQ(preferences.geometry, (WindowGeometry{10, 48, -3, 0}));
+    EXPECT_EQ(preferences.sourceModel, 1);
+    EXPECT_EQ(preferences.modelFile, U"Linux:a :@: b") << "the first separator of a line counts";
+    EXPECT_EQ(preferences.modelUrl, U"https://model");
+    EXPECT_EQ(preferences.archive, false) << "only True is true";
+    EXPECT_EQ(preferences.archiveFolder, U"Linux:old:");
+    EXPECT_EQ(preferences.spackFile, U"");
+    EXPECT_EQ(preferences.WspecAheight, 420);
+    EXPECT_EQ(preferences.PathSpecA, U"Linux:p");
+    EXPECT_EQ(preferences.TabSpecAorg, (std::vector<String>{U"name", U"a", U"", U"b"}));
+    EXPECT_TRUE(preferences.TabSpecAdest1.empty());
+    EXPECT_EQ(preferences.TabSpecAdest2, std::vector<String>{U"x"});
+}
+
+TEST(Preferences, OfTwoLinesTheLaterWinsButForTheOldHelpKey)
+{
+    EXPECT_EQ(Read({U"SourceUrl :@: a", U"sourceurl :@: b"}).modelUrl, U"b");
+    EXPECT_FALSE(Read({U"afficher HelpTag :@: False", U"Afficher HelpTag :@: True"}).AffHelpTag);
+}
+
+TEST(Preferences, NumbersOutOfRangeDoNoHarm)
+{
+    EXPECT_EQ(Read({U"Source Model :@: 0", U"Source Model :@: 2"}).sourceModel, 0);
+    EXPECT_TRUE(Read({U"Source Model :@: 2"}).sourceModelRefused);
+    EXPECT_EQ(Read({U"Volume Sonore :@: 1e300"}).volume, 0);
+    EXPECT_EQ(Read({U"Volume Sonore :@: nan"}).volume, 0);
+    EXPECT_EQ(Read({U"Volume Sonore :@: -99999999999999999999"}).volume, 0);
+}
+
+TEST(Geometry, AWindowThatDoesNotFitTheScreenGetsTheDefaultPlace)
+{
+    struct Row {
+        const char* name;
+        WindowGeometry stored;
+        bool fits;
+    };
+    const Row rows[] = {
+        {"exactly as large as the remaining screen", {0, 48, 1280, 752}, true},
+        {"one point too high", {0, 47, 1280, 752}, false},
+        {"left of the screen", {-1, 48, 720, 400}, false},
+        {"narrower than the minimum", {0, 48, 719, 400}, false},
+        {"lower than the minimum", {0, 48, 720, 399}, false},
+        {"over the right edge", {561, 48, 720, 400}, false},
+        {"over the bottom edge", {0, 401, 720, 400}, false},
+        {"at the end of the numbers", {32767, 32767, 32767, 32767}, false},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(FitToScreen(row.stored, 720, 400, 1280, 800),
+                  row.fits ? row.stored : (WindowGeometry{30, 60, 1220, 740}))
+            << row.name;
+}
+
+} // namespace
