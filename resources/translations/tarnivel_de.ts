@@ -1,0 +1,380 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="fr">
+<context>
+    <name></name>
+    <message id="Localisation.Infos_Texte">
+        <source>Ce programme gère le fichier “scenery_packs.ini” d'X-Plane.
+ 
+Sélectionnez le fichier Modèle qui contient le scenery dans le bon ordre. Ou sélectionnez le chemin de l'Url vers un fichier Modèle.
+ 
+Éventuellement, sélectionnez un dossier pour sauvegarder l'ancien “scenery_packs.ini”.
+ 
+Sélectionnez le fichier “scenery_packs.ini” de votre dossier X-Plane, ce fichier sera réordonné.
+ 
+Cliquez Lancer.
+ 
+Sélectionnez “Spack After” dans le PopupMenu. Si certaines lignes sont colorées, cela signifie qu'elles sont dans “scenery_packs.ini” mais pas dans le scenery Modèle.
+Quand “Spack Mod” est sélectionné, si certaines lignes sont colorées, cela signifie qu'elles sont dans le scenery Modèle mais pas dans “scenery_packs.ini”.
+ 
+Vous pouvez sélectionner une partie du texte dans la Zone de Texte et cliquez le bouton “Enable/Disable” pour inverser “SCENERY_PACK” et “SCENERY_PACK_DISABLED”.
+ 
+Cliquez le bouton “Sauver” pour sauvegarder le texte contenu dans la zone de texte dans le fichier sélectionné dans le PopupMenu. Rien ne sera modifié dans votre fichier jusqu'à ce que vous cliquiez ce bouton.</source>
+        <extracomment>The help text. Lines of a single blank stay as they are; buttons are named as they are translated below.</extracomment>
+        <translation>Dieses Programm verwaltet die Datei „scenery_packs.ini“ von X-Plane.
+ 
+Wählen Sie die Modelldatei, in der die Szenerien in der richtigen Reihenfolge stehen. Oder wählen Sie „Modell-URL“ und geben Sie die URL einer Modelldatei an.
+ 
+Wählen Sie, wenn Sie möchten, einen Ordner, in dem die alte „scenery_packs.ini“ aufbewahrt wird.
+ 
+Wählen Sie die Datei „scenery_packs.ini“ Ihres X-Plane-Ordners: Diese Datei wird neu geordnet.
+ 
+Klicken Sie auf „Erzeugen“.
+ 
+Wählen Sie im Aufklappmenü „Packs nachher“. Farbige Zeilen stehen in „scenery_packs.ini“, aber nicht im Modell.
+Wenn „Packs Modell“ gewählt ist, stehen farbige Zeilen im Modell, aber nicht in „scenery_packs.ini“.
+ 
+Sie können im Textbereich einen Teil des Textes auswählen und auf „Ein-/Ausschalten“ klicken, um „SCENERY_PACK“ und „SCENERY_PACK_DISABLED“ zu vertauschen.
+ 
+Klicken Sie auf „Speichern“, um den Text des Textbereichs in der Datei zu speichern, die im Aufklappmenü gewählt ist. Bis Sie auf diese Schaltfläche klicken, wird an Ihrer Datei nichts geändert.</translation>
+    </message>
+    <message id="Localisation.RdButtSourceA">
+        <source>Fichier modèle</source>
+        <extracomment>Radio button, room for 104 pixels: about 14 characters.</extracomment>
+        <translation>Modelldatei</translation>
+    </message>
+    <message id="Localisation.Btn_OpenUrl">
+        <source>Ouvrir Url</source>
+        <extracomment>Button, room for 98 pixels: about 13 characters.</extracomment>
+        <translation>URL öffnen</translation>
+    </message>
+    <message id="Localisation.StTextScenPack">
+        <source>scenery_packs.ini</source>
+        <extracomment>A file name: do not translate.</extracomment>
+        <translation>scenery_packs.ini</translation>
+    </message>
+    <message id="Localisation.ChBoxArchive">
+        <source>Sauv anc Spack</source>
+        <extracomment>Check box (copy the old file into the archive folder before saving), room for 104 pixels: about 14 characters.</extracomment>
+        <translation>Alte archivieren</translation>
+    </message>
+    <message id="Localisation.Menu_FichSelFichMod">
+        <source>Selectionner fichier modèle</source>
+        <translation>Modelldatei auswählen</translation>
+    </message>
+    <message id="Localisation.Menu_FichSelDossArchiv">
+        <source>Sélectionner dossier archives</source>
+        <translation>Archivordner auswählen</translation>
+    </message>
+    <message id="Localisation.Menu_FichSelFichScenPack">
+        <source>Selectionner fichier scenery_packs</source>
+        <translation>scenery_packs-Datei auswählen</translation>
+    </message>
+    <message id="Localisation.RdButtSourceB">
+        <source>Url modèle</source>
+        <extracomment>Radio button, room for 104 pixels: about 14 characters.</extracomment>
+        <translation>Modell-URL</translation>
+    </message>
+    <message id="Localisation.Btn_SelectDossier">
+        <source>Sélect dossier</source>
+        <extracomment>Button, room for 98 pixels: about 13 characters.</extracomment>
+        <translation>Ordner wählen</translation>
+    </message>
+    <message id="Localisation.Btn_SelectFichier">
+        <source>Sélect fichier</source>
+        <extracomment>Button, room for 98 pixels: about 13 characters.</extracomment>
+        <translation>Datei wählen</translation>
+    </message>
+    <message id="Localisation.Btn_SauvFichier">
+        <source>Sauv fichier</source>
+        <extracomment>Button and menu item, room for 98 pixels: about 13 characters.</extracomment>
+        <translation>Speichern</translation>
+    </message>
+    <message id="Localisation.Btn_SauvFichier_HT">
+        <source>Sauvegarder le texte affiché ci-dessous dans le fichier sélectionné dans le PopupMenu (donc le modèle ou le Scenery_packs)</source>
+        <translation>Den unten angezeigten Text in der Datei speichern, die im Aufklappmenü gewählt ist (also im Modell oder in scenery_packs)</translation>
+    </message>
+    <message id="Localisation.Btn_Annuler">
+        <source>Annuler</source>
+        <extracomment>Button, room for 88 pixels: about 12 characters.</extracomment>
+        <translation>Abbrechen</translation>
+    </message>
+    <message id="Localisation.Btn_Ok">
+        <source>Ok</source>
+        <extracomment>Button, room for 57 pixels: about 7 characters.</extracomment>
+        <translation>OK</translation>
+    </message>
+    <message id="Localisation.Btn_Fermer">
+        <source>Fermer</source>
+        <extracomment>Button, room for 62 pixels: about 9 characters.</extracomment>
+        <translation>Schließen</translation>
+    </message>
+    <message id="Localisation.Menu_Edit">
+        <source>Édition</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message id="Localisation.Menu_EditClear">
+        <source>Effacer</source>
+        <translation>Löschen</translation>
+    </message>
+    <message id="Localisation.Menu_EditCopy">
+        <source>Copier</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message id="Localisation.Menu_EditCut">
+        <source>Couper</source>
+        <translation>Ausschneiden</translation>
+    </message>
+    <message id="Localisation.Menu_EditPaste">
+        <source>Coller</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message id="Localisation.Menu_EditSelectAll">
+        <source>Tout sélectionner</source>
+        <translation>Alles auswählen</translation>
+    </message>
+    <message id="Localisation.Menu_Fichier">
+        <source>Fichier</source>
+        <translation>Datei</translation>
+    </message>
+    <message id="Localisation.WinAide_Title">
+        <source>Aide</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message id="Localisation.Btn_AffDoss">
+        <source>Affich Dossier</source>
+        <extracomment>Button, room for 108 pixels: about 15 characters.</extracomment>
+        <translation>Ordner zeigen</translation>
+    </message>
+    <message id="Localisation.Btn_AffDoss_HT">
+        <source>Appliqué à la première ligne du texte sélectionné
+Ouvre (révéle sur Mac) l'élément dans le Finder</source>
+        <translation>Gilt für die erste Zeile des ausgewählten Textes
+Öffnet das Objekt (auf dem Mac: zeigt es an) in der Dateiverwaltung</translation>
+    </message>
+    <message id="Localisation.Btn_EnabDis">
+        <source>Activer / Désactiver</source>
+        <extracomment>Button, room for 128 pixels: about 17 characters.</extracomment>
+        <translation>Ein-/Ausschalten</translation>
+    </message>
+    <message id="Localisation.Btn_Select_HT">
+        <source>⇧ clic sur le bouton pour révéler cet élément</source>
+        <translation>Mit ⇧ Umschalt auf die Schaltfläche klicken, um dieses Objekt zu zeigen</translation>
+    </message>
+    <message id="Localisation.Btn_EnabDis_HT">
+        <source>Appliqué au texte sélectionné
+Presser la touche ⇧ pour activer
+Presser la touche ⌃ pour désactiver</source>
+        <translation>Gilt für den ausgewählten Text
+Zum Einschalten die Taste ⇧ Umschalt halten
+Zum Ausschalten die Taste ⌃ Strg halten</translation>
+    </message>
+    <message id="Localisation.Btn_Arreter">
+        <source>Arrêter</source>
+        <extracomment>Button, room for 68 pixels: about 9 characters.</extracomment>
+        <translation>Anhalten</translation>
+    </message>
+    <message id="Localisation.Btn_Generer">
+        <source>Générer</source>
+        <extracomment>Button, room for 114 pixels: about 15 characters.</extracomment>
+        <translation>Erzeugen</translation>
+    </message>
+    <message id="Localisation.Btn_Historic">
+        <source>Historique</source>
+        <translation>Versionsverlauf</translation>
+    </message>
+    <message id="Localisation.Btn_Chercher_HT">
+        <source>Chercher</source>
+        <translation>Suchen</translation>
+    </message>
+    <message id="Localisation.PopupAff">
+        <source>Spack Modèle
+Spack Avant
+Spack Après</source>
+        <extracomment>Three rows of a pop-up menu, room for 96 pixels each: about 13 characters. The texts: the model, the file before and after the run.</extracomment>
+        <translation>Packs Modell
+Packs vorher
+Packs nachher</translation>
+    </message>
+    <message id="Localisation.Txt_ProbLignPresDxFois">
+        <source>Problème, la ligne ci-dessous est présente plus d'une fois :</source>
+        <translation>Problem: Die folgende Zeile kommt mehr als einmal vor:</translation>
+    </message>
+    <message id="Localisation.Txt_ProbLignEquiv">
+        <source>Problème, les lignes ci-dessous sont équivalentes :</source>
+        <translation>Problem: Die folgenden Zeilen sind gleichwertig:</translation>
+    </message>
+    <message id="Localisation.Txt_ScenPlusDuneFois">
+        <source>Ces Sceneries sont plus d'une fois dans le SceneryModel :</source>
+        <translation>Diese Szenerien stehen mehr als einmal im Modell:</translation>
+    </message>
+    <message id="Localisation.Txt_UrlDoitCommencer">
+        <source>L'url devrait commencer avec 'http://' o 'https://'.</source>
+        <translation>Die URL muss mit 'http://' oder 'https://' beginnen.</translation>
+    </message>
+    <message id="Localisation.Txt_DossDsDossPasDsScen">
+        <source>Ces dossiers sont dans le dossier “Custom Scenery” mais pas dans “scenery_packs.ini” :</source>
+        <translation>Diese Ordner liegen im Ordner „Custom Scenery“, stehen aber nicht in „scenery_packs.ini“:</translation>
+    </message>
+    <message id="Localisation.Txt_ScenDsScenIniPasDsDoss">
+        <source>Ces Sceneries sont dans “scenery_packs.ini” mais pas dans le dossier “Custom Scenery” :</source>
+        <translation>Diese Szenerien stehen in „scenery_packs.ini“, liegen aber nicht im Ordner „Custom Scenery“:</translation>
+    </message>
+    <message id="Localisation.Txt_ProblemCompInitFinal">
+        <source>Il y a eu un problème, veuillez comparer le fichier intial avec le fichier final.</source>
+        <translation>Es gab ein Problem. Bitte vergleichen Sie die ursprüngliche mit der endgültigen Datei.</translation>
+    </message>
+    <message id="Localisation.Btn_Cont">
+        <source>Continuer</source>
+        <translation>Fortfahren</translation>
+    </message>
+    <message id="Localisation.Txt_TxtAreaPasScenPack">
+        <source>Le TextArea ne contient pas de scenery_packs.</source>
+        <translation>Der Textbereich enthält keine scenery_packs.</translation>
+    </message>
+    <message id="Localisation.Txt_PasAncFichAsauv">
+        <source>Il n'y a pas d'ancien fichier à sauvegarder.</source>
+        <translation>Es gibt keine alte Datei, die aufzubewahren wäre.</translation>
+    </message>
+    <message id="Localisation.Txt_ImpLocDossSauvAnc">
+        <source>Impossible de localiser le dossier où sauvegarder l'ancien fichier.</source>
+        <translation>Der Ordner für die alte Datei wurde nicht gefunden.</translation>
+    </message>
+    <message id="Localisation.Txt_ImpLocDossSauvFich">
+        <source>Impossible de localiser le dossier où sauvegarder le fichier.</source>
+        <translation>Der Ordner, in dem die Datei gespeichert werden soll, wurde nicht gefunden.</translation>
+    </message>
+    <message id="Localisation.Txt_SurSauv">
+        <source>Êtes-vous sûr de vouloir enregistrer “¿%” comme “¿%” ?</source>
+        <extracomment>The placeholders: the name on screen, the name of the file.</extracomment>
+        <translation>Möchten Sie „¿%“ wirklich als „¿%“ speichern?</translation>
+    </message>
+    <message id="Localisation.Txt_ErreurEcrNouvScen">
+        <source>Erreur pendant l'écriture du nouveau scenery_packs.</source>
+        <translation>Fehler beim Schreiben der neuen scenery_packs.</translation>
+    </message>
+    <message id="Localisation.Txt_ErreurCopiAncScen">
+        <source>Erreur pendant la copie de l'ancien (précédent) scenery_packs.</source>
+        <translation>Fehler beim Kopieren der alten (vorherigen) scenery_packs.</translation>
+    </message>
+    <message id="Localisation.Btn_Quit">
+        <source>Quitter</source>
+        <extracomment>Button, room for 68 pixels: about 9 characters.</extracomment>
+        <translation>Beenden</translation>
+    </message>
+    <message id="Localisation.WinSpecA_Title">
+        <source>Spécial A</source>
+        <extracomment>Window title and button, room for 88 pixels: about 12 characters.</extracomment>
+        <translation>Spezial A</translation>
+    </message>
+    <message id="Localisation.GrBox_HT">
+        <source>Glisser déposer un fichier ici (⇧ clic sur le bouton pour révéler ce fichier dans le Finder)</source>
+        <translation>Eine Datei hierher ziehen (mit ⇧ Umschalt auf die Schaltfläche klicken, um diese Datei in der Dateiverwaltung zu zeigen)</translation>
+    </message>
+    <message id="Localisation.GrBoxSource">
+        <source>Source</source>
+        <translation>Quelle</translation>
+    </message>
+    <message id="Localisation.Btn_ChoisirFich">
+        <source>Choisir fichier…</source>
+        <extracomment>Button, room for 140 pixels: about 19 characters.</extracomment>
+        <translation>Datei wählen…</translation>
+    </message>
+    <message id="Localisation.LabOrg">
+        <source>Original :</source>
+        <extracomment>Label, room for 58 pixels: about 8 characters.</extracomment>
+        <translation>Original:</translation>
+    </message>
+    <message id="Localisation.Btn_Trait">
+        <source>Traiter</source>
+        <extracomment>Button, room for 68 pixels: about 9 characters.</extracomment>
+        <translation>Ausführen</translation>
+    </message>
+    <message id="Localisation.Txt_DropQueFichTxt">
+        <source>Vous ne pouvez glisser déposer qu'un fichier contenant du texte ici.</source>
+        <translation>Hierher kann nur eine Datei gezogen werden, die Text enthält.</translation>
+    </message>
+    <message id="Localisation.Txt_ChoisirUnFich">
+        <source>Choisir un fichier :</source>
+        <translation>Wählen Sie eine Datei:</translation>
+    </message>
+    <message id="Localisation.Txt_SelectQueFichTxt">
+        <source>Vous pouvez seulement sélectionner un fichier texte.</source>
+        <translation>Es kann nur eine Textdatei ausgewählt werden.</translation>
+    </message>
+    <message id="Localisation.LabDest1">
+        <source>Dest 1 :</source>
+        <extracomment>Label, room for 58 pixels: about 8 characters.</extracomment>
+        <translation>Ziel 1:</translation>
+    </message>
+    <message id="Localisation.LabDest2">
+        <source>Dest 2 :</source>
+        <extracomment>Label, room for 58 pixels: about 8 characters.</extracomment>
+        <translation>Ziel 2:</translation>
+    </message>
+    <message id="Localisation.Txt_Attente">
+        <source>…</source>
+        <translation>…</translation>
+    </message>
+    <message id="Localisation.Txt_FichOrgNonDef">
+        <source>Le fichier original n'existe pas.</source>
+        <translation>Die Originaldatei existiert nicht.</translation>
+    </message>
+    <message id="Localisation.Txt_NomExiste">
+        <source>Un fichier nommé “¿%” existe déjà.</source>
+        <extracomment>The placeholder: the name of a file.</extracomment>
+        <translation>Eine Datei namens „¿%“ existiert bereits.</translation>
+    </message>
+    <message id="Localisation.Txt_Rempl_Imposs">
+        <source>Remplacement impossible !</source>
+        <translation>Ersetzen nicht möglich!</translation>
+    </message>
+    <message id="Localisation.Txt_ErreurEcritFich">
+        <source>Il y a eu une erreur pendant l'écriture du fichier.</source>
+        <translation>Beim Schreiben der Datei ist ein Fehler aufgetreten.</translation>
+    </message>
+    <message id="Localisation.Txt_FichPasModif">
+        <source>Le fichier n'a pas été modifié, souhaitez-vous l'enregistrer tout de même ?</source>
+        <translation>Die Datei wurde nicht geändert. Möchten Sie sie trotzdem speichern?</translation>
+    </message>
+    <message id="Localisation.Btn_Remplacer">
+        <source>Remplacer</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message id="Localisation.Btn_NePasRempl">
+        <source>Ne pas remplacer</source>
+        <translation>Nicht ersetzen</translation>
+    </message>
+    <message id="Localisation.Txt_NbTrouv">
+        <source>Nombre de fois où les textes cherchés ont été trouvés :</source>
+        <translation>So oft wurden die gesuchten Texte gefunden:</translation>
+    </message>
+    <message id="Localisation.Btn_CopiList_HT">
+        <source>Copier la liste dans le presse-papiers</source>
+        <translation>Die Liste in die Zwischenablage kopieren</translation>
+    </message>
+    <message id="Localisation.Pref_ChBoxAffBtnSpecA">
+        <source>Afficher bouton “Spécial A”</source>
+        <extracomment>Check box, room for 338 pixels: about 46 characters.</extracomment>
+        <translation>Schaltfläche „Spezial A“ anzeigen</translation>
+    </message>
+    <message id="Localisation.Menu_Preferences">
+        <source>Préférences…</source>
+        <translation>Einstellungen…</translation>
+    </message>
+    <message id="Localisation.WinPref_Title">
+        <source>Préférences</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message id="Localisation.StText_VolSfx">
+        <source>Effets sonores :</source>
+        <extracomment>Label, room for 130 pixels: about 17 characters.</extracomment>
+        <translation>Klangeffekte:</translation>
+    </message>
+    <message id="Localisation.Btn_Aide_HT">
+        <source>Cette version a été compilée pour ¿% le ¿%</source>
+        <extracomment>The placeholders: the kind of build, its date.</extracomment>
+        <translation>Diese Version wurde kompiliert für ¿% am ¿%</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,380 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="fr">
+<context>
+    <name></name>
+    <message id="Localisation.Infos_Texte">
+        <source>Ce programme gère le fichier “scenery_packs.ini” d'X-Plane.
+ 
+Sélectionnez le fichier Modèle qui contient le scenery dans le bon ordre. Ou sélectionnez le chemin de l'Url vers un fichier Modèle.
+ 
+Éventuellement, sélectionnez un dossier pour sauvegarder l'ancien “scenery_packs.ini”.
+ 
+Sélectionnez le fichier “scenery_packs.ini” de votre dossier X-Plane, ce fichier sera réordonné.
+ 
+Cliquez Lancer.
+ 
+Sélectionnez “Spack After” dans le PopupMenu. Si certaines lignes sont colorées, cela signifie qu'elles sont dans “scenery_packs.ini” mais pas dans le scenery Modèle.
+Quand “Spack Mod” est sélectionné, si certaines lignes sont colorées, cela signifie qu'elles sont dans le scenery Modèle mais pas dans “scenery_packs.ini”.
+ 
+Vous pouvez sélectionner une partie du texte dans la Zone de Texte et cliquez le bouton “Enable/Disable” pour inverser “SCENERY_PACK” et “SCENERY_PACK_DISABLED”.
+ 
+Cliquez le bouton “Sauver” pour sauvegarder le texte contenu dans la zone de texte dans le fichier sélectionné dans le PopupMenu. Rien ne sera modifié dans votre fichier jusqu'à ce que vous cliquiez ce bouton.</source>
+        <extracomment>The help text. Lines of a single blank stay as they are; buttons are named as they are translated below.</extracomment>
+        <translation>This program takes care of X-Plane's “scenery_packs.ini” file.
+ 
+Select the model file, which lists the sceneries in the right order. Or choose “Model URL” and give the URL of a model file.
+ 
+If you like, select a folder that keeps a copy of the old “scenery_packs.ini”.
+ 
+Select the “scenery_packs.ini” file of your X-Plane folder: this is the file that will be reordered.
+ 
+Click “Generate”.
+ 
+Select “Packs after” in the pop-up menu. Coloured lines are in “scenery_packs.ini” but not in the model.
+When “Packs model” is selected, coloured lines are in the model but not in “scenery_packs.ini”.
+ 
+You can select a part of the text in the text area and click the “Enable / Disable” button to swap “SCENERY_PACK” and “SCENERY_PACK_DISABLED”.
+ 
+Click the “Save file” button to save the text of the text area to the file selected in the pop-up menu. Nothing changes in your file until you click this button.</translation>
+    </message>
+    <message id="Localisation.RdButtSourceA">
+        <source>Fichier modèle</source>
+        <extracomment>Radio button, room for 104 pixels: about 14 characters.</extracomment>
+        <translation>Model file</translation>
+    </message>
+    <message id="Localisation.Btn_OpenUrl">
+        <source>Ouvrir Url</source>
+        <extracomment>Button, room for 98 pixels: about 13 characters.</extracomment>
+        <translation>Open URL</translation>
+    </message>
+    <message id="Localisation.StTextScenPack">
+        <source>scenery_packs.ini</source>
+        <extracomment>A file name: do not translate.</extracomment>
+        <translation>scenery_packs.ini</translation>
+    </message>
+    <message id="Localisation.ChBoxArchive">
+        <source>Sauv anc Spack</source>
+        <extracomment>Check box (copy the old file into the archive folder before saving), room for 104 pixels: about 14 characters.</extracomment>
+        <translation>Back up old file</translation>
+    </message>
+    <message id="Localisation.Menu_FichSelFichMod">
+        <source>Selectionner fichier modèle</source>
+        <translation>Select model file</translation>
+    </message>
+    <message id="Localisation.Menu_FichSelDossArchiv">
+        <source>Sélectionner dossier archives</source>
+        <translation>Select archive folder</translation>
+    </message>
+    <message id="Localisation.Menu_FichSelFichScenPack">
+        <source>Selectionner fichier scenery_packs</source>
+        <translation>Select scenery_packs file</translation>
+    </message>
+    <message id="Localisation.RdButtSourceB">
+        <source>Url modèle</source>
+        <extracomment>Radio button, room for 104 pixels: about 14 characters.</extracomment>
+        <translation>Model URL</translation>
+    </message>
+    <message id="Localisation.Btn_SelectDossier">
+        <source>Sélect dossier</source>
+        <extracomment>Button, room for 98 pixels: about 13 characters.</extracomment>
+        <translation>Select folder</translation>
+    </message>
+    <message id="Localisation.Btn_SelectFichier">
+        <source>Sélect fichier</source>
+        <extracomment>Button, room for 98 pixels: about 13 characters.</extracomment>
+        <translation>Select file</translation>
+    </message>
+    <message id="Localisation.Btn_SauvFichier">
+        <source>Sauv fichier</source>
+        <extracomment>Button and menu item, room for 98 pixels: about 13 characters.</extracomment>
+        <translation>Save file</translation>
+    </message>
+    <message id="Localisation.Btn_SauvFichier_HT">
+        <source>Sauvegarder le texte affiché ci-dessous dans le fichier sélectionné dans le PopupMenu (donc le modèle ou le Scenery_packs)</source>
+        <translation>Save the text shown below to the file selected in the pop-up menu (that is, the model or the scenery_packs)</translation>
+    </message>
+    <message id="Localisation.Btn_Annuler">
+        <source>Annuler</source>
+        <extracomment>Button, room for 88 pixels: about 12 characters.</extracomment>
+        <translation>Cancel</translation>
+    </message>
+    <message id="Localisation.Btn_Ok">
+        <source>Ok</source>
+        <extracomment>Button, room for 57 pixels: about 7 characters.</extracomment>
+        <translation>OK</translation>
+    </message>
+    <message id="Localisation.Btn_Fermer">
+        <source>Fermer</source>
+        <extracomment>Button, room for 62 pixels: about 9 characters.</extracomment>
+        <translation>Close</translation>
+    </message>
+    <message id="Localisation.Menu_Edit">
+        <source>Édition</source>
+        <translation>Edit</translation>
+    </message>
+    <message id="Localisation.Menu_EditClear">
+        <source>Effacer</source>
+        <translation>Delete</translation>
+    </message>
+    <message id="Localisation.Menu_EditCopy">
+        <source>Copier</source>
+        <translation>Copy</translation>
+    </message>
+    <message id="Localisation.Menu_EditCut">
+        <source>Couper</source>
+        <translation>Cut</translation>
+    </message>
+    <message id="Localisation.Menu_EditPaste">
+        <source>Coller</source>
+        <translation>Paste</translation>
+    </message>
+    <message id="Localisation.Menu_EditSelectAll">
+        <source>Tout sélectionner</source>
+        <translation>Select All</translation>
+    </message>
+    <message id="Localisation.Menu_Fichier">
+        <source>Fichier</source>
+        <translation>File</translation>
+    </message>
+    <message id="Localisation.WinAide_Title">
+        <source>Aide</source>
+        <translation>Help</translation>
+    </message>
+    <message id="Localisation.Btn_AffDoss">
+        <source>Affich Dossier</source>
+        <extracomment>Button, room for 108 pixels: about 15 characters.</extracomment>
+        <translation>Show folder</translation>
+    </message>
+    <message id="Localisation.Btn_AffDoss_HT">
+        <source>Appliqué à la première ligne du texte sélectionné
+Ouvre (révéle sur Mac) l'élément dans le Finder</source>
+        <translation>Applies to the first line of the selected text
+Opens the item (on a Mac: reveals it) in the file manager</translation>
+    </message>
+    <message id="Localisation.Btn_EnabDis">
+        <source>Activer / Désactiver</source>
+        <extracomment>Button, room for 128 pixels: about 17 characters.</extracomment>
+        <translation>Enable / Disable</translation>
+    </message>
+    <message id="Localisation.Btn_Select_HT">
+        <source>⇧ clic sur le bouton pour révéler cet élément</source>
+        <translation>⇧ Shift-click the button to reveal this item</translation>
+    </message>
+    <message id="Localisation.Btn_EnabDis_HT">
+        <source>Appliqué au texte sélectionné
+Presser la touche ⇧ pour activer
+Presser la touche ⌃ pour désactiver</source>
+        <translation>Applies to the selected text
+Hold down ⇧ Shift to enable
+Hold down ⌃ Control to disable</translation>
+    </message>
+    <message id="Localisation.Btn_Arreter">
+        <source>Arrêter</source>
+        <extracomment>Button, room for 68 pixels: about 9 characters.</extracomment>
+        <translation>Stop</translation>
+    </message>
+    <message id="Localisation.Btn_Generer">
+        <source>Générer</source>
+        <extracomment>Button, room for 114 pixels: about 15 characters.</extracomment>
+        <translation>Generate</translation>
+    </message>
+    <message id="Localisation.Btn_Historic">
+        <source>Historique</source>
+        <translation>Version history</translation>
+    </message>
+    <message id="Localisation.Btn_Chercher_HT">
+        <source>Chercher</source>
+        <translation>Search</translation>
+    </message>
+    <message id="Localisation.PopupAff">
+        <source>Spack Modèle
+Spack Avant
+Spack Après</source>
+        <extracomment>Three rows of a pop-up menu, room for 96 pixels each: about 13 characters. The texts: the model, the file before and after the run.</extracomment>
+        <translation>Packs model
+Packs before
+Packs after</translation>
+    </message>
+    <message id="Localisation.Txt_ProbLignPresDxFois">
+        <source>Problème, la ligne ci-dessous est présente plus d'une fois :</source>
+        <translation>Problem: the line below is present more than once:</translation>
+    </message>
+    <message id="Localisation.Txt_ProbLignEquiv">
+        <source>Problème, les lignes ci-dessous sont équivalentes :</source>
+        <translation>Problem: the lines below are equivalent:</translation>
+    </message>
+    <message id="Localisation.Txt_ScenPlusDuneFois">
+        <source>Ces Sceneries sont plus d'une fois dans le SceneryModel :</source>
+        <translation>These sceneries are in the model more than once:</translation>
+    </message>
+    <message id="Localisation.Txt_UrlDoitCommencer">
+        <source>L'url devrait commencer avec 'http://' o 'https://'.</source>
+        <translation>The URL should begin with 'http://' or 'https://'.</translation>
+    </message>
+    <message id="Localisation.Txt_DossDsDossPasDsScen">
+        <source>Ces dossiers sont dans le dossier “Custom Scenery” mais pas dans “scenery_packs.ini” :</source>
+        <translation>These folders are in the “Custom Scenery” folder but not in “scenery_packs.ini”:</translation>
+    </message>
+    <message id="Localisation.Txt_ScenDsScenIniPasDsDoss">
+        <source>Ces Sceneries sont dans “scenery_packs.ini” mais pas dans le dossier “Custom Scenery” :</source>
+        <translation>These sceneries are in “scenery_packs.ini” but not in the “Custom Scenery” folder:</translation>
+    </message>
+    <message id="Localisation.Txt_ProblemCompInitFinal">
+        <source>Il y a eu un problème, veuillez comparer le fichier intial avec le fichier final.</source>
+        <translation>There was a problem; please compare the initial file with the final file.</translation>
+    </message>
+    <message id="Localisation.Btn_Cont">
+        <source>Continuer</source>
+        <translation>Continue</translation>
+    </message>
+    <message id="Localisation.Txt_TxtAreaPasScenPack">
+        <source>Le TextArea ne contient pas de scenery_packs.</source>
+        <translation>The text area does not hold a scenery_packs.</translation>
+    </message>
+    <message id="Localisation.Txt_PasAncFichAsauv">
+        <source>Il n'y a pas d'ancien fichier à sauvegarder.</source>
+        <translation>There is no old file to keep.</translation>
+    </message>
+    <message id="Localisation.Txt_ImpLocDossSauvAnc">
+        <source>Impossible de localiser le dossier où sauvegarder l'ancien fichier.</source>
+        <translation>The folder for the old file cannot be found.</translation>
+    </message>
+    <message id="Localisation.Txt_ImpLocDossSauvFich">
+        <source>Impossible de localiser le dossier où sauvegarder le fichier.</source>
+        <translation>The folder to save the file in cannot be found.</translation>
+    </message>
+    <message id="Localisation.Txt_SurSauv">
+        <source>Êtes-vous sûr de vouloir enregistrer “¿%” comme “¿%” ?</source>
+        <extracomment>The placeholders: the name on screen, the name of the file.</extracomment>
+        <translation>Are you sure that you want to save “¿%” as “¿%”?</translation>
+    </message>
+    <message id="Localisation.Txt_ErreurEcrNouvScen">
+        <source>Erreur pendant l'écriture du nouveau scenery_packs.</source>
+        <translation>Error while writing the new scenery_packs.</translation>
+    </message>
+    <message id="Localisation.Txt_ErreurCopiAncScen">
+        <source>Erreur pendant la copie de l'ancien (précédent) scenery_packs.</source>
+        <translation>Error while copying the old (previous) scenery_packs.</translation>
+    </message>
+    <message id="Localisation.Btn_Quit">
+        <source>Quitter</source>
+        <extracomment>Button, room for 68 pixels: about 9 characters.</extracomment>
+        <translation>Quit</translation>
+    </message>
+    <message id="Localisation.WinSpecA_Title">
+        <source>Spécial A</source>
+        <extracomment>Window title and button, room for 88 pixels: about 12 characters.</extracomment>
+        <translation>Special A</translation>
+    </message>
+    <message id="Localisation.GrBox_HT">
+        <source>Glisser déposer un fichier ici (⇧ clic sur le bouton pour révéler ce fichier dans le Finder)</source>
+        <translation>Drag and drop a file here (⇧ Shift-click the button to reveal this file in the file manager)</translation>
+    </message>
+    <message id="Localisation.GrBoxSource">
+        <source>Source</source>
+        <translation>Source</translation>
+    </message>
+    <message id="Localisation.Btn_ChoisirFich">
+        <source>Choisir fichier…</source>
+        <extracomment>Button, room for 140 pixels: about 19 characters.</extracomment>
+        <translation>Choose file…</translation>
+    </message>
+    <message id="Localisation.LabOrg">
+        <source>Original :</source>
+        <extracomment>Label, room for 58 pixels: about 8 characters.</extracomment>
+        <translation>Original:</translation>
+    </message>
+    <message id="Localisation.Btn_Trait">
+        <source>Traiter</source>
+        <extracomment>Button, room for 68 pixels: about 9 characters.</extracomment>
+        <translation>Process</translation>
+    </message>
+    <message id="Localisation.Txt_DropQueFichTxt">
+        <source>Vous ne pouvez glisser déposer qu'un fichier contenant du texte ici.</source>
+        <translation>Only a file that holds text can be dropped here.</translation>
+    </message>
+    <message id="Localisation.Txt_ChoisirUnFich">
+        <source>Choisir un fichier :</source>
+        <translation>Choose a file:</translation>
+    </message>
+    <message id="Localisation.Txt_SelectQueFichTxt">
+        <source>Vous pouvez seulement sélectionner un fichier texte.</source>
+        <translation>Only a text file can be selected.</translation>
+    </message>
+    <message id="Localisation.LabDest1">
+        <source>Dest 1 :</source>
+        <extracomment>Label, room for 58 pixels: about 8 characters.</extracomment>
+        <translation>Dest. 1:</translation>
+    </message>
+    <message id="Localisation.LabDest2">
+        <source>Dest 2 :</source>
+        <extracomment>Label, room for 58 pixels: about 8 characters.</extracomment>
+        <translation>Dest. 2:</translation>
+    </message>
+    <message id="Localisation.Txt_Attente">
+        <source>…</source>
+        <translation>…</translation>
+    </message>
+    <message id="Localisation.Txt_FichOrgNonDef">
+        <source>Le fichier original n'existe pas.</source>
+        <translation>The original file does not exist.</translation>
+    </message>
+    <message id="Localisation.Txt_NomExiste">
+        <source>Un fichier nommé “¿%” existe déjà.</source>
+        <extracomment>The placeholder: the name of a file.</extracomment>
+        <translation>A file named “¿%” already exists.</translation>
+    </message>
+    <message id="Localisation.Txt_Rempl_Imposs">
+        <source>Remplacement impossible !</source>
+        <translation>The replacement is impossible!</translation>
+    </message>
+    <message id="Localisation.Txt_ErreurEcritFich">
+        <source>Il y a eu une erreur pendant l'écriture du fichier.</source>
+        <translation>There was an error while writing the file.</translation>
+    </message>
+    <message id="Localisation.Txt_FichPasModif">
+        <source>Le fichier n'a pas été modifié, souhaitez-vous l'enregistrer tout de même ?</source>
+        <translation>The file was not changed. Do you want to save it all the same?</translation>
+    </message>
+    <message id="Localisation.Btn_Remplacer">
+        <source>Remplacer</source>
+        <translation>Replace</translation>
+    </message>
+    <message id="Localisation.Btn_NePasRempl">
+        <source>Ne pas remplacer</source>
+        <translation>Don't Replace</translation>
+    </message>
+    <message id="Localisation.Txt_NbTrouv">
+        <source>Nombre de fois où les textes cherchés ont été trouvés :</source>
+        <translation>Number of times that the searched texts were found:</translation>
+    </message>
+    <message id="Localisation.Btn_CopiList_HT">
+        <source>Copier la liste dans le presse-papiers</source>
+        <translation>Copy the list to the clipboard</translation>
+    </message>
+    <message id="Localisation.Pref_ChBoxAffBtnSpecA">
+        <source>Afficher bouton “Spécial A”</source>
+        <extracomment>Check box, room for 338 pixels: about 46 characters.</extracomment>
+        <translation>Show the “Special A” button</translation>
+    </message>
+    <message id="Localisation.Menu_Preferences">
+        <source>Préférences…</source>
+        <translation>Preferences…</translation>
+    </message>
+    <message id="Localisation.WinPref_Title">
+        <source>Préférences</source>
+        <translation>Preferences</translation>
+    </message>
+    <message id="Localisation.StText_VolSfx">
+        <source>Effets sonores :</source>
+        <extracomment>Label, room for 130 pixels: about 17 characters.</extracomment>
+        <translation>Sound effects:</translation>
+    </message>
+    <message id="Localisation.Btn_Aide_HT">
+        <source>Cette version a été compilée pour ¿% le ¿%</source>
+        <extracomment>The placeholders: the kind of build, its date.</extracomment>
+        <translation>This version was compiled for ¿% on ¿%</translation>
+    </message>
+</context>
+</TS>

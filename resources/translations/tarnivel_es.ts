@@ -1,0 +1,380 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="fr">
+<context>
+    <name></name>
+    <message id="Localisation.Infos_Texte">
+        <source>Ce programme gère le fichier “scenery_packs.ini” d'X-Plane.
+ 
+Sélectionnez le fichier Modèle qui contient le scenery dans le bon ordre. Ou sélectionnez le chemin de l'Url vers un fichier Modèle.
+ 
+Éventuellement, sélectionnez un dossier pour sauvegarder l'ancien “scenery_packs.ini”.
+ 
+Sélectionnez le fichier “scenery_packs.ini” de votre dossier X-Plane, ce fichier sera réordonné.
+ 
+Cliquez Lancer.
+ 
+Sélectionnez “Spack After” dans le PopupMenu. Si certaines lignes sont colorées, cela signifie qu'elles sont dans “scenery_packs.ini” mais pas dans le scenery Modèle.
+Quand “Spack Mod” est sélectionné, si certaines lignes sont colorées, cela signifie qu'elles sont dans le scenery Modèle mais pas dans “scenery_packs.ini”.
+ 
+Vous pouvez sélectionner une partie du texte dans la Zone de Texte et cliquez le bouton “Enable/Disable” pour inverser “SCENERY_PACK” et “SCENERY_PACK_DISABLED”.
+ 
+Cliquez le bouton “Sauver” pour sauvegarder le texte contenu dans la zone de texte dans le fichier sélectionné dans le PopupMenu. Rien ne sera modifié dans votre fichier jusqu'à ce que vous cliquiez ce bouton.</source>
+        <extracomment>The help text. Lines of a single blank stay as they are; buttons are named as they are translated below.</extracomment>
+        <translation>Este programa gestiona el archivo “scenery_packs.ini” de X-Plane.
+ 
+Seleccione el archivo modelo, que contiene los escenarios en el orden correcto. O elija “URL modelo” e indique la URL de un archivo modelo.
+ 
+Si lo desea, seleccione una carpeta para guardar el antiguo “scenery_packs.ini”.
+ 
+Seleccione el archivo “scenery_packs.ini” de su carpeta de X-Plane: este es el archivo que se reordenará.
+ 
+Pulse “Generar”.
+ 
+Seleccione “Packs después” en el menú emergente. Las líneas de color están en “scenery_packs.ini” pero no en el modelo.
+Cuando está seleccionado “Packs modelo”, las líneas de color están en el modelo pero no en “scenery_packs.ini”.
+ 
+Puede seleccionar una parte del texto en el área de texto y pulsar el botón “Activar / Desactivar” para intercambiar “SCENERY_PACK” y “SCENERY_PACK_DISABLED”.
+ 
+Pulse el botón “Guardar” para guardar el texto del área de texto en el archivo seleccionado en el menú emergente. Nada cambia en su archivo hasta que pulse este botón.</translation>
+    </message>
+    <message id="Localisation.RdButtSourceA">
+        <source>Fichier modèle</source>
+        <extracomment>Radio button, room for 104 pixels: about 14 characters.</extracomment>
+        <translation>Archivo modelo</translation>
+    </message>
+    <message id="Localisation.Btn_OpenUrl">
+        <source>Ouvrir Url</source>
+        <extracomment>Button, room for 98 pixels: about 13 characters.</extracomment>
+        <translation>Abrir URL</translation>
+    </message>
+    <message id="Localisation.StTextScenPack">
+        <source>scenery_packs.ini</source>
+        <extracomment>A file name: do not translate.</extracomment>
+        <translation>scenery_packs.ini</translation>
+    </message>
+    <message id="Localisation.ChBoxArchive">
+        <source>Sauv anc Spack</source>
+        <extracomment>Check box (copy the old file into the archive folder before saving), room for 104 pixels: about 14 characters.</extracomment>
+        <translation>Archivar antiguo</translation>
+    </message>
+    <message id="Localisation.Menu_FichSelFichMod">
+        <source>Selectionner fichier modèle</source>
+        <translation>Seleccionar archivo modelo</translation>
+    </message>
+    <message id="Localisation.Menu_FichSelDossArchiv">
+        <source>Sélectionner dossier archives</source>
+        <translation>Seleccionar carpeta de archivado</translation>
+    </message>
+    <message id="Localisation.Menu_FichSelFichScenPack">
+        <source>Selectionner fichier scenery_packs</source>
+        <translation>Seleccionar archivo scenery_packs</translation>
+    </message>
+    <message id="Localisation.RdButtSourceB">
+        <source>Url modèle</source>
+        <extracomment>Radio button, room for 104 pixels: about 14 characters.</extracomment>
+        <translation>URL modelo</translation>
+    </message>
+    <message id="Localisation.Btn_SelectDossier">
+        <source>Sélect dossier</source>
+        <extracomment>Button, room for 98 pixels: about 13 characters.</extracomment>
+        <translation>Elegir carpeta</translation>
+    </message>
+    <message id="Localisation.Btn_SelectFichier">
+        <source>Sélect fichier</source>
+        <extracomment>Button, room for 98 pixels: about 13 characters.</extracomment>
+        <translation>Elegir archivo</translation>
+    </message>
+    <message id="Localisation.Btn_SauvFichier">
+        <source>Sauv fichier</source>
+        <extracomment>Button and menu item, room for 98 pixels: about 13 characters.</extracomment>
+        <translation>Guardar</translation>
+    </message>
+    <message id="Localisation.Btn_SauvFichier_HT">
+        <source>Sauvegarder le texte affiché ci-dessous dans le fichier sélectionné dans le PopupMenu (donc le modèle ou le Scenery_packs)</source>
+        <translation>Guardar el texto mostrado abajo en el archivo seleccionado en el menú emergente (es decir, el modelo o el scenery_packs)</translation>
+    </message>
+    <message id="Localisation.Btn_Annuler">
+        <source>Annuler</source>
+        <extracomment>Button, room for 88 pixels: about 12 characters.</extracomment>
+        <translation>Cancelar</translation>
+    </message>
+    <message id="Localisation.Btn_Ok">
+        <source>Ok</source>
+        <extracomment>Button, room for 57 pixels: about 7 characters.</extracomment>
+        <translation>Aceptar</translation>
+    </message>
+    <message id="Localisation.Btn_Fermer">
+        <source>Fermer</source>
+        <extracomment>Button, room for 62 pixels: about 9 characters.</extracomment>
+        <translation>Cerrar</translation>
+    </message>
+    <message id="Localisation.Menu_Edit">
+        <source>Édition</source>
+        <translation>Edición</translation>
+    </message>
+    <message id="Localisation.Menu_EditClear">
+        <source>Effacer</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message id="Localisation.Menu_EditCopy">
+        <source>Copier</source>
+        <translation>Copiar</translation>
+    </message>
+    <message id="Localisation.Menu_EditCut">
+        <source>Couper</source>
+        <translation>Cortar</translation>
+    </message>
+    <message id="Localisation.Menu_EditPaste">
+        <source>Coller</source>
+        <translation>Pegar</translation>
+    </message>
+    <message id="Localisation.Menu_EditSelectAll">
+        <source>Tout sélectionner</source>
+        <translation>Seleccionar todo</translation>
+    </message>
+    <message id="Localisation.Menu_Fichier">
+        <source>Fichier</source>
+        <translation>Archivo</translation>
+    </message>
+    <message id="Localisation.WinAide_Title">
+        <source>Aide</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message id="Localisation.Btn_AffDoss">
+        <source>Affich Dossier</source>
+        <extracomment>Button, room for 108 pixels: about 15 characters.</extracomment>
+        <translation>Mostrar carpeta</translation>
+    </message>
+    <message id="Localisation.Btn_AffDoss_HT">
+        <source>Appliqué à la première ligne du texte sélectionné
+Ouvre (révéle sur Mac) l'élément dans le Finder</source>
+        <translation>Se aplica a la primera línea del texto seleccionado
+Abre el elemento (en un Mac: lo muestra) en el gestor de archivos</translation>
+    </message>
+    <message id="Localisation.Btn_EnabDis">
+        <source>Activer / Désactiver</source>
+        <extracomment>Button, room for 128 pixels: about 17 characters.</extracomment>
+        <translation>Activar / Desactivar</translation>
+    </message>
+    <message id="Localisation.Btn_Select_HT">
+        <source>⇧ clic sur le bouton pour révéler cet élément</source>
+        <translation>⇧ Mayús + clic en el botón para mostrar este elemento</translation>
+    </message>
+    <message id="Localisation.Btn_EnabDis_HT">
+        <source>Appliqué au texte sélectionné
+Presser la touche ⇧ pour activer
+Presser la touche ⌃ pour désactiver</source>
+        <translation>Se aplica al texto seleccionado
+Mantenga pulsada la tecla ⇧ Mayús para activar
+Mantenga pulsada la tecla ⌃ Control para desactivar</translation>
+    </message>
+    <message id="Localisation.Btn_Arreter">
+        <source>Arrêter</source>
+        <extracomment>Button, room for 68 pixels: about 9 characters.</extracomment>
+        <translation>Detener</translation>
+    </message>
+    <message id="Localisation.Btn_Generer">
+        <source>Générer</source>
+        <extracomment>Button, room for 114 pixels: about 15 characters.</extracomment>
+        <translation>Generar</translation>
+    </message>
+    <message id="Localisation.Btn_Historic">
+        <source>Historique</source>
+        <translation>Historial de versiones</translation>
+    </message>
+    <message id="Localisation.Btn_Chercher_HT">
+        <source>Chercher</source>
+        <translation>Buscar</translation>
+    </message>
+    <message id="Localisation.PopupAff">
+        <source>Spack Modèle
+Spack Avant
+Spack Après</source>
+        <extracomment>Three rows of a pop-up menu, room for 96 pixels each: about 13 characters. The texts: the model, the file before and after the run.</extracomment>
+        <translation>Packs modelo
+Packs antes
+Packs después</translation>
+    </message>
+    <message id="Localisation.Txt_ProbLignPresDxFois">
+        <source>Problème, la ligne ci-dessous est présente plus d'une fois :</source>
+        <translation>Problema: la línea siguiente está presente más de una vez:</translation>
+    </message>
+    <message id="Localisation.Txt_ProbLignEquiv">
+        <source>Problème, les lignes ci-dessous sont équivalentes :</source>
+        <translation>Problema: las líneas siguientes son equivalentes:</translation>
+    </message>
+    <message id="Localisation.Txt_ScenPlusDuneFois">
+        <source>Ces Sceneries sont plus d'une fois dans le SceneryModel :</source>
+        <translation>Estos escenarios están más de una vez en el modelo:</translation>
+    </message>
+    <message id="Localisation.Txt_UrlDoitCommencer">
+        <source>L'url devrait commencer avec 'http://' o 'https://'.</source>
+        <translation>La URL debería empezar por 'http://' o 'https://'.</translation>
+    </message>
+    <message id="Localisation.Txt_DossDsDossPasDsScen">
+        <source>Ces dossiers sont dans le dossier “Custom Scenery” mais pas dans “scenery_packs.ini” :</source>
+        <translation>Estas carpetas están en la carpeta “Custom Scenery” pero no en “scenery_packs.ini”:</translation>
+    </message>
+    <message id="Localisation.Txt_ScenDsScenIniPasDsDoss">
+        <source>Ces Sceneries sont dans “scenery_packs.ini” mais pas dans le dossier “Custom Scenery” :</source>
+        <translation>Estos escenarios están en “scenery_packs.ini” pero no en la carpeta “Custom Scenery”:</translation>
+    </message>
+    <message id="Localisation.Txt_ProblemCompInitFinal">
+        <source>Il y a eu un problème, veuillez comparer le fichier intial avec le fichier final.</source>
+        <translation>Ha habido un problema; compare el archivo inicial con el archivo final.</translation>
+    </message>
+    <message id="Localisation.Btn_Cont">
+        <source>Continuer</source>
+        <translation>Continuar</translation>
+    </message>
+    <message id="Localisation.Txt_TxtAreaPasScenPack">
+        <source>Le TextArea ne contient pas de scenery_packs.</source>
+        <translation>El área de texto no contiene un scenery_packs.</translation>
+    </message>
+    <message id="Localisation.Txt_PasAncFichAsauv">
+        <source>Il n'y a pas d'ancien fichier à sauvegarder.</source>
+        <translation>No hay ningún archivo antiguo que guardar.</translation>
+    </message>
+    <message id="Localisation.Txt_ImpLocDossSauvAnc">
+        <source>Impossible de localiser le dossier où sauvegarder l'ancien fichier.</source>
+        <translation>No se encuentra la carpeta donde guardar el archivo antiguo.</translation>
+    </message>
+    <message id="Localisation.Txt_ImpLocDossSauvFich">
+        <source>Impossible de localiser le dossier où sauvegarder le fichier.</source>
+        <translation>No se encuentra la carpeta donde guardar el archivo.</translation>
+    </message>
+    <message id="Localisation.Txt_SurSauv">
+        <source>Êtes-vous sûr de vouloir enregistrer “¿%” comme “¿%” ?</source>
+        <extracomment>The placeholders: the name on screen, the name of the file.</extracomment>
+        <translation>¿Seguro que desea guardar “¿%” como “¿%”?</translation>
+    </message>
+    <message id="Localisation.Txt_ErreurEcrNouvScen">
+        <source>Erreur pendant l'écriture du nouveau scenery_packs.</source>
+        <translation>Error al escribir el nuevo scenery_packs.</translation>
+    </message>
+    <message id="Localisation.Txt_ErreurCopiAncScen">
+        <source>Erreur pendant la copie de l'ancien (précédent) scenery_packs.</source>
+        <translation>Error al copiar el antiguo (anterior) scenery_packs.</translation>
+    </message>
+    <message id="Localisation.Btn_Quit">
+        <source>Quitter</source>
+        <extracomment>Button, room for 68 pixels: about 9 characters.</extracomment>
+        <translation>Salir</translation>
+    </message>
+    <message id="Localisation.WinSpecA_Title">
+        <source>Spécial A</source>
+        <extracomment>Window title and button, room for 88 pixels: about 12 characters.</extracomment>
+        <translation>Especial A</translation>
+    </message>
+    <message id="Localisation.GrBox_HT">
+        <source>Glisser déposer un fichier ici (⇧ clic sur le bouton pour révéler ce fichier dans le Finder)</source>
+        <translation>Arrastre y suelte un archivo aquí (⇧ Mayús + clic en el botón para mostrar este archivo en el gestor de archivos)</translation>
+    </message>
+    <message id="Localisation.GrBoxSource">
+        <source>Source</source>
+        <translation>Origen</translation>
+    </message>
+    <message id="Localisation.Btn_ChoisirFich">
+        <source>Choisir fichier…</source>
+        <extracomment>Button, room for 140 pixels: about 19 characters.</extracomment>
+        <translation>Elegir archivo…</translation>
+    </message>
+    <message id="Localisation.LabOrg">
+        <source>Original :</source>
+        <extracomment>Label, room for 58 pixels: about 8 characters.</extracomment>
+        <translation>Original:</translation>
+    </message>
+    <message id="Localisation.Btn_Trait">
+        <source>Traiter</source>
+        <extracomment>Button, room for 68 pixels: about 9 characters.</extracomment>
+        <translation>Procesar</translation>
+    </message>
+    <message id="Localisation.Txt_DropQueFichTxt">
+        <source>Vous ne pouvez glisser déposer qu'un fichier contenant du texte ici.</source>
+        <translation>Aquí solo puede soltar un archivo que contenga texto.</translation>
+    </message>
+    <message id="Localisation.Txt_ChoisirUnFich">
+        <source>Choisir un fichier :</source>
+        <translation>Elija un archivo:</translation>
+    </message>
+    <message id="Localisation.Txt_SelectQueFichTxt">
+        <source>Vous pouvez seulement sélectionner un fichier texte.</source>
+        <translation>Solo puede seleccionar un archivo de texto.</translation>
+    </message>
+    <message id="Localisation.LabDest1">
+        <source>Dest 1 :</source>
+        <extracomment>Label, room for 58 pixels: about 8 characters.</extracomment>
+        <translation>Dest. 1:</translation>
+    </message>
+    <message id="Localisation.LabDest2">
+        <source>Dest 2 :</source>
+        <extracomment>Label, room for 58 pixels: about 8 characters.</extracomment>
+        <translation>Dest. 2:</translation>
+    </message>
+    <message id="Localisation.Txt_Attente">
+        <source>…</source>
+        <translation>…</translation>
+    </message>
+    <message id="Localisation.Txt_FichOrgNonDef">
+        <source>Le fichier original n'existe pas.</source>
+        <translation>El archivo original no existe.</translation>
+    </message>
+    <message id="Localisation.Txt_NomExiste">
+        <source>Un fichier nommé “¿%” existe déjà.</source>
+        <extracomment>The placeholder: the name of a file.</extracomment>
+        <translation>Ya existe un archivo llamado “¿%”.</translation>
+    </message>
+    <message id="Localisation.Txt_Rempl_Imposs">
+        <source>Remplacement impossible !</source>
+        <translation>¡No se puede reemplazar!</translation>
+    </message>
+    <message id="Localisation.Txt_ErreurEcritFich">
+        <source>Il y a eu une erreur pendant l'écriture du fichier.</source>
+        <translation>Se ha producido un error al escribir el archivo.</translation>
+    </message>
+    <message id="Localisation.Txt_FichPasModif">
+        <source>Le fichier n'a pas été modifié, souhaitez-vous l'enregistrer tout de même ?</source>
+        <translation>El archivo no se ha modificado. ¿Desea guardarlo de todos modos?</translation>
+    </message>
+    <message id="Localisation.Btn_Remplacer">
+        <source>Remplacer</source>
+        <translation>Reemplazar</translation>
+    </message>
+    <message id="Localisation.Btn_NePasRempl">
+        <source>Ne pas remplacer</source>
+        <translation>No reemplazar</translation>
+    </message>
+    <message id="Localisation.Txt_NbTrouv">
+        <source>Nombre de fois où les textes cherchés ont été trouvés :</source>
+        <translation>Número de veces que se han encontrado los textos buscados:</translation>
+    </message>
+    <message id="Localisation.Btn_CopiList_HT">
+        <source>Copier la liste dans le presse-papiers</source>
+        <translation>Copiar la lista al portapapeles</translation>
+    </message>
+    <message id="Localisation.Pref_ChBoxAffBtnSpecA">
+        <source>Afficher bouton “Spécial A”</source>
+        <extracomment>Check box, room for 338 pixels: about 46 characters.</extracomment>
+        <translation>Mostrar el botón “Especial A”</translation>
+    </message>
+    <message id="Localisation.Menu_Preferences">
+        <source>Préférences…</source>
+        <translation>Preferencias…</translation>
+    </message>
+    <message id="Localisation.WinPref_Title">
+        <source>Préférences</source>
+        <translation>Preferencias</translation>
+    </message>
+    <message id="Localisation.StText_VolSfx">
+        <source>Effets sonores :</source>
+        <extracomment>Label, room for 130 pixels: about 17 characters.</extracomment>
+        <translation>Efectos sonoros:</translation>
+    </message>
+    <message id="Localisation.Btn_Aide_HT">
+        <source>Cette version a été compilée pour ¿% le ¿%</source>
+        <extracomment>The placeholders: the kind of build, its date.</extracomment>
+        <translation>Esta versión se compiló para ¿% el ¿%</translation>
+    </message>
+</context>
+</TS>

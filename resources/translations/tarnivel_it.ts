@@ -1,0 +1,380 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it" sourcelanguage="fr">
+<context>
+    <name></name>
+    <message id="Localisation.Infos_Texte">
+        <source>Ce programme gère le fichier “scenery_packs.ini” d'X-Plane.
+ 
+Sélectionnez le fichier Modèle qui contient le scenery dans le bon ordre. Ou sélectionnez le chemin de l'Url vers un fichier Modèle.
+ 
+Éventuellement, sélectionnez un dossier pour sauvegarder l'ancien “scenery_packs.ini”.
+ 
+Sélectionnez le fichier “scenery_packs.ini” de votre dossier X-Plane, ce fichier sera réordonné.
+ 
+Cliquez Lancer.
+ 
+Sélectionnez “Spack After” dans le PopupMenu. Si certaines lignes sont colorées, cela signifie qu'elles sont dans “scenery_packs.ini” mais pas dans le scenery Modèle.
+Quand “Spack Mod” est sélectionné, si certaines lignes sont colorées, cela signifie qu'elles sont dans le scenery Modèle mais pas dans “scenery_packs.ini”.
+ 
+Vous pouvez sélectionner une partie du texte dans la Zone de Texte et cliquez le bouton “Enable/Disable” pour inverser “SCENERY_PACK” et “SCENERY_PACK_DISABLED”.
+ 
+Cliquez le bouton “Sauver” pour sauvegarder le texte contenu dans la zone de texte dans le fichier sélectionné dans le PopupMenu. Rien ne sera modifié dans votre fichier jusqu'à ce que vous cliquiez ce bouton.</source>
+        <extracomment>The help text. Lines of a single blank stay as they are; buttons are named as they are translated below.</extracomment>
+        <translation>Questo programma gestisce il file “scenery_packs.ini” di X-Plane.
+ 
+Selezionare il file modello, che contiene gli scenari nell'ordine giusto. Oppure scegliere “URL modello” e indicare l'URL di un file modello.
+ 
+Se lo si desidera, selezionare una cartella in cui conservare il vecchio “scenery_packs.ini”.
+ 
+Selezionare il file “scenery_packs.ini” della propria cartella di X-Plane: è il file che verrà riordinato.
+ 
+Fare clic su “Genera”.
+ 
+Selezionare “Pack dopo” nel menu a comparsa. Le righe colorate sono in “scenery_packs.ini” ma non nel modello.
+Quando è selezionato “Pack modello”, le righe colorate sono nel modello ma non in “scenery_packs.ini”.
+ 
+Si può selezionare una parte del testo nell'area di testo e fare clic sul pulsante “Attiva / Disattiva” per scambiare “SCENERY_PACK” e “SCENERY_PACK_DISABLED”.
+ 
+Fare clic sul pulsante “Salva file” per salvare il testo dell'area di testo nel file selezionato nel menu a comparsa. Il file non viene modificato finché non si fa clic su questo pulsante.</translation>
+    </message>
+    <message id="Localisation.RdButtSourceA">
+        <source>Fichier modèle</source>
+        <extracomment>Radio button, room for 104 pixels: about 14 characters.</extracomment>
+        <translation>File modello</translation>
+    </message>
+    <message id="Localisation.Btn_OpenUrl">
+        <source>Ouvrir Url</source>
+        <extracomment>Button, room for 98 pixels: about 13 characters.</extracomment>
+        <translation>Apri URL</translation>
+    </message>
+    <message id="Localisation.StTextScenPack">
+        <source>scenery_packs.ini</source>
+        <extracomment>A file name: do not translate.</extracomment>
+        <translation>scenery_packs.ini</translation>
+    </message>
+    <message id="Localisation.ChBoxArchive">
+        <source>Sauv anc Spack</source>
+        <extracomment>Check box (copy the old file into the archive folder before saving), room for 104 pixels: about 14 characters.</extracomment>
+        <translation>Archivia vecchio</translation>
+    </message>
+    <message id="Localisation.Menu_FichSelFichMod">
+        <source>Selectionner fichier modèle</source>
+        <translation>Seleziona file modello</translation>
+    </message>
+    <message id="Localisation.Menu_FichSelDossArchiv">
+        <source>Sélectionner dossier archives</source>
+        <translation>Seleziona cartella archivio</translation>
+    </message>
+    <message id="Localisation.Menu_FichSelFichScenPack">
+        <source>Selectionner fichier scenery_packs</source>
+        <translation>Seleziona file scenery_packs</translation>
+    </message>
+    <message id="Localisation.RdButtSourceB">
+        <source>Url modèle</source>
+        <extracomment>Radio button, room for 104 pixels: about 14 characters.</extracomment>
+        <translation>URL modello</translation>
+    </message>
+    <message id="Localisation.Btn_SelectDossier">
+        <source>Sélect dossier</source>
+        <extracomment>Button, room for 98 pixels: about 13 characters.</extracomment>
+        <translation>Scegli cartella</translation>
+    </message>
+    <message id="Localisation.Btn_SelectFichier">
+        <source>Sélect fichier</source>
+        <extracomment>Button, room for 98 pixels: about 13 characters.</extracomment>
+        <translation>Scegli file</translation>
+    </message>
+    <message id="Localisation.Btn_SauvFichier">
+        <source>Sauv fichier</source>
+        <extracomment>Button and menu item, room for 98 pixels: about 13 characters.</extracomment>
+        <translation>Salva file</translation>
+    </message>
+    <message id="Localisation.Btn_SauvFichier_HT">
+        <source>Sauvegarder le texte affiché ci-dessous dans le fichier sélectionné dans le PopupMenu (donc le modèle ou le Scenery_packs)</source>
+        <translation>Salva il testo mostrato qui sotto nel file selezionato nel menu a comparsa (cioè il modello o lo scenery_packs)</translation>
+    </message>
+    <message id="Localisation.Btn_Annuler">
+        <source>Annuler</source>
+        <extracomment>Button, room for 88 pixels: about 12 characters.</extracomment>
+        <translation>Annulla</translation>
+    </message>
+    <message id="Localisation.Btn_Ok">
+        <source>Ok</source>
+        <extracomment>Button, room for 57 pixels: about 7 characters.</extracomment>
+        <translation>OK</translation>
+    </message>
+    <message id="Localisation.Btn_Fermer">
+        <source>Fermer</source>
+        <extracomment>Button, room for 62 pixels: about 9 characters.</extracomment>
+        <translation>Chiudi</translation>
+    </message>
+    <message id="Localisation.Menu_Edit">
+        <source>Édition</source>
+        <translation>Modifica</translation>
+    </message>
+    <message id="Localisation.Menu_EditClear">
+        <source>Effacer</source>
+        <translation>Elimina</translation>
+    </message>
+    <message id="Localisation.Menu_EditCopy">
+        <source>Copier</source>
+        <translation>Copia</translation>
+    </message>
+    <message id="Localisation.Menu_EditCut">
+        <source>Couper</source>
+        <translation>Taglia</translation>
+    </message>
+    <message id="Localisation.Menu_EditPaste">
+        <source>Coller</source>
+        <translation>Incolla</translation>
+    </message>
+    <message id="Localisation.Menu_EditSelectAll">
+        <source>Tout sélectionner</source>
+        <translation>Seleziona tutto</translation>
+    </message>
+    <message id="Localisation.Menu_Fichier">
+        <source>Fichier</source>
+        <translation>File</translation>
+    </message>
+    <message id="Localisation.WinAide_Title">
+        <source>Aide</source>
+        <translation>Aiuto</translation>
+    </message>
+    <message id="Localisation.Btn_AffDoss">
+        <source>Affich Dossier</source>
+        <extracomment>Button, room for 108 pixels: about 15 characters.</extracomment>
+        <translation>Mostra cartella</translation>
+    </message>
+    <message id="Localisation.Btn_AffDoss_HT">
+        <source>Appliqué à la première ligne du texte sélectionné
+Ouvre (révéle sur Mac) l'élément dans le Finder</source>
+        <translation>Si applica alla prima riga del testo selezionato
+Apre l'elemento (su Mac: lo mostra) nel gestore di file</translation>
+    </message>
+    <message id="Localisation.Btn_EnabDis">
+        <source>Activer / Désactiver</source>
+        <extracomment>Button, room for 128 pixels: about 17 characters.</extracomment>
+        <translation>Attiva / Disattiva</translation>
+    </message>
+    <message id="Localisation.Btn_Select_HT">
+        <source>⇧ clic sur le bouton pour révéler cet élément</source>
+        <translation>⇧ Maiusc + clic sul pulsante per mostrare questo elemento</translation>
+    </message>
+    <message id="Localisation.Btn_EnabDis_HT">
+        <source>Appliqué au texte sélectionné
+Presser la touche ⇧ pour activer
+Presser la touche ⌃ pour désactiver</source>
+        <translation>Si applica al testo selezionato
+Tenere premuto il tasto ⇧ Maiusc per attivare
+Tenere premuto il tasto ⌃ Ctrl per disattivare</translation>
+    </message>
+    <message id="Localisation.Btn_Arreter">
+        <source>Arrêter</source>
+        <extracomment>Button, room for 68 pixels: about 9 characters.</extracomment>
+        <translation>Ferma</translation>
+    </message>
+    <message id="Localisation.Btn_Generer">
+        <source>Générer</source>
+        <extracomment>Button, room for 114 pixels: about 15 characters.</extracomment>
+        <translation>Genera</translation>
+    </message>
+    <message id="Localisation.Btn_Historic">
+        <source>Historique</source>
+        <translation>Cronologia delle versioni</translation>
+    </message>
+    <message id="Localisation.Btn_Chercher_HT">
+        <source>Chercher</source>
+        <translation>Cerca</translation>
+    </message>
+    <message id="Localisation.PopupAff">
+        <source>Spack Modèle
+Spack Avant
+Spack Après</source>
+        <extracomment>Three rows of a pop-up menu, room for 96 pixels each: about 13 characters. The texts: the model, the file before and after the run.</extracomment>
+        <translation>Pack modello
+Pack prima
+Pack dopo</translation>
+    </message>
+    <message id="Localisation.Txt_ProbLignPresDxFois">
+        <source>Problème, la ligne ci-dessous est présente plus d'une fois :</source>
+        <translation>Problema: la riga qui sotto è presente più di una volta:</translation>
+    </message>
+    <message id="Localisation.Txt_ProbLignEquiv">
+        <source>Problème, les lignes ci-dessous sont équivalentes :</source>
+        <translation>Problema: le righe qui sotto sono equivalenti:</translation>
+    </message>
+    <message id="Localisation.Txt_ScenPlusDuneFois">
+        <source>Ces Sceneries sont plus d'une fois dans le SceneryModel :</source>
+        <translation>Questi scenari sono presenti più di una volta nel modello:</translation>
+    </message>
+    <message id="Localisation.Txt_UrlDoitCommencer">
+        <source>L'url devrait commencer avec 'http://' o 'https://'.</source>
+        <translation>L'URL dovrebbe iniziare con 'http://' o 'https://'.</translation>
+    </message>
+    <message id="Localisation.Txt_DossDsDossPasDsScen">
+        <source>Ces dossiers sont dans le dossier “Custom Scenery” mais pas dans “scenery_packs.ini” :</source>
+        <translation>Queste cartelle sono nella cartella “Custom Scenery” ma non in “scenery_packs.ini”:</translation>
+    </message>
+    <message id="Localisation.Txt_ScenDsScenIniPasDsDoss">
+        <source>Ces Sceneries sont dans “scenery_packs.ini” mais pas dans le dossier “Custom Scenery” :</source>
+        <translation>Questi scenari sono in “scenery_packs.ini” ma non nella cartella “Custom Scenery”:</translation>
+    </message>
+    <message id="Localisation.Txt_ProblemCompInitFinal">
+        <source>Il y a eu un problème, veuillez comparer le fichier intial avec le fichier final.</source>
+        <translation>Si è verificato un problema: confrontare il file iniziale con il file finale.</translation>
+    </message>
+    <message id="Localisation.Btn_Cont">
+        <source>Continuer</source>
+        <translation>Continua</translation>
+    </message>
+    <message id="Localisation.Txt_TxtAreaPasScenPack">
+        <source>Le TextArea ne contient pas de scenery_packs.</source>
+        <translation>L'area di testo non contiene uno scenery_packs.</translation>
+    </message>
+    <message id="Localisation.Txt_PasAncFichAsauv">
+        <source>Il n'y a pas d'ancien fichier à sauvegarder.</source>
+        <translation>Non c'è alcun vecchio file da conservare.</translation>
+    </message>
+    <message id="Localisation.Txt_ImpLocDossSauvAnc">
+        <source>Impossible de localiser le dossier où sauvegarder l'ancien fichier.</source>
+        <translation>Impossibile trovare la cartella in cui conservare il vecchio file.</translation>
+    </message>
+    <message id="Localisation.Txt_ImpLocDossSauvFich">
+        <source>Impossible de localiser le dossier où sauvegarder le fichier.</source>
+        <translation>Impossibile trovare la cartella in cui salvare il file.</translation>
+    </message>
+    <message id="Localisation.Txt_SurSauv">
+        <source>Êtes-vous sûr de vouloir enregistrer “¿%” comme “¿%” ?</source>
+        <extracomment>The placeholders: the name on screen, the name of the file.</extracomment>
+        <translation>Salvare davvero “¿%” come “¿%”?</translation>
+    </message>
+    <message id="Localisation.Txt_ErreurEcrNouvScen">
+        <source>Erreur pendant l'écriture du nouveau scenery_packs.</source>
+        <translation>Errore durante la scrittura del nuovo scenery_packs.</translation>
+    </message>
+    <message id="Localisation.Txt_ErreurCopiAncScen">
+        <source>Erreur pendant la copie de l'ancien (précédent) scenery_packs.</source>
+        <translation>Errore durante la copia del vecchio (precedente) scenery_packs.</translation>
+    </message>
+    <message id="Localisation.Btn_Quit">
+        <source>Quitter</source>
+        <extracomment>Button, room for 68 pixels: about 9 characters.</extracomment>
+        <translation>Esci</translation>
+    </message>
+    <message id="Localisation.WinSpecA_Title">
+        <source>Spécial A</source>
+        <extracomment>Window title and button, room for 88 pixels: about 12 characters.</extracomment>
+        <translation>Speciale A</translation>
+    </message>
+    <message id="Localisation.GrBox_HT">
+        <source>Glisser déposer un fichier ici (⇧ clic sur le bouton pour révéler ce fichier dans le Finder)</source>
+        <translation>Trascinare qui un file (⇧ Maiusc + clic sul pulsante per mostrare questo file nel gestore di file)</translation>
+    </message>
+    <message id="Localisation.GrBoxSource">
+        <source>Source</source>
+        <translation>Sorgente</translation>
+    </message>
+    <message id="Localisation.Btn_ChoisirFich">
+        <source>Choisir fichier…</source>
+        <extracomment>Button, room for 140 pixels: about 19 characters.</extracomment>
+        <translation>Scegli file…</translation>
+    </message>
+    <message id="Localisation.LabOrg">
+        <source>Original :</source>
+        <extracomment>Label, room for 58 pixels: about 8 characters.</extracomment>
+        <translation>Origine:</translation>
+    </message>
+    <message id="Localisation.Btn_Trait">
+        <source>Traiter</source>
+        <extracomment>Button, room for 68 pixels: about 9 characters.</extracomment>
+        <translation>Elabora</translation>
+    </message>
+    <message id="Localisation.Txt_DropQueFichTxt">
+        <source>Vous ne pouvez glisser déposer qu'un fichier contenant du texte ici.</source>
+        <translation>Qui si può trascinare solo un file che contiene testo.</translation>
+    </message>
+    <message id="Localisation.Txt_ChoisirUnFich">
+        <source>Choisir un fichier :</source>
+        <translation>Scegliere un file:</translation>
+    </message>
+    <message id="Localisation.Txt_SelectQueFichTxt">
+        <source>Vous pouvez seulement sélectionner un fichier texte.</source>
+        <translation>Si può selezionare solo un file di testo.</translation>
+    </message>
+    <message id="Localisation.LabDest1">
+        <source>Dest 1 :</source>
+        <extracomment>Label, room for 58 pixels: about 8 characters.</extracomment>
+        <translation>Dest. 1:</translation>
+    </message>
+    <message id="Localisation.LabDest2">
+        <source>Dest 2 :</source>
+        <extracomment>Label, room for 58 pixels: about 8 characters.</extracomment>
+        <translation>Dest. 2:</translation>
+    </message>
+    <message id="Localisation.Txt_Attente">
+        <source>…</source>
+        <translation>…</translation>
+    </message>
+    <message id="Localisation.Txt_FichOrgNonDef">
+        <source>Le fichier original n'existe pas.</source>
+        <translation>Il file originale non esiste.</translation>
+    </message>
+    <message id="Localisation.Txt_NomExiste">
+        <source>Un fichier nommé “¿%” existe déjà.</source>
+        <extracomment>The placeholder: the name of a file.</extracomment>
+        <translation>Esiste già un file di nome “¿%”.</translation>
+    </message>
+    <message id="Localisation.Txt_Rempl_Imposs">
+        <source>Remplacement impossible !</source>
+        <translation>Sostituzione impossibile!</translation>
+    </message>
+    <message id="Localisation.Txt_ErreurEcritFich">
+        <source>Il y a eu une erreur pendant l'écriture du fichier.</source>
+        <translation>Si è verificato un errore durante la scrittura del file.</translation>
+    </message>
+    <message id="Localisation.Txt_FichPasModif">
+        <source>Le fichier n'a pas été modifié, souhaitez-vous l'enregistrer tout de même ?</source>
+        <translation>Il file non è stato modificato. Salvarlo comunque?</translation>
+    </message>
+    <message id="Localisation.Btn_Remplacer">
+        <source>Remplacer</source>
+        <translation>Sostituisci</translation>
+    </message>
+    <message id="Localisation.Btn_NePasRempl">
+        <source>Ne pas remplacer</source>
+        <translation>Non sostituire</translation>
+    </message>
+    <message id="Localisation.Txt_NbTrouv">
+        <source>Nombre de fois où les textes cherchés ont été trouvés :</source>
+        <translation>Numero di volte in cui i testi cercati sono stati trovati:</translation>
+    </message>
+    <message id="Localisation.Btn_CopiList_HT">
+        <source>Copier la liste dans le presse-papiers</source>
+        <translation>Copia l'elenco negli appunti</translation>
+    </message>
+    <message id="Localisation.Pref_ChBoxAffBtnSpecA">
+        <source>Afficher bouton “Spécial A”</source>
+        <extracomment>Check box, room for 338 pixels: about 46 characters.</extracomment>
+        <translation>Mostra il pulsante “Speciale A”</translation>
+    </message>
+    <message id="Localisation.Menu_Preferences">
+        <source>Préférences…</source>
+        <translation>Preferenze…</translation>
+    </message>
+    <message id="Localisation.WinPref_Title">
+        <source>Préférences</source>
+        <translation>Preferenze</translation>
+    </message>
+    <message id="Localisation.StText_VolSfx">
+        <source>Effets sonores :</source>
+        <extracomment>Label, room for 130 pixels: about 17 characters.</extracomment>
+        <translation>Effetti sonori:</translation>
+    </message>
+    <message id="Localisation.Btn_Aide_HT">
+        <source>Cette version a été compilée pour ¿% le ¿%</source>
+        <extracomment>The placeholders: the kind of build, its date.</extracomment>
+        <translation>Questa versione è stata compilata per ¿% il ¿%</translation>
+    </message>
+</context>
+</TS>

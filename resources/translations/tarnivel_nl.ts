@@ -1,0 +1,380 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="nl" sourcelanguage="fr">
+<context>
+    <name></name>
+    <message id="Localisation.Infos_Texte">
+        <source>Ce programme gère le fichier “scenery_packs.ini” d'X-Plane.
+ 
+Sélectionnez le fichier Modèle qui contient le scenery dans le bon ordre. Ou sélectionnez le chemin de l'Url vers un fichier Modèle.
+ 
+Éventuellement, sélectionnez un dossier pour sauvegarder l'ancien “scenery_packs.ini”.
+ 
+Sélectionnez le fichier “scenery_packs.ini” de votre dossier X-Plane, ce fichier sera réordonné.
+ 
+Cliquez Lancer.
+ 
+Sélectionnez “Spack After” dans le PopupMenu. Si certaines lignes sont colorées, cela signifie qu'elles sont dans “scenery_packs.ini” mais pas dans le scenery Modèle.
+Quand “Spack Mod” est sélectionné, si certaines lignes sont colorées, cela signifie qu'elles sont dans le scenery Modèle mais pas dans “scenery_packs.ini”.
+ 
+Vous pouvez sélectionner une partie du texte dans la Zone de Texte et cliquez le bouton “Enable/Disable” pour inverser “SCENERY_PACK” et “SCENERY_PACK_DISABLED”.
+ 
+Cliquez le bouton “Sauver” pour sauvegarder le texte contenu dans la zone de texte dans le fichier sélectionné dans le PopupMenu. Rien ne sera modifié dans votre fichier jusqu'à ce que vous cliquiez ce bouton.</source>
+        <extracomment>The help text. Lines of a single blank stay as they are; buttons are named as they are translated below.</extracomment>
+        <translation>Dit programma beheert het bestand “scenery_packs.ini” van X-Plane.
+ 
+Kies het modelbestand, waarin de scenery in de juiste volgorde staat. Of kies “Model-URL” en geef de URL van een modelbestand op.
+ 
+Kies desgewenst een map waarin de oude “scenery_packs.ini” wordt bewaard.
+ 
+Kies het bestand “scenery_packs.ini” uit uw X-Plane-map: dit bestand wordt opnieuw geordend.
+ 
+Klik op “Genereren”.
+ 
+Kies “Packs na” in het pop-upmenu. Gekleurde regels staan in “scenery_packs.ini”, maar niet in het model.
+Als “Packs model” is gekozen, staan gekleurde regels in het model, maar niet in “scenery_packs.ini”.
+ 
+U kunt in het tekstvak een deel van de tekst selecteren en op de knop “In-/uitschakelen” klikken om “SCENERY_PACK” en “SCENERY_PACK_DISABLED” om te wisselen.
+ 
+Klik op de knop “Opslaan” om de tekst in het tekstvak op te slaan in het bestand dat in het pop-upmenu is gekozen. Er verandert niets in uw bestand totdat u op deze knop klikt.</translation>
+    </message>
+    <message id="Localisation.RdButtSourceA">
+        <source>Fichier modèle</source>
+        <extracomment>Radio button, room for 104 pixels: about 14 characters.</extracomment>
+        <translation>Modelbestand</translation>
+    </message>
+    <message id="Localisation.Btn_OpenUrl">
+        <source>Ouvrir Url</source>
+        <extracomment>Button, room for 98 pixels: about 13 characters.</extracomment>
+        <translation>URL openen</translation>
+    </message>
+    <message id="Localisation.StTextScenPack">
+        <source>scenery_packs.ini</source>
+        <extracomment>A file name: do not translate.</extracomment>
+        <translation>scenery_packs.ini</translation>
+    </message>
+    <message id="Localisation.ChBoxArchive">
+        <source>Sauv anc Spack</source>
+        <extracomment>Check box (copy the old file into the archive folder before saving), room for 104 pixels: about 14 characters.</extracomment>
+        <translation>Oude bewaren</translation>
+    </message>
+    <message id="Localisation.Menu_FichSelFichMod">
+        <source>Selectionner fichier modèle</source>
+        <translation>Modelbestand selecteren</translation>
+    </message>
+    <message id="Localisation.Menu_FichSelDossArchiv">
+        <source>Sélectionner dossier archives</source>
+        <translation>Archiefmap selecteren</translation>
+    </message>
+    <message id="Localisation.Menu_FichSelFichScenPack">
+        <source>Selectionner fichier scenery_packs</source>
+        <translation>scenery_packs-bestand selecteren</translation>
+    </message>
+    <message id="Localisation.RdButtSourceB">
+        <source>Url modèle</source>
+        <extracomment>Radio button, room for 104 pixels: about 14 characters.</extracomment>
+        <translation>Model-URL</translation>
+    </message>
+    <message id="Localisation.Btn_SelectDossier">
+        <source>Sélect dossier</source>
+        <extracomment>Button, room for 98 pixels: about 13 characters.</extracomment>
+        <translation>Map kiezen</translation>
+    </message>
+    <message id="Localisation.Btn_SelectFichier">
+        <source>Sélect fichier</source>
+        <extracomment>Button, room for 98 pixels: about 13 characters.</extracomment>
+        <translation>Bestand kiezen</translation>
+    </message>
+    <message id="Localisation.Btn_SauvFichier">
+        <source>Sauv fichier</source>
+        <extracomment>Button and menu item, room for 98 pixels: about 13 characters.</extracomment>
+        <translation>Opslaan</translation>
+    </message>
+    <message id="Localisation.Btn_SauvFichier_HT">
+        <source>Sauvegarder le texte affiché ci-dessous dans le fichier sélectionné dans le PopupMenu (donc le modèle ou le Scenery_packs)</source>
+        <translation>De tekst hieronder opslaan in het bestand dat in het pop-upmenu is gekozen (dus het model of de scenery_packs)</translation>
+    </message>
+    <message id="Localisation.Btn_Annuler">
+        <source>Annuler</source>
+        <extracomment>Button, room for 88 pixels: about 12 characters.</extracomment>
+        <translation>Annuleren</translation>
+    </message>
+    <message id="Localisation.Btn_Ok">
+        <source>Ok</source>
+        <extracomment>Button, room for 57 pixels: about 7 characters.</extracomment>
+        <translation>OK</translation>
+    </message>
+    <message id="Localisation.Btn_Fermer">
+        <source>Fermer</source>
+        <extracomment>Button, room for 62 pixels: about 9 characters.</extracomment>
+        <translation>Sluiten</translation>
+    </message>
+    <message id="Localisation.Menu_Edit">
+        <source>Édition</source>
+        <translation>Bewerken</translation>
+    </message>
+    <message id="Localisation.Menu_EditClear">
+        <source>Effacer</source>
+        <translation>Verwijderen</translation>
+    </message>
+    <message id="Localisation.Menu_EditCopy">
+        <source>Copier</source>
+        <translation>Kopiëren</translation>
+    </message>
+    <message id="Localisation.Menu_EditCut">
+        <source>Couper</source>
+        <translation>Knippen</translation>
+    </message>
+    <message id="Localisation.Menu_EditPaste">
+        <source>Coller</source>
+        <translation>Plakken</translation>
+    </message>
+    <message id="Localisation.Menu_EditSelectAll">
+        <source>Tout sélectionner</source>
+        <translation>Alles selecteren</translation>
+    </message>
+    <message id="Localisation.Menu_Fichier">
+        <source>Fichier</source>
+        <translation>Bestand</translation>
+    </message>
+    <message id="Localisation.WinAide_Title">
+        <source>Aide</source>
+        <translation>Help</translation>
+    </message>
+    <message id="Localisation.Btn_AffDoss">
+        <source>Affich Dossier</source>
+        <extracomment>Button, room for 108 pixels: about 15 characters.</extracomment>
+        <translation>Map tonen</translation>
+    </message>
+    <message id="Localisation.Btn_AffDoss_HT">
+        <source>Appliqué à la première ligne du texte sélectionné
+Ouvre (révéle sur Mac) l'élément dans le Finder</source>
+        <translation>Geldt voor de eerste regel van de geselecteerde tekst
+Opent het onderdeel (op een Mac: toont het) in het bestandsbeheer</translation>
+    </message>
+    <message id="Localisation.Btn_EnabDis">
+        <source>Activer / Désactiver</source>
+        <extracomment>Button, room for 128 pixels: about 17 characters.</extracomment>
+        <translation>In-/uitschakelen</translation>
+    </message>
+    <message id="Localisation.Btn_Select_HT">
+        <source>⇧ clic sur le bouton pour révéler cet élément</source>
+        <translation>Klik met ⇧ Shift op de knop om dit onderdeel te tonen</translation>
+    </message>
+    <message id="Localisation.Btn_EnabDis_HT">
+        <source>Appliqué au texte sélectionné
+Presser la touche ⇧ pour activer
+Presser la touche ⌃ pour désactiver</source>
+        <translation>Geldt voor de geselecteerde tekst
+Houd ⇧ Shift ingedrukt om in te schakelen
+Houd ⌃ Ctrl ingedrukt om uit te schakelen</translation>
+    </message>
+    <message id="Localisation.Btn_Arreter">
+        <source>Arrêter</source>
+        <extracomment>Button, room for 68 pixels: about 9 characters.</extracomment>
+        <translation>Stoppen</translation>
+    </message>
+    <message id="Localisation.Btn_Generer">
+        <source>Générer</source>
+        <extracomment>Button, room for 114 pixels: about 15 characters.</extracomment>
+        <translation>Genereren</translation>
+    </message>
+    <message id="Localisation.Btn_Historic">
+        <source>Historique</source>
+        <translation>Versiegeschiedenis</translation>
+    </message>
+    <message id="Localisation.Btn_Chercher_HT">
+        <source>Chercher</source>
+        <translation>Zoeken</translation>
+    </message>
+    <message id="Localisation.PopupAff">
+        <source>Spack Modèle
+Spack Avant
+Spack Après</source>
+        <extracomment>Three rows of a pop-up menu, room for 96 pixels each: about 13 characters. The texts: the model, the file before and after the run.</extracomment>
+        <translation>Packs model
+Packs voor
+Packs na</translation>
+    </message>
+    <message id="Localisation.Txt_ProbLignPresDxFois">
+        <source>Problème, la ligne ci-dessous est présente plus d'une fois :</source>
+        <translation>Probleem: de volgende regel komt meer dan eens voor:</translation>
+    </message>
+    <message id="Localisation.Txt_ProbLignEquiv">
+        <source>Problème, les lignes ci-dessous sont équivalentes :</source>
+        <translation>Probleem: de volgende regels zijn gelijkwaardig:</translation>
+    </message>
+    <message id="Localisation.Txt_ScenPlusDuneFois">
+        <source>Ces Sceneries sont plus d'une fois dans le SceneryModel :</source>
+        <translation>Deze scenery staat meer dan eens in het model:</translation>
+    </message>
+    <message id="Localisation.Txt_UrlDoitCommencer">
+        <source>L'url devrait commencer avec 'http://' o 'https://'.</source>
+        <translation>De URL moet beginnen met 'http://' of 'https://'.</translation>
+    </message>
+    <message id="Localisation.Txt_DossDsDossPasDsScen">
+        <source>Ces dossiers sont dans le dossier “Custom Scenery” mais pas dans “scenery_packs.ini” :</source>
+        <translation>Deze mappen staan in de map “Custom Scenery”, maar niet in “scenery_packs.ini”:</translation>
+    </message>
+    <message id="Localisation.Txt_ScenDsScenIniPasDsDoss">
+        <source>Ces Sceneries sont dans “scenery_packs.ini” mais pas dans le dossier “Custom Scenery” :</source>
+        <translation>Deze scenery staat in “scenery_packs.ini”, maar niet in de map “Custom Scenery”:</translation>
+    </message>
+    <message id="Localisation.Txt_ProblemCompInitFinal">
+        <source>Il y a eu un problème, veuillez comparer le fichier intial avec le fichier final.</source>
+        <translation>Er was een probleem. Vergelijk het oorspronkelijke bestand met het uiteindelijke bestand.</translation>
+    </message>
+    <message id="Localisation.Btn_Cont">
+        <source>Continuer</source>
+        <translation>Doorgaan</translation>
+    </message>
+    <message id="Localisation.Txt_TxtAreaPasScenPack">
+        <source>Le TextArea ne contient pas de scenery_packs.</source>
+        <translation>Het tekstvak bevat geen scenery_packs.</translation>
+    </message>
+    <message id="Localisation.Txt_PasAncFichAsauv">
+        <source>Il n'y a pas d'ancien fichier à sauvegarder.</source>
+        <translation>Er is geen oud bestand om te bewaren.</translation>
+    </message>
+    <message id="Localisation.Txt_ImpLocDossSauvAnc">
+        <source>Impossible de localiser le dossier où sauvegarder l'ancien fichier.</source>
+        <translation>De map voor het oude bestand is niet gevonden.</translation>
+    </message>
+    <message id="Localisation.Txt_ImpLocDossSauvFich">
+        <source>Impossible de localiser le dossier où sauvegarder le fichier.</source>
+        <translation>De map om het bestand in op te slaan is niet gevonden.</translation>
+    </message>
+    <message id="Localisation.Txt_SurSauv">
+        <source>Êtes-vous sûr de vouloir enregistrer “¿%” comme “¿%” ?</source>
+        <extracomment>The placeholders: the name on screen, the name of the file.</extracomment>
+        <translation>Weet u zeker dat u “¿%” wilt opslaan als “¿%”?</translation>
+    </message>
+    <message id="Localisation.Txt_ErreurEcrNouvScen">
+        <source>Erreur pendant l'écriture du nouveau scenery_packs.</source>
+        <translation>Fout bij het schrijven van de nieuwe scenery_packs.</translation>
+    </message>
+    <message id="Localisation.Txt_ErreurCopiAncScen">
+        <source>Erreur pendant la copie de l'ancien (précédent) scenery_packs.</source>
+        <translation>Fout bij het kopiëren van de oude (vorige) scenery_packs.</translation>
+    </message>
+    <message id="Localisation.Btn_Quit">
+        <source>Quitter</source>
+        <extracomment>Button, room for 68 pixels: about 9 characters.</extracomment>
+        <translation>Afsluiten</translation>
+    </message>
+    <message id="Localisation.WinSpecA_Title">
+        <source>Spécial A</source>
+        <extracomment>Window title and button, room for 88 pixels: about 12 characters.</extracomment>
+        <translation>Speciaal A</translation>
+    </message>
+    <message id="Localisation.GrBox_HT">
+        <source>Glisser déposer un fichier ici (⇧ clic sur le bouton pour révéler ce fichier dans le Finder)</source>
+        <translation>Sleep een bestand hierheen (klik met ⇧ Shift op de knop om dit bestand in het bestandsbeheer te tonen)</translation>
+    </message>
+    <message id="Localisation.GrBoxSource">
+        <source>Source</source>
+        <translation>Bron</translation>
+    </message>
+    <message id="Localisation.Btn_ChoisirFich">
+        <source>Choisir fichier…</source>
+        <extracomment>Button, room for 140 pixels: about 19 characters.</extracomment>
+        <translation>Bestand kiezen…</translation>
+    </message>
+    <message id="Localisation.LabOrg">
+        <source>Original :</source>
+        <extracomment>Label, room for 58 pixels: about 8 characters.</extracomment>
+        <translation>Orig.:</translation>
+    </message>
+    <message id="Localisation.Btn_Trait">
+        <source>Traiter</source>
+        <extracomment>Button, room for 68 pixels: about 9 characters.</extracomment>
+        <translation>Verwerken</translation>
+    </message>
+    <message id="Localisation.Txt_DropQueFichTxt">
+        <source>Vous ne pouvez glisser déposer qu'un fichier contenant du texte ici.</source>
+        <translation>Hier kunt u alleen een bestand met tekst neerzetten.</translation>
+    </message>
+    <message id="Localisation.Txt_ChoisirUnFich">
+        <source>Choisir un fichier :</source>
+        <translation>Kies een bestand:</translation>
+    </message>
+    <message id="Localisation.Txt_SelectQueFichTxt">
+        <source>Vous pouvez seulement sélectionner un fichier texte.</source>
+        <translation>U kunt alleen een tekstbestand selecteren.</translation>
+    </message>
+    <message id="Localisation.LabDest1">
+        <source>Dest 1 :</source>
+        <extracomment>Label, room for 58 pixels: about 8 characters.</extracomment>
+        <translation>Doel 1:</translation>
+    </message>
+    <message id="Localisation.LabDest2">
+        <source>Dest 2 :</source>
+        <extracomment>Label, room for 58 pixels: about 8 characters.</extracomment>
+        <translation>Doel 2:</translation>
+    </message>
+    <message id="Localisation.Txt_Attente">
+        <source>…</source>
+        <translation>…</translation>
+    </message>
+    <message id="Localisation.Txt_FichOrgNonDef">
+        <source>Le fichier original n'existe pas.</source>
+        <translation>Het oorspronkelijke bestand bestaat niet.</translation>
+    </message>
+    <message id="Localisation.Txt_NomExiste">
+        <source>Un fichier nommé “¿%” existe déjà.</source>
+        <extracomment>The placeholder: the name of a file.</extracomment>
+        <translation>Er bestaat al een bestand met de naam “¿%”.</translation>
+    </message>
+    <message id="Localisation.Txt_Rempl_Imposs">
+        <source>Remplacement impossible !</source>
+        <translation>Vervangen is niet mogelijk!</translation>
+    </message>
+    <message id="Localisation.Txt_ErreurEcritFich">
+        <source>Il y a eu une erreur pendant l'écriture du fichier.</source>
+        <translation>Er is een fout opgetreden bij het schrijven van het bestand.</translation>
+    </message>
+    <message id="Localisation.Txt_FichPasModif">
+        <source>Le fichier n'a pas été modifié, souhaitez-vous l'enregistrer tout de même ?</source>
+        <translation>Het bestand is niet gewijzigd. Wilt u het toch opslaan?</translation>
+    </message>
+    <message id="Localisation.Btn_Remplacer">
+        <source>Remplacer</source>
+        <translation>Vervangen</translation>
+    </message>
+    <message id="Localisation.Btn_NePasRempl">
+        <source>Ne pas remplacer</source>
+        <translation>Niet vervangen</translation>
+    </message>
+    <message id="Localisation.Txt_NbTrouv">
+        <source>Nombre de fois où les textes cherchés ont été trouvés :</source>
+        <translation>Zo vaak zijn de gezochte teksten gevonden:</translation>
+    </message>
+    <message id="Localisation.Btn_CopiList_HT">
+        <source>Copier la liste dans le presse-papiers</source>
+        <translation>De lijst naar het klembord kopiëren</translation>
+    </message>
+    <message id="Localisation.Pref_ChBoxAffBtnSpecA">
+        <source>Afficher bouton “Spécial A”</source>
+        <extracomment>Check box, room for 338 pixels: about 46 characters.</extracomment>
+        <translation>De knop “Speciaal A” tonen</translation>
+    </message>
+    <message id="Localisation.Menu_Preferences">
+        <source>Préférences…</source>
+        <translation>Voorkeuren…</translation>
+    </message>
+    <message id="Localisation.WinPref_Title">
+        <source>Préférences</source>
+        <translation>Voorkeuren</translation>
+    </message>
+    <message id="Localisation.StText_VolSfx">
+        <source>Effets sonores :</source>
+        <extracomment>Label, room for 130 pixels: about 17 characters.</extracomment>
+        <translation>Geluidseffecten:</translation>
+    </message>
+    <message id="Localisation.Btn_Aide_HT">
+        <source>Cette version a été compilée pour ¿% le ¿%</source>
+        <extracomment>The placeholders: the kind of build, its date.</extracomment>
+        <translation>Deze versie is gecompileerd voor ¿% op ¿%</translation>
+    </message>
+</context>
+</TS>
