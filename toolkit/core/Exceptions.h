@@ -24,3 +24,6 @@ class IOException : public RuntimeException {
 public:
     using RuntimeException::RuntimeException;
 };
+
+/// The error of that number (`errno`) in the words of the operating system: 2 gives "No such file or directory".
+IOException SystemError(int errorNumber);

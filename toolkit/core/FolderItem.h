@@ -15,10 +15,11 @@
 /// no.
 class FolderItem {
 public:
+    /// A slash at the end is dropped.
     explicit FolderItem(std::filesystem::path absolutePath);
 
     /// Drive 0 is the root of the file system, drives 1 and up are the children of the folder of volumes in the order
-    /// of `Children`. `index` must not be above `LastDriveIndex`.
+    /// of `Children`. Above `LastDriveIndex` it is an item that doesn't exist.
     static FolderItem DriveAt(Int64 index);
     static Int64 LastDriveIndex();
 
@@ -31,8 +32,9 @@ public:
     [[nodiscard]] String Name() const;
 
     /// The item of that name on disk in this folder, which need not exist; nothing for a name that no item can have
-    /// ("", "..", with a "/" or a NUL inside). Where the exact name isn't there, an entry that is equal in canonical
-    /// form is taken. With `followAlias` an alias is replaced by what it leads to.
+    /// ("", ".", "..", with a "/" or a NUL inside). Where the exact name isn't there, an entry that is equal in
+    /// canonical form is taken. With `followAlias` an alias is replaced by what it leads to in the end, even if nothing
+    /// is there; aliases that go round in a circle stay as they are.
     [[nodiscard]] std::optional<FolderItem> Child(StringView name, bool followAlias = true) const;
 
     /// All items of the folder by name, case ignored, aliases not resolved; one pass over the folder.
@@ -57,13 +59,21 @@ public:
 
     /// Makes the folder, and those above it that are missing. Whether it worked is seen by `Exists`.
     void CreateFolder() const;
-    /// Moves the item into `folder` under its own name, or to the place `folder` itself where that doesn't exist yet.
-    /// An item that is already there is never replaced. Raises IOException.
+    /// Moves the item into `folder` under its own name, or to the place `folder` itself where nothing is there yet.
+    ///
+    /// An item that is already at the new place is never replaced: that raises IOException, as does every other
+    /// failure, and the item then stays where it was. An alias is moved as it is; one to a folder counts as that folder
+    /// when it is the goal. A file or an alias may go to another volume (a file then takes the present time as its
+    /// date), a folder may not.
     void MoveTo(const FolderItem& folder) const;
-    /// Removes a file, an alias or an empty folder. Raises IOException.
+    /// Gives the item another name in its folder, under the rules of `MoveTo`.
+    void Rename(StringView newName) const;
+    /// Removes a file, an alias or an empty folder. Raises IOException, also when there was nothing to remove.
     void Remove() const;
 
 private:
+    static bool IsPossibleName(StringView name);
+
     std::filesystem::path path_;
 };
 

@@ -24,7 +24,7 @@ inline constexpr StringView Native = UNIX;
 } // namespace EndOfLine
 
 /// The simple case folding of one character: 'É' and 'é' fold to the same. A text keeps its length under it.
-char32_t FoldCase(char32_t character);
+inline char32_t FoldCase(char32_t character);
 
 /// The text with each character folded. Two texts are the same text when their foldings are equal.
 String FoldCase(StringView text);
@@ -65,7 +65,17 @@ StringView Middle(StringView text, Int64 start, Int64 length = INT64_MAX);
 String ToText(Int64 number);
 
 /// The number at the start of a text (blanks before it are passed over), or 0 when there is none: "12,5" gives 12.
+/// Always finite; one beyond the range of a double becomes the greatest of its sign.
 double Val(StringView text);
 
 /// The canonical form (NFC) that all names are compared in: a decomposed "é" becomes the single character.
 String CanonicalForm(StringView text);
+
+/// The folding of a character behind ASCII. Call `FoldCase`.
+char32_t FoldCaseBeyondAscii(char32_t character);
+
+inline char32_t FoldCase(char32_t character)
+{
+    if (character >= 0x80) return FoldCaseBeyondAscii(character);
+    return character >= U'A' && character <= U'Z' ? character + (U'a' - U'A') : character;
+}

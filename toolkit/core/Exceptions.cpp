@@ -1,0 +1,18 @@
+#include "toolkit/core/Exceptions.h"
+
+#include "toolkit/core/TextEncoding.h"
+
+#include <system_error>
+#include <utility>
+
+RuntimeException::RuntimeException(Int64 errorNumber, String message)
+    : ErrorNumber(errorNumber)
+    , Message(std::move(message))
+    , narrow_(Encodings::UTF8.Encode(Message))
+{
+}
+
+IOException SystemError(int errorNumber)
+{
+    return {errorNumber, Encodings::UTF8.Decode(std::system_category().message(errorNumber))};
+}

@@ -1,0 +1,97 @@
+#include "toolkit/core/FolderItem.h"
+#include "toolkit/core/QtText.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QStandardPaths>
+#include <cstdlib>
+#include <system_error>
+#include <utility>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// The folder that a test has put in the place of the platform's.
+std::optional<fs::path>& VolumesPlace()
+{
+    static std::optional<fs::path> place;
+    return place;
+}
+
+bool IsFolderOrLeadsToOne(const fs::path& path)
+{
+    std::error_code ignored;
+    return fs::is_directory(path, ignored);
+}
+
+/// Qt would take the root of the file system for the home of a user who has none.
+bool HasHome()
+{
+    const char* home = std::getenv("HOME"); // NOLINT(concurrency-mt-unsafe)
+    return home && fs::path(home).is_absolute() && IsFolderOrLeadsToOne(home);
+}
+
+std::optional<FolderItem> Place(QStandardPaths::StandardLocation location)
+{
+    if (!HasHome()) return std::nullopt;
+    const QByteArray path = QFile::encodeName(QStandardPaths::writableLocation(location));
+    if (path.isEmpty()) return std::nullopt;
+    return FolderItem(path.toStdString());
+}
+
+} // namespace
+
+FolderItem FolderItem::DriveAt(Int64 index)
+{
+    if (index == 0) return FolderItem("/");
+    const std::optional<FolderItem> volumes = VolumesFolder();
+    const std::vector<FolderItem> drives = volumes ? volumes->Children() : std::vector<FolderItem>();
+    if (index < 0 || std::cmp_greater(index, drives.size())) return FolderItem(fs::path());
+    return drives[static_cast<std::size_t>(index - 1)];
+}
+
+Int64 FolderItem::LastDriveIndex()
+{
+    const std::optional<FolderItem> volumes = VolumesFolder();
+    return volumes ? static_cast<Int64>(volumes->Children().size()) : 0;
+}
+
+std::optional<FolderItem> FolderItem::VolumesFolder()
+{
+    FolderItem folder(VolumesPlace().value_or("/Volumes"));
+    if (!IsFolderOrLeadsToOne(folder.path_)) return std::nullopt;
+    return folder;
+}
+
+void FolderItem::SetVolumesFolder(std::optional<fs::path> folder) { VolumesPlace() = std::move(folder); }
+
+std::optional<FolderItem> SpecialFolder::ApplicationData()
+{
+    std::optional<FolderItem> folder = Place(QStandardPaths::GenericDataLocation);
+    if (!folder) return std::nullopt;
+    folder->CreateFolder();
+    return IsFolderOrLeadsToOne(folder->Path()) ? folder : std::nullopt;
+}
+
+std::optional<FolderItem> SpecialFolder::Preferences() { return Place(QStandardPaths::GenericConfigLocation); }
+
+std::optional<FolderItem> SpecialFolder::Documents() { return Place(QStandardPaths::DocumentsLocation); }
+
+FolderItem ExecutableFile()
+{
+    std::error_code error;
+    const fs::path file = fs::read_symlink("/proc/self/exe", error);
+    if (!error) return FolderItem(file);
+    return FolderItem(QFile::encodeName(QCoreApplication::applicationFilePath()).toStdString());
+}
+
+std::optional<FolderItem> ResourceFolder()
+{
+    const fs::path programs = ExecutableFile().Path().parent_path();
+    const fs::path above = programs.parent_path();
+    for (const fs::path& place : {programs / "resources", above / "share" / "tarnivel", above / "Resources"}) {
+        if (IsFolderOrLeadsToOne(place)) return FolderItem(place);
+    }
+    return std::nullopt;
+}

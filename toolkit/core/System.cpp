@@ -1,0 +1,65 @@
+#include "toolkit/core/System.h"
+
+#include "toolkit/core/FolderItem.h"
+#include "toolkit/core/QtText.h"
+
+#include <QLocale>
+#include <QTranslator>
+#include <chrono>
+#include <map>
+#include <memory>
+#include <ratio>
+
+namespace {
+
+/// Opens the translation of a language, or gives nothing where the program has none.
+std::unique_ptr<QTranslator> Load(StringView language)
+{
+    const std::optional<FolderItem> resources = ResourceFolder();
+    if (!resources) return nullptr;
+    const std::optional<FolderItem> folder = resources->Child(U"translations");
+    const std::optional<FolderItem> file = folder ? folder->Child(U"tarnivel_" + String(language) + U".qm") : folder;
+    if (!file || !file->Exists()) return nullptr;
+    auto translator = std::make_unique<QTranslator>();
+    return translator->load(ToQt(file->NativePath())) ? std::move(translator) : nullptr;
+}
+
+/// The translation of a language, kept from its first use on.
+const QTranslator* Translation(const String& language)
+{
+    static std::map<String, std::unique_ptr<QTranslator>> loaded;
+    const auto found = loaded.find(language);
+    if (found != loaded.end()) return found->second.get();
+    return loaded.emplace(language, Load(language)).first->second.get();
+}
+
+/// "de" of "de-AT" and of "de_AT.UTF-8".
+String BaseLanguage(StringView language) { return FoldCase(language.substr(0, language.find_first_of(U"-_."))); }
+
+/// The first language of the user that the program speaks; the default texts are French.
+String FindUserLanguage()
+{
+    const QStringList languages = QLocale::system().uiLanguages();
+    for (const QString& language : languages) {
+        String base = BaseLanguage(FromQt(language));
+        if (base == U"fr" || Translation(base)) return base;
+    }
+    return U"fr";
+}
+
+} // namespace
+
+Int64 System::Ticks()
+{
+    using Tick = std::chrono::duration<Int64, std::ratio<1, 60>>;
+    return std::chrono::duration_cast<Tick>(std::chrono::steady_clock::now().time_since_epoch()).count();
+}
+
+String SystemGetLocalizedString(StringView key, StringView defaultText, StringView language)
+{
+    static const String userLanguage = FindUserLanguage();
+    const QTranslator* translation = Translation(language.empty() ? userLanguage : BaseLanguage(language));
+    if (!translation) return String(defaultText);
+    const QString text = translation->translate("", ToQt(key).toUtf8().constData());
+    return text.isEmpty() ? String(defaultText) : FromQt(text);
+}
