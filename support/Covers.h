@@ -12,9 +12,10 @@ namespace Fncts {
 /// another window lays it over everything, where it takes the mouse.
 ///
 /// A window holds one as a member and calls `Opening` from its own opening event, when all its controls exist.
-class LabBlockUI {
+class LabBlockUISet {
 public:
-    explicit LabBlockUI(DesktopWindow& window);
+    /// `tab` is its place in the window's order of controls; the Tab key passes labels over.
+    LabBlockUISet(DesktopWindow& window, int tab);
 
     /// Makes the cover, above all controls that the window has by now.
     void Opening();

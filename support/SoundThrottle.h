@@ -9,9 +9,9 @@ public:
     /// Whether a sound may play at the moment `now`, in ticks. If so it is counted.
     bool Admit(Int64 now);
     /// A sound failed: for two seconds (120 ticks) more nothing is forgotten.
-    void Penalise() { last_ += 120; }
+    void Penalise() { TpDerTicks_ += 120; }
 
 private:
-    Int16 recent_ = 0;
-    Int64 last_ = 0;
+    Int64 iNbrSon_ = 0;
+    Int64 TpDerTicks_ = 0;
 };

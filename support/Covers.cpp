@@ -1,0 +1,162 @@
+#include "support/Covers.h"
+
+#include "support/Diagnostics.h"
+#include "toolkit/Desktop.h"
+#include "toolkit/DesktopApplication.h"
+#include "toolkit/Dialogs.h"
+#include "toolkit/core/System.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr StringView firstName = U"LabBlockUI", coverName = U"LabBlockUI1", strangerName = U"LabBlockUI2";
+constexpr Placement uncovered{0, 0, 16, 16};
+constexpr LabelStyle labelStyle{.color = {0xFF0000}, .alignment = TextAlignment::Center};
+
+/// All windows, the last one made first. A list of its own, since a message may open windows.
+std::vector<DesktopWindow*> WindowsFromLastToFirst()
+{
+    std::vector<DesktopWindow*> windows;
+    for (Int64 index = DesktopApplication::WindowCount() - 1; index >= 0; --index)
+        windows.push_back(DesktopApplication::WindowAt(index));
+    return windows;
+}
+
+std::vector<DesktopUIControl*> ControlsNamed(const DesktopWindow& window, StringView name)
+{
+    std::vector<DesktopUIControl*> found;
+    std::ranges::copy_if(window.Controls(), std::back_inserter(found),
+                         [name](const DesktopUIControl* control) { return SameText(control->Name(), name); });
+    return found;
+}
+
+void Cover(const DesktopWindow& window)
+{
+    const auto covers = ControlsNamed(window, coverName);
+    if (covers.empty()) {
+        TellAuthors(U"CtrlDsFenetrDiag, there is not 'LabBlockUI' in window '" + window.Title() + U"'");
+        return;
+    }
+    DesktopUIControl& cover = *covers.front();
+    cover.SetVisible(true);
+    cover.SetTop(0);
+    cover.SetLeft(0);
+    cover.SetWidth(window.Width());
+    cover.SetHeight(window.Height());
+    if ((cover.Locks() & (Lock::Left | Lock::Top)) != (Lock::Left | Lock::Top))
+        TellAuthors(U"CtrlDsFenetrDiag, 'LabBlockUI' should be Lock Left and Lock Top");
+    cover.SetLocks(Lock::Left | Lock::Top | Lock::Right | Lock::Bottom);
+    if (covers.size() > 1)
+        TellAuthors(U"CtrlDsFenetrDiag, there is more than one 'LabBlockUI' in window '" + window.Title() + U"'");
+}
+
+void Uncover(const DesktopWindow& window)
+{
+    for (DesktopUIControl* const cover : ControlsNamed(window, coverName)) {
+        cover->SetVisible(false);
+        cover->SetWidth(uncovered.width);
+        cover->SetHeight(uncovered.height);
+        cover->SetLocks(cover->Locks() & ~(Lock::Right | Lock::Bottom));
+    }
+}
+
+void MakeCover(const DesktopWindow* win, DesktopLabel& first, DesktopLabel& clone)
+{
+    if (&first.Parent() != win) TellAuthors(U"LabBlockUI, LabBlockUI(0).Parent is not Nil");
+    clone.SetName(first.Name() + U"1");
+    clone.SetText(U" ");
+    clone.SetTop(first.Top());
+    clone.SetLeft(first.Left());
+    clone.SetHeight(first.Height());
+    clone.SetWidth(first.Width());
+    first.SetText(U" ");
+}
+
+} // namespace
+
+namespace Fncts {
+
+LabBlockUISet::LabBlockUISet(DesktopWindow& window, int tab)
+    : first_(window, {uncovered.left, uncovered.top, uncovered.width, uncovered.height, uncovered.locks, tab}, U"UI",
+             labelStyle)
+{
+    first_.SetName(firstName);
+    first_.SetVisible(false);
+}
+
+void LabBlockUISet::Opening()
+{
+    if (!clone_) {
+        clone_ = std::make_unique<DesktopLabel>(first_.Parent(), uncovered, U"UI", labelStyle);
+        clone_->SetVisible(false);
+        clone_->MouseDown = [](int, int) { return true; };
+        CmLabBlockUI(0, &first_.Parent(), &first_, clone_.get());
+    }
+    if (!ControlsNamed(first_.Parent(), strangerName).empty()) TellAuthors(U"LabBlockUI, LabBlockUI(2) is not Nil");
+}
+
+bool CtrlDsFenetrDiag(DesktopWindow* win, bool opening)
+{
+    if (opening && (win == nullptr || !win->Visible())) return false;
+    CmLabBlockUI(1, opening ? win : nullptr, nullptr, nullptr);
+    for (const DesktopWindow* const window : WindowsFromLastToFirst()) {
+        if (window == win || !window->Visible()) continue;
+        if (opening)
+            Cover(*window);
+        else
+            Uncover(*window);
+    }
+    return opening;
+}
+
+bool CmLabBlockUI(Int16 action, DesktopWindow* win, DesktopLabel* first, DesktopLabel* clone)
+{
+    static DesktopWindow* MemFenetr = nullptr;
+    static Int64 TpDerTicks = 0;
+    constexpr Int64 ticksOfOneAct = 12;
+    switch (action) {
+    case 0:
+        MakeCover(win, *first, *clone);
+        break;
+    case 1:
+        MemFenetr = win;
+        break;
+    case 2:
+        if (MemFenetr == nullptr || MemFenetr == win) break;
+        if (System::Ticks() - TpDerTicks > ticksOfOneAct) System::Beep();
+        MemFenetr->Show();
+        break;
+    default:
+        TellAuthors(U"CmLabBlockUI, Which case ? TampNbre = " + ToText(action));
+    }
+    TpDerTicks = System::Ticks();
+    return MemFenetr == nullptr;
+}
+
+void DecPosCtrl(DesktopWindow& win)
+{
+    for (DesktopUIControl* const control : win.Controls())
+        if (dynamic_cast<DesktopTextField*>(control) != nullptr) control->SetTop(control->Top() - 1);
+}
+
+void CtrlFenetrOuv(const std::vector<DesktopWindow*>& known)
+{
+    String titles;
+    for (DesktopWindow* const window : WindowsFromLastToFirst())
+        if (std::ranges::find(known, window) == known.end())
+            titles.insert(0, String(EndOfLine::Native) + U" • '" + window->Title() + U"'");
+    if (titles.empty()) return;
+    MessageBox(U"Error ! Please contact the authors, PrefsCharger, Windows launched before read AffHelpTag !" + titles);
+}
+
+void WrkArrSegButBugF(DesktopWindow& win)
+{
+    DesktopUIControl* const focus = win.Focus();
+    if (focus == nullptr || dynamic_cast<DesktopSegmentedButton*>(focus) != nullptr)
+        win.SetFocus();
+    else
+        focus->SetFocus();
+}
+
+} // namespace Fncts

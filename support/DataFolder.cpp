@@ -1,0 +1,52 @@
+#include "support/Diagnostics.h"
+#include "support/FileHelpers.h"
+#include "support/Fncts.h"
+#include "support/Sounds.h"
+
+namespace {
+
+constexpr StringView olderFolder = U"Tarnivel", oldestFile = U"Tarnivel Prefs.txt";
+
+bool IsThere(const std::optional<FolderItem>& item) { return item && item->Exists(); }
+
+/// Makes the data folder from what older versions kept among the preferences, or empty if they kept nothing.
+void MakeDataFolder(const FolderItem& dataFolder, const FolderItem& applicationData, const FolderItem& preferences)
+{
+    if (const auto older = preferences.Child(olderFolder); IsThere(older)) {
+        older->MoveTo(applicationData);
+        if (const auto moved = applicationData.Child(olderFolder); IsThere(moved)) moved->MoveTo(dataFolder);
+        if (!dataFolder.Exists()) dataFolder.CreateFolder();
+        return;
+    }
+    dataFolder.CreateFolder();
+    if (const auto file = preferences.Child(oldestFile); IsThere(file) && dataFolder.Exists()) file->MoveTo(dataFolder);
+}
+
+std::optional<FolderItem> FindDataFolder()
+{
+    const auto applicationData = SpecialFolder::ApplicationData();
+    if (!Fncts::PasNil_Existe_Alias(applicationData, true)) return std::nullopt;
+    const auto dataFolder = applicationData->Child(U"fr.Kavesti.Tarnivel Datas");
+    if (!dataFolder || dataFolder->Exists()) return dataFolder;
+
+    const auto preferences = SpecialFolder::Preferences();
+    if (Fncts::PasNil_Existe_Alias(preferences, true))
+        MakeDataFolder(*dataFolder, *applicationData, *preferences);
+    else
+        dataFolder->CreateFolder();
+    return dataFolder->Exists() ? dataFolder : std::nullopt;
+}
+
+} // namespace
+
+bool Fncts::DefDossAppDataPref()
+{
+    try {
+        DossierPref = FindDataFolder();
+        return PasNil_Existe_Alias(DossierPref, true);
+    } catch (const std::exception&) {
+        BeepNbT(3);
+        TellAuthorsShortly(U"DefDossAppDataPref, problem while creating Preferences folder!");
+        return false;
+    }
+}

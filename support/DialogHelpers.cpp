@@ -1,0 +1,93 @@
+#include "support/DialogHelpers.h"
+
+#include "support/Covers.h"
+#include "support/Diagnostics.h"
+#include "support/FileHelpers.h"
+#include "support/Fncts.h"
+#include "toolkit/Dialogs.h"
+
+#include <array>
+#include <utility>
+
+namespace {
+
+/// What stands around every dialog. `ask` shows it on the window that it is given, or alone on null.
+template <class Ask>
+auto InFrame(DesktopWindow* win, bool sheet, const Ask& ask)
+{
+    Fncts::DrapDiagBox = true;
+    const bool drapMenuBefore = std::exchange(Fncts::DrapMenu, false);
+    const bool useWin = !sheet || Fncts::CtrlDsFenetrDiag(win, true);
+    const auto answer = ask(useWin ? win : nullptr);
+    if (sheet && useWin) Fncts::CtrlDsFenetrDiag(win, false);
+    if (sheet && win != nullptr) Fncts::WrkArrSegButBugF(*win);
+    Fncts::DrapMenu = drapMenuBefore;
+    Fncts::DrapDiagBox = false;
+    return answer;
+}
+
+int IconType(Int16 icon)
+{
+    constexpr std::array iconTypes = {0, 1, 3, 2};
+    return icon >= 0 && icon < std::ssize(iconTypes) ? iconTypes[static_cast<std::size_t>(icon)] : -1;
+}
+
+Int16 NumberOf(MessageDialog::Button button)
+{
+    switch (button) {
+    case MessageDialog::Button::Action:
+        return 1;
+    case MessageDialog::Button::Cancel:
+        return 2;
+    case MessageDialog::Button::Alternate:
+        return 3;
+    case MessageDialog::Button::None:
+        break;
+    }
+    return 0;
+}
+
+std::optional<FolderItem> InitialFolder(const std::optional<FolderItem>& start)
+{
+    if (start) return Fncts::DossPasPack_f(*start) ? start : start->Parent();
+    const auto documents = SpecialFolder::Documents();
+    return documents ? documents : Fncts::RetDossCetApp();
+}
+
+} // namespace
+
+namespace Fncts {
+
+Int16 MyDialogBox(StringView message, StringView explanation, StringView btnAction, StringView btnCancel,
+                  StringView btnAlternate, Int16 icon, DesktopWindow* win, bool sheet)
+{
+    return InFrame(win, sheet, [&](DesktopWindow* window) {
+        if (btnAction.empty()) TellAuthors(U"My DialogBox, BtnAct = ''");
+        MessageDialog dialog;
+        dialog.IconType = IconType(icon);
+        dialog.Message = message.empty() ? U" " : message;
+        dialog.Explanation = explanation;
+        dialog.ActionButton = btnAction;
+        dialog.CancelButton = btnCancel;
+        dialog.AlternateActionButton = btnAlternate;
+        return NumberOf(dialog.ShowModal(window));
+    });
+}
+
+std::optional<FolderItem> MyDialogLoad(const std::optional<FolderItem>& start, StringView prompt, StringView filter,
+                                       DesktopWindow* win, bool sheet)
+{
+    return InFrame(win, sheet, [&](DesktopWindow* window) {
+        return OpenFileDialog{String(prompt), InitialFolder(start), String(filter)}.ShowModal(window);
+    });
+}
+
+std::optional<FolderItem> MyDialogFolder(const std::optional<FolderItem>& start, StringView prompt, DesktopWindow* win,
+                                         bool sheet)
+{
+    return InFrame(win, sheet, [&](DesktopWindow* window) {
+        return SelectFolderDialog{String(prompt), InitialFolder(start)}.ShowModal(window);
+    });
+}
+
+} // namespace Fncts

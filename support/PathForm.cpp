@@ -1,0 +1,106 @@
+#include "support/PathForm.h"
+
+#include "engine/Names.h"
+#include "toolkit/DesktopApplication.h"
+
+#include <algorithm>
+
+namespace {
+
+/// From the volume that the system started from down to the item, whatever volume holds it.
+String PathFromBootVolume(const FolderItem& item, bool folderMark)
+{
+    String path = Fncts::Naff(item.Name(), true, true);
+    if (folderMark && item.IsFolder()) path += U':';
+    for (auto folder = item.Parent(); folder; folder = folder->Parent())
+        path.insert(0, Fncts::Naff(folder->Name(), true, true) + U':');
+    return path;
+}
+
+/// The names on disk, the volume's first; at least one, which is empty for an empty path.
+std::vector<String> NamesOfPath(StringView path)
+{
+    if (path.ends_with(U':')) path.remove_suffix(1);
+    const String canonical = CanonicalForm(path);
+    std::vector<String> names;
+    for (const StringView name : Split(canonical, U":"))
+        names.push_back(Fncts::Naff(name, false, false));
+    return names;
+}
+
+/// The visible and readable drives of that name, those that have it letter for letter before those in other letters.
+std::vector<FolderItem> DrivesNamed(const String& name)
+{
+    std::vector<FolderItem> drives;
+    for (Int64 index = 0; index <= FolderItem::LastDriveIndex(); ++index) {
+        const FolderItem drive = FolderItem::DriveAt(index);
+        const String driveName = CanonicalForm(drive.Name());
+        // macOS keeps its swap files on a drive of its own, which is no place for files.
+        const bool holdsSwapFiles = index == 1 && SameText(driveName, U"vm");
+        if (SameText(driveName, name) && drive.Visible() && drive.IsReadable() && !holdsSwapFiles)
+            drives.push_back(drive);
+    }
+    std::ranges::stable_partition(drives, [&](const FolderItem& drive) { return CanonicalForm(drive.Name()) == name; });
+    return drives;
+}
+
+/// Where the folders lead to from a drive, or the last place on the way there.
+FolderItem Walk(FolderItem item, std::span<const String> folders)
+{
+    for (const String& name : folders) {
+        DesktopApplication::YieldToPlatform();
+        const auto child = item.Child(name, false);
+        if (!child) break;
+        item = *child;
+        if (!item.Exists()) break;
+    }
+    return item;
+}
+
+std::optional<FolderItem> ChooseDrive(const String& volume, std::span<const String> folders, const String* leaf)
+{
+    std::optional<FolderItem> chosen;
+    for (const FolderItem& drive : DrivesNamed(volume)) {
+        const FolderItem folder = Walk(drive, folders);
+        if (!folder.Exists()) continue;
+        if (leaf == nullptr) return drive;
+        const auto item = folder.Child(*leaf, false);
+        if (item && item->Exists()) return drive;
+        if (!chosen) chosen = drive;
+    }
+    return chosen;
+}
+
+} // namespace
+
+namespace Fncts {
+
+String AbsPath_f(const FolderItem& item, bool folderMark)
+{
+    const String path = PathFromBootVolume(item, folderMark);
+    const auto volumes = FolderItem::VolumesFolder();
+    if (!volumes) return path;
+    const String StUpDiskVol = PathFromBootVolume(*volumes, false) + U':';
+    if (!path.starts_with(StUpDiskVol)) return path;
+    // The folder of volumes itself, a hidden volume or one that shares its name has no shorter path.
+    const StringView shorter = StringView(path).substr(StUpDiskVol.size());
+    const auto found = GetFitemAbsPath(shorter, false);
+    return found && PathFromBootVolume(*found, folderMark) == path ? String(shorter) : path;
+}
+
+std::optional<FolderItem> GetFitemAbsPath(StringView path, bool followAlias)
+{
+    const std::vector<String> names = NamesOfPath(path);
+    if (names.front().empty()) return std::nullopt;
+    const String* const leaf = names.size() > 1 ? &names.back() : nullptr;
+    const auto folders = std::span(names).subspan(1, leaf == nullptr ? 0 : names.size() - 2);
+
+    std::optional<FolderItem> item = ChooseDrive(names.front(), folders, leaf);
+    for (const String& name : folders) {
+        if (!item) return std::nullopt;
+        item = item->Child(name, false);
+    }
+    return item && leaf != nullptr ? item->Child(*leaf, followAlias) : item;
+}
+
+} // namespace Fncts
