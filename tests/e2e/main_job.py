@@ -1,0 +1,85 @@
+"""The main job: model and file from the preferences, a run, its reports, the coloured text, an edit that stays."""
+
+import sys
+
+from desktop import Program, has, nodes, private_environment
+from sample import DISABLED, ENABLED, pack, sample
+
+BLACK, GREEN, RED, ORANGE = "0,0,0", "0,200,0", "255,0,0", "255,127,0"
+FOLDERS = "Ces dossiers sont dans le dossier “Custom Scenery” mais pas dans “scenery_packs.ini” :"
+SCENERIES = "Ces Sceneries sont dans “scenery_packs.ini” mais pas dans le dossier “Custom Scenery” :"
+CONTROLS = {
+    "push button": ["Générer", "Sélect fichier", "Ouvrir Url", "Sélect dossier", "Sauv fichier", "Activer / Désactiver",
+                    "Affich Dossier", "Aide", "Chercher", "Effacer"],
+    "text": ["Fichier modèle", "Url modèle", "Sauv anc Spack", "scenery_packs.ini", "Chercher", "Spack Après"],
+    "radio button": ["Fichier modèle", "Url modèle"],
+    "check box": ["Sauv anc Spack"],
+    "label": ["scenery_packs.ini", "v.1.1.3"],
+}  # fmt: skip
+
+
+def check_names(program):
+    for role, names in CONTROLS.items():
+        for name in names:
+            program.find(role, name)
+    nameless = [n for n in nodes(program.window()) if has(n, "showing", "focusable") and not n.get_name()]
+    assert not nameless, [node.get_role_name() for node in nameless]
+
+
+def check_report(report, files):
+    """The folders that the file does not list come first, then the sceneries that have no folder."""
+    folders, sceneries = "\n".join(report).split(SCENERIES)
+    assert folders.startswith(FOLDERS), report
+    for part, expected in ((folders, files.folders_not_listed()), (sceneries, files.listed_without_folder())):
+        assert {line[3:] for line in part.split("\n") if line.startswith(" - ")} == expected, (part, expected)
+
+
+def check_colors(program, area, marked):
+    """Keywords are green or red, the rest of a line is orange when its pack is one of the marked ones."""
+    text, offset, seen = program.text(area), 0, set()
+    for line in text.split("\n"):
+        keyword, color = (DISABLED, RED) if line.startswith(DISABLED) else (ENABLED, GREEN)
+        if pack(line):
+            rest = ORANGE if pack(line) in marked else BLACK
+            found = [program.color_at(area, offset), program.color_at(area, offset + len(keyword))]
+            assert found == [color, rest], (line, found)
+            seen |= {color, rest}
+        elif line:
+            assert program.color_at(area, offset) == BLACK, line
+        offset += len(line) + 1
+    return seen
+
+
+def main(command):
+    with sample() as files, Program([command], private_environment(files.home)) as program:
+        check_names(program)
+        program.press("Générer")
+        reports = program.answer_until("Générer")
+        assert len(reports) == 1, reports
+        check_report(reports[0], files)
+        program.screenshot("main_job.png")
+
+        area = program.find("text", "Spack Après")
+        result = program.text(area)
+        assert sorted(result.split("\n")) == sorted([*files.source, ""]), result
+        unknown = files.unknown_to_model()
+        known = [line for line in result.split("\n") if pack(line) and pack(line) not in unknown]
+        assert known == files.known_in_model_order(), known
+        assert check_colors(program, area, unknown) == {BLACK, GREEN, RED, ORANGE}
+
+        edited = result + ENABLED + "Custom Scenery/Ajouté à la main 😀/\n"
+        program.set_text(area, edited)
+        program.choose("Spack Modèle")
+        model = program.find("text", "Spack Modèle")
+        assert program.text(model).rstrip("\n").split("\n") == files.model
+        assert ORANGE in check_colors(program, model, files.unknown_to_source())
+        program.choose("Spack Après")
+        after = program.find("text", "Spack Après")
+        assert program.text(after) == edited
+        check_colors(program, after, unknown)
+
+        assert program.close() == 0
+        assert program.stderr() == "", program.stderr()
+
+
+main(*sys.argv[1:])

@@ -1,0 +1,57 @@
+#!/usr/bin/env bash
+# The checks of a change beside its tests: format, lint, who may see Qt, file sizes, shell scripts.
+# clang-tidy reads how files are compiled from build/release, which must be configured.
+# shellcheck disable=SC2317  # `check` calls the functions
+set -uo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
+
+failures=0
+check() { # check NAME COMMAND...: what it prints is a fault, and so is its failure
+    local found
+    if found=$("${@:2}" 2>&1) && [[ ! $found ]]; then
+        echo "ok      $1"
+    else
+        printf 'FAILED  %s\n%s\n' "$1" "$found"
+        failures=$((failures + 1))
+    fi
+}
+
+# A clone may belong to another user than the one who checks it.
+tracked() { git -c safe.directory="$PWD" ls-files "$@"; }
+
+mapfile -t code < <(tracked '*.cpp' '*.h')
+mapfile -t scripts < <(tracked run test .ci/run '*.sh')
+
+format() { clang-format --dry-run --Werror "${code[@]}"; }
+
+qt_outside_toolkit() {
+    tracked '*.cpp' '*.h' | grep -v -e '^toolkit/' -e '^tests/toolkit' -e '^bench/start/' |
+        xargs -r grep -nE '^ *# *include *[<"]Q[A-Z]' | cat
+}
+
+# Code and papers of more than 60 KB, and sources of more than 350 lines, want to be divided.
+large_files() {
+    tracked -z ':!*.wav' ':!*.png' ':!*.ts' ':!*.icns' ':!*.ico' ':!tests/data' ':!resources/samples' |
+        xargs -0 -I{} find {} -type f -size +60k -printf '%p has %s bytes\n'
+    wc -l "${code[@]}" | awk '$2 != "total" && $1 > 350 { print $2 " has " $1 " lines" }'
+}
+
+shell_scripts() { shellcheck -x -P . "${scripts[@]}"; }
+
+# Warnings are errors by .clang-tidy. Its tally of what lies in other people's headers goes to the log.
+lint() {
+    local sources
+    sources=$(sed -n 's/^ *"file": "\(.*\)",\?$/\1/p' build/release/compile_commands.json |
+        grep -vF "$PWD/build/" | sort -u)
+    # shellcheck disable=SC2086  # xargs splits them
+    xargs -d '\n' -n 1 -P "$(nproc)" clang-tidy -p build/release --quiet <<<"$sources" 2>build/release/tidy.log |
+        grep -v '^$'
+    return "$((PIPESTATUS[0] != 0))"
+}
+
+check "clang-format" format
+check "Qt is seen by toolkit/ and its tests only" qt_outside_toolkit
+check "no file is too large" large_files
+check "shellcheck" shell_scripts
+check "clang-tidy" lint
+exit "$((failures > 0))"

@@ -1,0 +1,13 @@
+#!/usr/bin/env bash
+# Runs the tests of a preset on a virtual screen, and repeats the runner's summary as the last line.
+# Usage: tools/ctest.sh PRESET [ARGUMENT FOR CTEST...]
+set -uo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
+
+folder=build/$1
+shift
+tools/screen.sh ctest --test-dir "$folder" --output-on-failure -j "$(nproc)" "$@" | tee "$folder/test.log"
+result=${PIPESTATUS[0]}
+echo
+grep -a 'tests passed, ' "$folder/test.log" | tail -n 1
+exit "$result"
