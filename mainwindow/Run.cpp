@@ -5,8 +5,8 @@
 #include "mainwindow/ReportSeries.h"
 #include "mainwindow/WinMain.h"
 #include "support/DialogHelpers.h"
-#include "support/FileHelpers.h"
 #include "support/Fncts.h"
+#include "support/PathForm.h"
 #include "support/Sounds.h"
 #include "support/TextFiles.h"
 

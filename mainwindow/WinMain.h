@@ -35,7 +35,7 @@ public:
     DesktopButton BtnAide, BtnEnabDis, BtnAffDoss;
     DesktopTextField TextFieldCherch;
     DesktopButton PushButtCherch;
-    LabBlockUISet LabBlockUI;
+    Fncts::LabBlockUI LabBlockUI;
     DesktopButton PushButtInitCherch;
     URLConnection URLCnctLirePage;
     DesktopButton PushButtDebug;
