@@ -33,6 +33,7 @@ function(house_program name)
 endfunction()
 
 # house_test(name SOURCES ... LINKS rooms... [QT modules...]): a GoogleTest program, each of its tests known to ctest.
+# It lies beside the program, so that it finds the same resources.
 function(house_test name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;QT" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
@@ -40,5 +41,6 @@ function(house_test name)
   if(TARGET resources)
     add_dependencies(${name} resources)
   endif()
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR})
   gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
 endfunction()
