@@ -4,6 +4,7 @@
 #include "toolkit/core/FolderItem.h"
 
 #include <deque>
+#include <functional>
 #include <optional>
 #include <variant>
 #include <vector>
@@ -21,6 +22,8 @@ public:
     /// chosen. With none left a message is answered by its action button, a chooser by nothing.
     using Answer = std::variant<int, std::optional<FolderItem>>;
     std::deque<Answer> Answers;
+    /// Called, if set, while a dialog counts as open: it is recorded, and not answered yet.
+    std::function<void()> WhileAsking;
 
     /// What was asked, in order: message, line end, explanation (where there is one), and the captions of the buttons
     /// in brackets: "Really?\nIt is gone then.[Yes][No]". A chooser gives its prompt, a MessageBox its text alone.
