@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
-#include <functional>
 #include <limits>
 
 namespace {
@@ -14,10 +13,6 @@ constexpr std::size_t none = StringView::npos;
 
 bool SameCharacter(char32_t left, char32_t right) { return left == right || FoldCase(left) == FoldCase(right); }
 
-struct FoldedHash {
-    std::size_t operator()(char32_t character) const { return FoldCase(character); }
-};
-
 /// One text to search for, many times over.
 class Search {
 public:
@@ -25,28 +20,46 @@ public:
         : searched_(searched)
         , first_(searched.empty() ? U'\0' : FoldCase(searched.front()))
     {
-        if (searched.size() > shortest) table_.emplace(searched.begin(), searched.end(), FoldedHash{}, SameCharacter);
+        if (searched.size() > longestPlain) FillBorders();
     }
 
     /// Offset of the first occurrence at or behind `start`, or `none`.
     [[nodiscard]] std::size_t Find(StringView text, std::size_t start) const
     {
         if (searched_.empty() || start >= text.size() || text.size() - start < searched_.size()) return none;
-        return table_ ? FindLong(text, start) : FindShort(text, start);
+        return borders_.empty() ? FindShort(text, start) : FindLong(text, start);
     }
 
     [[nodiscard]] std::size_t Length() const { return searched_.size(); }
 
 private:
     // A longer text would make the plain search slow on texts like a million blanks.
-    static constexpr std::size_t shortest = 32;
-    using Table = std::boyer_moore_searcher<StringView::const_iterator, FoldedHash, decltype(&SameCharacter)>;
+    static constexpr std::size_t longestPlain = 32;
+
+    /// How many characters at the start of the searched text match, when `matched` did and `next` comes behind them.
+    [[nodiscard]] std::size_t Advance(std::size_t matched, char32_t next) const
+    {
+        while (matched > 0 && !SameCharacter(searched_[matched], next))
+            matched = borders_[matched - 1];
+        return SameCharacter(searched_[matched], next) ? matched + 1 : 0;
+    }
+
+    /// The table of Knuth, Morris and Pratt: the longest true beginning that ends at each character.
+    void FillBorders()
+    {
+        borders_.assign(searched_.size(), 0);
+        for (std::size_t i = 1; i < searched_.size(); ++i)
+            borders_[i] = Advance(borders_[i - 1], searched_[i]);
+    }
 
     [[nodiscard]] std::size_t FindLong(StringView text, std::size_t start) const
     {
-        const auto from = text.begin() + static_cast<std::ptrdiff_t>(start);
-        const auto found = (*table_)(from, text.end()).first;
-        return found == text.end() ? none : static_cast<std::size_t>(found - text.begin());
+        std::size_t matched = 0;
+        for (std::size_t i = start; i < text.size(); ++i) {
+            matched = Advance(matched, text[i]);
+            if (matched == searched_.size()) return i + 1 - matched;
+        }
+        return none;
     }
 
     [[nodiscard]] std::size_t FindShort(StringView text, std::size_t start) const
@@ -62,7 +75,7 @@ private:
 
     StringView searched_;
     char32_t first_;
-    std::optional<Table> table_;
+    std::vector<std::size_t> borders_;
 };
 
 std::size_t ToOffset(Int64 number) { return number < 0 ? 0 : static_cast<std::size_t>(number); }
@@ -198,7 +211,9 @@ double Val(StringView text)
     double number = 0;
     const std::errc outcome = std::from_chars(start.data(), start.data() + start.size(), number).ec;
     if (outcome != std::errc::result_out_of_range) return number;
-    const bool tiny = start.find("e-") != std::string::npos || start.find("E-") != std::string::npos;
+    const std::size_t exponent = start.find_first_of("eE");
+    const bool tiny =
+        exponent == none ? start.find_first_of("123456789") > start.find('.') : start[exponent + 1] == '-';
     return tiny ? 0 : std::copysign(std::numeric_limits<double>::max(), start.front() == '-' ? -1.0 : 1.0);
 }
 

@@ -1,0 +1,202 @@
+#include "tests/TemporaryFolder.h"
+#include "toolkit/core/Exceptions.h"
+#include "toolkit/core/FolderItem.h"
+
+#include <cerrno>
+#include <functional>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+Int64 ErrorOf(const std::function<void()>& action)
+{
+    try {
+        action();
+    } catch (const IOException& exception) {
+        return exception.ErrorNumber;
+    }
+    return 0;
+}
+
+TEST(FolderItem, FindsItsChildrenByName)
+{
+    const TemporaryFolder folder;
+    const struct {
+        const char* name;
+        fs::path onDisk;
+        String wanted;
+    } rows[] = {
+        {"a plain name", "Alpes", U"Alpes"},
+        {"a colon", "A:B", U"A:B"},
+        {"a line end", "a\nb", U"a\nb"},
+        {"a composed letter", "\xC3\xA9", U"é"},
+        {"a decomposed letter by its composed form", "e\xCC\x81t", U"ét"},
+        {"a composed letter by its decomposed form", "\xC3\xA0t", U"a\u0300t"},
+        {"a Kelvin sign by the letter that it is", "\xE2\x84\xAA", U"K"},
+        {"a name of 255 bytes", std::string(255, 'x'), String(255, U'x')},
+        {"beyond 16 bits", "\xF0\x9F\x98\x80", U"😀"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        const fs::path path = folder.File(row.onDisk);
+        const std::optional<FolderItem> child = FolderItem(folder.Path()).Child(row.wanted);
+        ASSERT_TRUE(child);
+        EXPECT_TRUE(child->Exists());
+        EXPECT_EQ(child->Path(), path);
+        EXPECT_EQ(CanonicalForm(child->Name()), CanonicalForm(row.wanted));
+        EXPECT_EQ(child->Parent()->Path(), folder.Path());
+    }
+    (void)folder.File("K");
+    EXPECT_EQ(FolderItem(folder.Path()).Child(U"K")->Path(), folder.Path() / "K") << "the exact name comes first";
+}
+
+TEST(FolderItem, GivesAMissingChildItsPlace)
+{
+    const TemporaryFolder folder;
+    const FolderItem item(folder.Path().string() + "/");
+    EXPECT_EQ(item.Child(U"e\u0301.txt")->Path(), folder.Path() / "e\xCC\x81.txt");
+    EXPECT_FALSE(item.Child(U"e\u0301.txt")->Exists());
+    EXPECT_FALSE(item.Child(String(300, U'x'))->Exists());
+    EXPECT_FALSE(item.Child(String(100'000, U'é'))->IsReadable());
+    EXPECT_FALSE(FolderItem(folder.File("file")).Child(U"below")->Exists());
+    for (const StringView name : {StringView(), StringView(U"."), StringView(U".."), StringView(U"a/b"),
+                                  StringView(U"/etc"), StringView(U"a\0b", 3)}) {
+        EXPECT_FALSE(item.Child(name));
+    }
+}
+
+TEST(FolderItem, ListsItsChildrenByNameWhateverTheirCase)
+{
+    const TemporaryFolder folder;
+    for (const char* name : {"b", "B", "a", "\xC3\x89", "C", "\xFF", ".d"})
+        (void)folder.File(name);
+    fs::create_symlink("nowhere", folder.Path() / "Aa");
+    std::vector<std::string> names;
+    for (const FolderItem& child : FolderItem(folder.Path()).Children())
+        names.push_back(child.Path().filename());
+    EXPECT_EQ(names, (std::vector<std::string>{".d", "a", "Aa", "B", "b", "C", "\xC3\x89", "\xFF"}));
+
+    EXPECT_EQ(FolderItem(folder.Path() / "\xFF").Name(), U"\uFFFD");
+    EXPECT_FALSE(FolderItem(folder.Path()).Child(U"\uFFFD")->Exists()) << "it could be any of several files";
+    EXPECT_FALSE(FolderItem(folder.Path() / ".d").Visible());
+    EXPECT_TRUE(FolderItem(folder.Path() / "Aa").Visible());
+    EXPECT_TRUE(FolderItem(folder.Path() / "a").Children().empty());
+    EXPECT_TRUE(FolderItem(folder.Path() / "missing").Children().empty());
+}
+
+TEST(FolderItem, TellsAnAliasFromWhatItLeadsTo)
+{
+    const TemporaryFolder temporary;
+    const fs::path target = temporary.Folder("real/target");
+    const FolderItem folder(temporary.Folder("links"));
+    const struct {
+        const char* name;
+        fs::path leadsTo, destination;
+    } rows[] = {
+        {"a link to a folder", target, target},
+        {"a link by a way of its own", "../real/./target/", target},
+        {"a link to a link", "a link to a folder", target},
+        {"a dead link", "../real/nothing", temporary.Path() / "real/nothing"},
+        {"a link to a dead link", "a dead link", temporary.Path() / "real/nothing"},
+        {"a circle", "a circle", temporary.Path() / "links/a circle"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        fs::create_symlink(row.leadsTo, folder.Path() / row.name);
+        const String name(row.name, row.name + std::string_view(row.name).size());
+        const FolderItem alias = folder.Child(name, false).value();
+        EXPECT_EQ(alias.Path(), folder.Path() / row.name);
+        EXPECT_TRUE(alias.Exists());
+        EXPECT_TRUE(alias.IsAlias());
+        EXPECT_FALSE(alias.IsFolder());
+        EXPECT_EQ(folder.Child(name)->Path(), row.destination);
+        EXPECT_EQ(folder.Child(name)->IsFolder(), row.destination == target);
+    }
+}
+
+TEST(FolderItem, IsWrittenAsAUrl)
+{
+    EXPECT_EQ(FolderItem("/a b/\xC3\xA9%#?:\n\xFF").URLPath(), U"file:///a%20b/%C3%A9%25%23%3F%3A%0A%FF");
+    EXPECT_EQ(FolderItem("/").URLPath(), U"file:///");
+    EXPECT_EQ(FolderItem("/a b/").NativePath(), U"/a b");
+}
+
+TEST(FolderItem, MovesWithoutReplacingAnything)
+{
+    const TemporaryFolder folder;
+    const FolderItem inner(folder.Folder("inner"));
+    (void)folder.File("file", "new");
+    (void)folder.File("inner/file", "old");
+    (void)folder.File("tree/leaf", "leaf");
+    (void)folder.Folder("inner/tree");
+    fs::create_symlink("nowhere", folder.Path() / "link");
+    fs::create_directory_symlink("inner", folder.Path() / "way");
+    const auto item = [&](const char* name) { return FolderItem(folder.Path() / name); };
+
+    EXPECT_EQ(ErrorOf([&] { item("file").MoveTo(inner); }), EEXIST);
+    EXPECT_EQ(ErrorOf([&] { item("tree").MoveTo(inner); }), EEXIST) << "not even an empty folder is replaced";
+    EXPECT_EQ(ErrorOf([&] { item("file").MoveTo(item("link")); }), EEXIST) << "a dead link is an item too";
+    EXPECT_EQ(ErrorOf([&] { item("file").Rename(U"tree"); }), EEXIST);
+    EXPECT_EQ(ErrorOf([&] { item("file").Rename(U"../up"); }), EINVAL);
+    EXPECT_EQ(ErrorOf([&] { item("file").MoveTo(item("missing/place")); }), ENOENT);
+    EXPECT_EQ(ErrorOf([&] { item("missing").MoveTo(inner); }), ENOENT);
+    EXPECT_EQ(ErrorOf([&] { inner.MoveTo(item("inner/below")); }), EINVAL) << "a folder isn't put into itself";
+    EXPECT_EQ(folder.Content("file"), "new");
+    EXPECT_EQ(folder.Content("inner/file"), "old");
+    EXPECT_EQ(folder.Content("tree/leaf"), "leaf");
+
+    item("file").Rename(U"fichié");
+    item("fichi\xC3\xA9").MoveTo(item("way"));
+    EXPECT_EQ(folder.Content("inner/fichi\xC3\xA9"), "new");
+    EXPECT_FALSE(item("fichi\xC3\xA9").Exists());
+    item("tree").MoveTo(item("inner/other"));
+    EXPECT_EQ(folder.Content("inner/other/leaf"), "leaf");
+    item("link").MoveTo(inner);
+    EXPECT_EQ(fs::read_symlink(inner.Path() / "link"), "nowhere");
+    EXPECT_FALSE(item("link").Exists());
+}
+
+TEST(FolderItem, MovesFilesToAnotherVolume)
+{
+    const TemporaryFolder folder;
+    struct stat here = {}, there = {};
+    if (::stat(folder.Path().c_str(), &here) != 0 || ::stat("/dev/shm", &there) != 0 || here.st_dev == there.st_dev) {
+        GTEST_SKIP() << "there is no second volume to move to";
+    }
+    const fs::path other = "/dev/shm" / folder.Path().filename();
+    (void)folder.File("file", "text");
+    (void)folder.File("tree/leaf", "leaf");
+    FolderItem(folder.Path() / "file").MoveTo(FolderItem(other));
+    EXPECT_FALSE(fs::exists(folder.Path() / "file"));
+    EXPECT_EQ(folder.Content(other), "text");
+    EXPECT_EQ(ErrorOf([&] { FolderItem(folder.File("file", "new")).MoveTo(FolderItem(other)); }), EEXIST);
+    EXPECT_EQ(folder.Content(other), "text");
+    EXPECT_EQ(folder.Content("file"), "new");
+    fs::remove(other);
+    EXPECT_EQ(ErrorOf([&] { FolderItem(folder.Path() / "tree").MoveTo(FolderItem(other)); }), EXDEV);
+    EXPECT_EQ(folder.Content("tree/leaf"), "leaf");
+    EXPECT_FALSE(fs::exists(other));
+}
+
+TEST(FolderItem, IsMadeAndRemoved)
+{
+    const TemporaryFolder folder;
+    const FolderItem deep(folder.Path() / "a/b/c");
+    deep.CreateFolder();
+    EXPECT_TRUE(deep.IsFolder());
+    EXPECT_EQ(ErrorOf([&] { FolderItem(folder.Path() / "a").Remove(); }), ENOTEMPTY);
+    deep.Remove();
+    EXPECT_EQ(ErrorOf([&] { deep.Remove(); }), ENOENT);
+    const fs::path file = folder.File("file", "text");
+    FolderItem(file / "below").CreateFolder();
+    FolderItem(file).CreateFolder();
+    EXPECT_EQ(folder.Content("file"), "text");
+    fs::create_symlink("file", folder.Path() / "link");
+    FolderItem(folder.Path() / "link").Remove();
+    EXPECT_TRUE(fs::exists(file)) << "an alias goes alone";
+}
+
+} // namespace

@@ -1,0 +1,103 @@
+#include "tests/TemporaryFolder.h"
+#include "toolkit/core/Exceptions.h"
+#include "toolkit/core/TextInputStream.h"
+
+#include <cerrno>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+namespace {
+
+using namespace std::string_view_literals;
+
+std::vector<Bytes> Lines(TextInputStream stream)
+{
+    std::vector<Bytes> lines;
+    while (!stream.EndOfFile())
+        lines.push_back(stream.ReadLine());
+    return lines;
+}
+
+TEST(TextInputStream, ReadsLinesWithEveryLineEnd)
+{
+    const TemporaryFolder folder;
+    // The reader takes the file in pieces of 65,536 bytes: a line end may lie across two of them.
+    const Bytes almost(65'535, 'x');
+    const struct {
+        const char* name;
+        Bytes content;
+        std::vector<Bytes> lines;
+    } rows[] = {
+        {"an empty file has no line", "", {}},
+        {"a last line needs no end", "a\nb", {"a", "b"}},
+        {"LF, CR LF and CR", "a\nb\r\nc\rd\r", {"a", "b", "c", "d"}},
+        {"empty lines", "\n\r\n\r\r\n", {"", "", "", ""}},
+        {"bytes are left alone", Bytes("\xEF\xBB\xBF\xFF\0 \n", 7), {Bytes("\xEF\xBB\xBF\xFF\0 ", 6)}},
+        {"CR LF across two pieces", almost + "\r\nb", {almost, "b"}},
+        {"CR at the end of a piece", almost + "\rb", {almost, "b"}},
+        {"CR at the end of the file", almost + "\r", {almost}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        const FolderItem file(folder.File("file", row.content));
+        EXPECT_EQ(Lines(TextInputStream::Open(file)), row.lines);
+        EXPECT_EQ(TextInputStream::Open(file).ReadAll(), row.content);
+    }
+}
+
+TEST(TextInputStream, ReadsTheRestBehindALine)
+{
+    const TemporaryFolder folder;
+    TextInputStream stream = TextInputStream::Open(FolderItem(folder.File("file", "a\nb\nc")));
+    EXPECT_EQ(stream.ReadLine(), "a");
+    EXPECT_EQ(stream.ReadAll(), "b\nc");
+    EXPECT_TRUE(stream.EndOfFile());
+    stream.Close();
+    EXPECT_EQ(stream.ReadLine(), "");
+    EXPECT_TRUE(stream.EndOfFile());
+}
+
+TEST(TextInputStream, ReadsALargeFileWithoutLineEnds)
+{
+    const TemporaryFolder folder;
+    const Bytes content(50'000'000, 'x');
+    EXPECT_TRUE(TextInputStream::Open(FolderItem(folder.File("file", content))).ReadLine() == content);
+}
+
+TEST(TextInputStream, OpensFilesAlone)
+{
+    const TemporaryFolder folder;
+    ASSERT_EQ(::mkfifo((folder.Path() / "pipe").c_str(), 0600), 0);
+    std::filesystem::create_symlink("pipe", folder.Path() / "link to pipe");
+    std::filesystem::create_symlink("nowhere", folder.Path() / "dead link");
+    std::filesystem::create_symlink("circle", folder.Path() / "circle");
+    std::filesystem::resize_file(folder.File("huge"), (std::uintmax_t{1} << 30) + 1);
+    const struct {
+        std::filesystem::path path;
+        Int64 error;
+    } rows[] = {
+        {folder.Folder("folder"), EISDIR},
+        {folder.Path() / "missing", ENOENT},
+        {folder.Path() / "pipe", EINVAL},
+        {folder.Path() / "link to pipe", EINVAL},
+        {folder.Path() / "dead link", ENOENT},
+        {folder.Path() / "circle", ELOOP},
+        {folder.Path() / "huge", EFBIG},
+        {folder.File("file") / "below", ENOTDIR},
+        {"/dev/zero", EINVAL},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.path);
+        try {
+            TextInputStream::Open(FolderItem(row.path));
+            ADD_FAILURE() << "was opened";
+        } catch (const IOException& exception) {
+            EXPECT_EQ(exception.ErrorNumber, row.error);
+            EXPECT_FALSE(exception.Message.empty());
+        }
+    }
+    std::filesystem::create_symlink(folder.File("real", "text"), folder.Path() / "link");
+    EXPECT_EQ(TextInputStream::Open(FolderItem(folder.Path() / "link")).ReadAll(), "text");
+}
+
+} // namespace

@@ -1,0 +1,167 @@
+#include "toolkit/core/Text.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+
+namespace {
+
+std::vector<String> Texts(const std::vector<StringView>& views) { return {views.begin(), views.end()}; }
+
+TEST(Text, IsTheSameWhateverItsCase)
+{
+    struct Row {
+        const char* name;
+        StringView left, right;
+        bool same;
+    };
+    const Row rows[] = {
+        {"ASCII letters", U"SCENERY_PACK", U"scenery_pack", true},
+        {"the signs around the letters differ", U"@[`{", U"`{@[", false},
+        {"a letter with an accent", U"ÉCRINS", U"écrins", true},
+        {"a decomposed letter is another text", U"e\u0301", U"é", false},
+        {"Greek sigma at the end of a word", U"ΟΔΟΣ", U"οδος", true},
+        {"the Kelvin sign is a k", U"\u212A", U"k", true},
+        {"a long s is an s", U"ſ", U"S", true},
+        {"a ligature is no pair of letters", U"ﬁ", U"fi", false},
+        {"a Turkish dotted I is no i", U"İ", U"i", false},
+        {"letters beyond 16 bits", U"𐐀", U"𐐨", true},
+        {"faces have no case", U"😀", U"😁", false},
+        {"a beginning is not the whole", U"Alpes", U"Alpes ", false},
+        {"two empty texts", U"", U"", true},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(SameText(row.left, row.right), row.same);
+        EXPECT_EQ(FoldCase(row.left) == FoldCase(row.right), row.same);
+        EXPECT_EQ(FoldCase(row.left).size(), row.left.size());
+    }
+    EXPECT_EQ(FoldCase(char32_t{0xFFFFFFFF}), char32_t{0xFFFFFFFF}) << "what is no character stays";
+}
+
+TEST(Text, IsFoundInAnother)
+{
+    const String forty(40, U'é');
+    struct Row {
+        const char* name;
+        String text, searched;
+        Int64 start, found;
+    };
+    const Row rows[] = {
+        {"the first of two", U"Alpes/Alpes/", U"alpes", 0, 0},
+        {"from the start on", U"Alpes/Alpes/", U"ALPES", 1, 6},
+        {"a start below 0 is 0", U"Alpes", U"alpes", -3, 0},
+        {"at the very end", U"xyz", U"Z", 2, 2},
+        {"a start behind the end", U"xyz", U"z", 3, -1},
+        {"a start far behind the end", U"xyz", U"z", INT64_MAX, -1},
+        {"an empty text is nowhere", U"xyz", U"", 0, -1},
+        {"nothing is in an empty text", U"", U"x", 0, -1},
+        {"longer than the text", U"xyz", U"xyzz", 0, -1},
+        {"after a beginning that led nowhere", U"aaab", U"AAB", 0, 1},
+        {"characters beyond 16 bits count once", U"😀😀É", U"é", 0, 2},
+        {"a long text whatever its case", U"x" + String(40, U'É') + U"x", forty, 1, 1},
+        {"a long text that isn't there", String(39, U'É') + U"x" + forty.substr(1), forty, 0, -1},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(IndexOf(row.text, row.searched, row.start), row.found) << row.name;
+}
+
+TEST(Text, IsSearchedInTimeEvenWhenItRepeatsItself)
+{
+    const String text(1'000'000, U'A');
+    EXPECT_EQ(IndexOf(text, String(100'000, U'a') + U'b'), -1);
+    EXPECT_EQ(IndexOf(text, U'b' + String(100'000, U'a')), -1);
+    EXPECT_EQ(CountFields(text, U"a"), 1'000'001);
+}
+
+TEST(Text, IsCutIntoFields)
+{
+    struct Row {
+        const char* name;
+        StringView text, separator;
+        std::vector<String> fields;
+    };
+    const Row rows[] = {
+        {"an empty text is one empty field", U"", U",", {U""}},
+        {"without a separator it is one field", U"a b", U",", {U"a b"}},
+        {"an empty separator separates nothing", U"ab", U"", {U"ab"}},
+        {"separators at the ends and in a row", U",a,,b,", U",", {U"", U"a", U"", U"b", U""}},
+        {"the separator ignores case", U"aXbxc", U"x", {U"a", U"b", U"c"}},
+        {"a separator of two characters doesn't overlap", U"1---2", U"--", {U"1", U"-2"}},
+        {"a NUL is a character like others", {U"a\0b\nc", 5}, U"\n", {String(U"a\0b", 3), U"c"}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(Texts(Split(row.text, row.separator)), row.fields);
+        EXPECT_EQ(CountFields(row.text, row.separator), static_cast<Int64>(row.fields.size()));
+        for (std::size_t i = 0; i < row.fields.size(); ++i) {
+            EXPECT_EQ(NthField(row.text, row.separator, static_cast<Int64>(i) + 1), row.fields[i]);
+        }
+        EXPECT_EQ(NthField(row.text, row.separator, static_cast<Int64>(row.fields.size()) + 1), U"");
+        EXPECT_EQ(NthField(row.text, row.separator, 0), U"");
+        EXPECT_TRUE(SameText(Join(Split(row.text, row.separator), row.separator), row.text));
+    }
+}
+
+TEST(Text, ChangesItsParts)
+{
+    EXPECT_EQ(ReplaceAll(U"&a&&b", U"&", U"&&"), U"&&a&&&&b");
+    EXPECT_EQ(ReplaceAll(U"aXbx", U"x", U""), U"ab");
+    EXPECT_EQ(ReplaceAll(U"aaa", U"aa", U"b"), U"ba");
+    EXPECT_EQ(ReplaceAll(U"abc", U"", U"-"), U"abc");
+    EXPECT_EQ(ReplaceLineEndings(U"1\r\n2\r3\n\n4\r\r\n\n\r", U"\n"), U"1\n2\n3\n\n4\n\n\n\n");
+    EXPECT_EQ(ReplaceLineEndings(U"1\r\n2\r", U""), U"12");
+    EXPECT_EQ(Left(U"abc", 2), U"ab");
+    EXPECT_EQ(Left(U"abc", 9), U"abc");
+    EXPECT_EQ(Left(U"abc", -1), U"");
+    EXPECT_EQ(Middle(U"abc", 1), U"bc");
+    EXPECT_EQ(Middle(U"abc", 1, 1), U"b");
+    EXPECT_EQ(Middle(U"abc", 4), U"");
+    EXPECT_TRUE(BeginsWith(U"Éa", U"é"));
+    EXPECT_TRUE(BeginsWith(U"a", U""));
+    EXPECT_FALSE(BeginsWith(U"a", U"ab"));
+}
+
+TEST(Text, BeginsWithANumber)
+{
+    constexpr double greatest = std::numeric_limits<double>::max();
+    struct Row {
+        String text;
+        double number;
+    };
+    const Row rows[] = {
+        {U"", 0},
+        {U"abc", 0},
+        {U"12,5", 12},
+        {U"12.5x", 12.5},
+        {U" \t-30 ", -30},
+        {U"+7", 7},
+        {U"-", 0},
+        {U"1e2", 100},
+        {U"1e", 1},
+        {U"5-3", 5},
+        {U"inf", 0},
+        {U"nan", 0},
+        {U"0x10", 0},
+        {U"٣", 0},
+        {U"1e999", greatest},
+        {U"-" + String(5000, U'9'), -greatest},
+        {U"1e-999", 0},
+        {U"0." + String(5000, U'0') + U"1", 0},
+        {ToText(INT64_MIN), -9223372036854775808.0},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(Val(row.text), row.number) << std::string(row.text.begin(), row.text.end()).substr(0, 20);
+    }
+}
+
+TEST(Text, HasOneCanonicalForm)
+{
+    EXPECT_EQ(CanonicalForm(U"e\u0301té"), U"été");
+    EXPECT_EQ(CanonicalForm(U"\u212A"), U"K");
+    EXPECT_EQ(CanonicalForm(U"ﬁ😀"), U"ﬁ😀");
+    EXPECT_EQ(CanonicalForm(U"\uFEFFe\u0301"), U"\uFEFFé") << "a byte-order mark isn't lost";
+    EXPECT_EQ(CanonicalForm(String(U"\0e\u0301", 3)), String(U"\0é", 2));
+    EXPECT_EQ(CanonicalForm(String{0x301, 0xD800, 0x110000}), U"\u0301\uFFFD\uFFFD");
+}
+
+} // namespace
