@@ -6,6 +6,9 @@
 
 #include <memory>
 
+class QMenuBar;
+class QWidget;
+
 /// The one application object. It must live before the first window and after the last.
 class DesktopApplication {
 public:
@@ -34,6 +37,13 @@ public:
     static void YieldToPlatform();
 
 private:
+    friend class DesktopWindow;
+    /// The menu bar for one window, or null when the application has none.
+    static QMenuBar* MakeMenuBar(QWidget* window);
+    /// Ends the event loop when no window is left.
+    static void WindowClosed();
+    void End(int exitCode);
+
     struct Private;
     std::unique_ptr<Private> private_;
 };

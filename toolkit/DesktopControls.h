@@ -16,6 +16,9 @@ public:
     void SetCaption(StringView caption);
 
     std::function<void()> Pressed;
+
+private:
+    int fontSize_;
 };
 
 /// A field of one line, black on white in every appearance. Line ends in its text stay, though they are not seen.
@@ -52,6 +55,9 @@ public:
     std::function<void(int x, int y)> MouseUp;
     std::function<void()> MouseEnter;
     std::function<void()> MouseExit;
+
+private:
+    int fontSize_;
 };
 
 class DesktopCheckBox : public DesktopUIControl {

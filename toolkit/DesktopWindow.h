@@ -33,17 +33,18 @@ public:
     /// The content's place on the screen, in points; the frame and the menu bar lie outside.
     [[nodiscard]] int Left() const;
     [[nodiscard]] int Top() const;
-    [[nodiscard]] int Width() const;
-    [[nodiscard]] int Height() const;
+    [[nodiscard]] int Width() const { return width_; }
+    [[nodiscard]] int Height() const { return height_; }
     void SetLeft(int points);
     void SetTop(int points);
     void SetWidth(int points);
     void SetHeight(int points);
 
     [[nodiscard]] bool Visible() const;
-    /// Shows the window and brings it to the front. The first call fires `Opening` before anything is seen.
+    /// Shows the window and brings it to the front. The first call, and the first after a close, fires `Opening` before
+    /// anything is seen.
     void Show();
-    /// Asks `CancelClosing`, and closes the window unless it answers true.
+    /// Asks `CancelClosing`, and closes the window unless it answers true. With the last one the program ends.
     void Close();
 
     /// The control that has the focus, or null.
@@ -70,7 +71,12 @@ private:
     void Remove(DesktopUIControl& control);
     /// Brings the Tab key's order in line with the controls' tab indices.
     void ApplyTabOrder();
+    void ContentResized(int width, int height);
+    /// All windows that exist, in the order of their creation.
+    static std::vector<DesktopWindow*>& All();
 
+    int width_, height_;
+    bool opened_ = false;
     std::vector<DesktopUIControl*> controls_;
     std::unique_ptr<Shell> shell_;
 };

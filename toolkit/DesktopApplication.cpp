@@ -1,0 +1,101 @@
+#include "toolkit/DesktopApplication.h"
+
+#include "toolkit/MenuBar.h"
+#include "toolkit/core/QtText.h"
+
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+DesktopApplication* current = nullptr;
+
+/// The style must be known before the application object is made, or the desktop's own is loaded first.
+int& WithStyle(int& argc)
+{
+#ifndef Q_OS_MACOS
+    QApplication::setStyle(QStringLiteral("Fusion"));
+#endif
+    return argc;
+}
+
+} // namespace
+
+struct DesktopApplication::Private {
+    Private(int& argc, char** argv)
+        : application(WithStyle(argc), argv)
+    {
+    }
+
+    QApplication application;
+    QTranslator platformTexts;
+    DesktopMenuBar menuBar;
+    std::optional<int> exitCode;
+};
+
+DesktopApplication::DesktopApplication(int& argc, char** argv, String name, String version)
+    : Name(std::move(name))
+    , Version(std::move(version))
+    , private_(std::make_unique<Private>(argc, argv))
+{
+    current = this;
+    QApplication::setApplicationName(ToQt(Name));
+    QApplication::setApplicationVersion(ToQt(Version));
+    QApplication::setQuitOnLastWindowClosed(false);
+    if (private_->platformTexts.load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"),
+                                     QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(&private_->platformTexts);
+}
+
+DesktopApplication::~DesktopApplication() { current = nullptr; }
+
+void DesktopApplication::SetMenuBar(DesktopMenuBar menuBar) { private_->menuBar = std::move(menuBar); }
+
+int DesktopApplication::Run() { return private_->exitCode ? *private_->exitCode : QApplication::exec(); }
+
+void DesktopApplication::Quit(int exitCode)
+{
+    const std::vector<DesktopWindow*> windows = DesktopWindow::All();
+    const bool refused = std::ranges::any_of(windows, [](DesktopWindow* window) {
+        return window->Visible() && window->CancelClosing && window->CancelClosing(true);
+    });
+    if (!refused) End(exitCode);
+}
+
+void DesktopApplication::End(int exitCode)
+{
+    private_->exitCode = exitCode;
+    QApplication::exit(exitCode);
+}
+
+void DesktopApplication::WindowClosed()
+{
+    if (current && std::ranges::none_of(DesktopWindow::All(), &DesktopWindow::Visible)) current->End(0);
+}
+
+QMenuBar* DesktopApplication::MakeMenuBar(QWidget* window)
+{
+    if (!current || current->private_->menuBar.empty()) return nullptr;
+    DesktopApplication& application = *current;
+    const auto validate = [&application] {
+        if (application.MenuBarSelected) application.MenuBarSelected();
+    };
+    return ::MakeMenuBar(window, application.private_->menuBar, {validate, [&application] { application.Quit(0); }});
+}
+
+Int64 DesktopApplication::WindowCount() { return static_cast<Int64>(DesktopWindow::All().size()); }
+
+DesktopWindow* DesktopApplication::WindowAt(Int64 index)
+{
+    return DesktopWindow::All().at(static_cast<std::size_t>(index));
+}
+
+void DesktopApplication::YieldToPlatform()
+{
+    if (QApplication::instance())
+        QApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::ExcludeSocketNotifiers);
+}

@@ -1,0 +1,115 @@
+#include "toolkit/Appearance.h"
+#include "toolkit/DesktopControls.h"
+#include "toolkit/core/QtText.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QStyleOptionFocusRect>
+#include <QStylePainter>
+
+namespace {
+
+class LabelWidget final : public QLabel {
+public:
+    DesktopLabel* owner = nullptr;
+
+protected:
+    void showEvent(QShowEvent* event) override
+    {
+        const bool stop = owner->MouseUp && owner->TabIndex() >= 0;
+        setFocusPolicy(stop ? Qt::TabFocus : Qt::NoFocus);
+        QLabel::showEvent(event);
+    }
+
+    void mousePressEvent(QMouseEvent* event) override
+    {
+        event->setAccepted(event->button() == Qt::LeftButton && Press(event->position().toPoint()));
+    }
+
+    void mouseReleaseEvent(QMouseEvent* event) override
+    {
+        if (event->button() == Qt::LeftButton) Release(event->position().toPoint());
+    }
+
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        const int key = event->key();
+        if (!owner->MouseUp || (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Space))
+            return QLabel::keyPressEvent(event);
+        if (Press(rect().center())) Release(rect().center());
+    }
+
+    void enterEvent(QEnterEvent*) override
+    {
+        if (owner->MouseEnter) owner->MouseEnter();
+    }
+
+    void leaveEvent(QEvent*) override
+    {
+        if (owner->MouseExit) owner->MouseExit();
+    }
+
+    void paintEvent(QPaintEvent* event) override
+    {
+        QLabel::paintEvent(event);
+        if (!hasFocus()) return;
+        QStyleOptionFocusRect ring;
+        ring.initFrom(this);
+        QStylePainter(this).drawPrimitive(QStyle::PE_FrameFocusRect, ring);
+    }
+
+private:
+    bool Press(QPoint point)
+    {
+        pressed_ = owner->MouseDown && owner->MouseDown(point.x(), point.y());
+        return pressed_;
+    }
+
+    void Release(QPoint point)
+    {
+        const bool pressed = std::exchange(pressed_, false);
+        if (pressed && owner->MouseUp) owner->MouseUp(point.x(), point.y());
+    }
+
+    bool pressed_ = false;
+};
+
+Qt::AlignmentFlag AlignmentOf(TextAlignment alignment)
+{
+    switch (alignment) {
+    case TextAlignment::Center:
+        return Qt::AlignHCenter;
+    case TextAlignment::Right:
+        return Qt::AlignRight;
+    case TextAlignment::Left:
+        break;
+    }
+    return Qt::AlignLeft;
+}
+
+} // namespace
+
+DesktopLabel::DesktopLabel(DesktopWindow& window, const Placement& placement, StringView text, const LabelStyle& style)
+    : DesktopUIControl(window, new LabelWidget, placement)
+    , fontSize_(style.fontSize)
+{
+    auto* label = static_cast<LabelWidget*>(widget_);
+    label->owner = this;
+    label->setTextFormat(Qt::PlainText);
+    label->setAlignment(AlignmentOf(style.alignment) | Qt::AlignVCenter);
+    QFont font = label->font();
+    font.setBold(style.bold);
+    label->setFont(font);
+    SetTextColor(*label, QPalette::WindowText, style.color);
+    SetText(text);
+}
+
+String DesktopLabel::Text() const { return FromQt(static_cast<LabelWidget*>(widget_)->text()); }
+
+void DesktopLabel::SetText(StringView text)
+{
+    auto* label = static_cast<LabelWidget*>(widget_);
+    label->setText(ToQt(text));
+    FitFont(*label, label->text(), Width(), fontSize_);
+}

@@ -1,0 +1,118 @@
+#include "toolkit/DesktopTextArea.h"
+
+#include "toolkit/Appearance.h"
+#include "toolkit/ColorRuns.h"
+#include "toolkit/DocumentText.h"
+#include "toolkit/core/QtText.h"
+
+#include <QMimeData>
+#include <QPlainTextEdit>
+#include <algorithm>
+
+class DesktopTextArea::Editor final : public QPlainTextEdit {
+public:
+    Editor();
+
+    void SetText(StringView text, std::span<const ColorSpan> colors);
+    /// The character that begins at a position of the document.
+    [[nodiscard]] Int64 Offset(int position) const;
+
+protected:
+    QMimeData* createMimeDataFromSelection() const override;
+    void insertFromMimeData(const QMimeData* source) override;
+
+private:
+    /// Whether a text of the document has characters of two units each.
+    static bool HasPairs(QStringView units)
+    {
+        return std::ranges::any_of(units, [](QChar unit) { return unit.isLowSurrogate(); });
+    }
+
+    /// False as long as offsets and positions are the same.
+    bool pairs_ = false;
+};
+
+DesktopTextArea::Editor::Editor()
+{
+    setTabChangesFocus(true);
+    setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    connect(document(), &QTextDocument::contentsChange, this, [this](int position, int, int added) {
+        if (pairs_ || added == 0) return;
+        QTextCursor inserted(document());
+        inserted.setPosition(position);
+        inserted.setPosition(std::min(position + added, document()->characterCount() - 1), QTextCursor::KeepAnchor);
+        pairs_ = HasPairs(inserted.selectedText());
+    });
+}
+
+void DesktopTextArea::Editor::SetText(StringView text, std::span<const ColorSpan> colors)
+{
+    // Emptied beforehand, the document forgets the format that the caret stood in.
+    clear();
+    pairs_ = false;
+    setUndoRedoEnabled(false);
+    QTextCursor cursor(document());
+    cursor.beginEditBlock();
+    std::size_t done = 0;
+    for (const ColorSpan& run : ColorRuns(colors, static_cast<Int64>(text.size()))) {
+        const auto start = static_cast<std::size_t>(run.start), length = static_cast<std::size_t>(run.length);
+        cursor.insertText(ToDocument(text.substr(done, start - done)), QTextCharFormat());
+        QTextCharFormat format;
+        format.setForeground(QColor(run.color.rgb));
+        cursor.insertText(ToDocument(text.substr(start, length)), format);
+        done = start + length;
+    }
+    cursor.insertText(ToDocument(text.substr(done)), QTextCharFormat());
+    cursor.endEditBlock();
+    setUndoRedoEnabled(true);
+    moveCursor(QTextCursor::Start);
+    setCurrentCharFormat(QTextCharFormat());
+}
+
+Int64 DesktopTextArea::Editor::Offset(int position) const
+{
+    if (!pairs_) return position;
+    const QString units = document()->toRawText().left(position);
+    return position - std::ranges::count_if(units, [](QChar unit) { return unit.isLowSurrogate(); });
+}
+
+QMimeData* DesktopTextArea::Editor::createMimeDataFromSelection() const
+{
+    auto* selected = new QMimeData;
+    selected->setText(ToQt(FromDocument(textCursor().selectedText())));
+    return selected;
+}
+
+void DesktopTextArea::Editor::insertFromMimeData(const QMimeData* source)
+{
+    if (!isReadOnly() && source->hasText()) insertPlainText(ToDocument(FromQt(source->text())));
+    ensureCursorVisible();
+}
+
+DesktopTextArea::DesktopTextArea(DesktopWindow& window, const Placement& placement)
+    : DesktopUIControl(window, new Editor, placement)
+{
+    SetBlackOnWhite(*widget_);
+}
+
+DesktopTextArea::~DesktopTextArea() = default;
+
+DesktopTextArea::Editor& DesktopTextArea::editor() const { return *static_cast<Editor*>(widget_); }
+
+String DesktopTextArea::Text() const { return FromDocument(editor().document()->toRawText()); }
+
+void DesktopTextArea::SetText(StringView text) { editor().SetText(text, {}); }
+
+void DesktopTextArea::SetStyledText(StringView text, std::span<const ColorSpan> colors)
+{
+    editor().SetText(text, colors);
+}
+
+Int64 DesktopTextArea::SelectionStart() const { return editor().Offset(editor().textCursor().selectionStart()); }
+
+Int64 DesktopTextArea::SelectionLength() const
+{
+    return editor().Offset(editor().textCursor().selectionEnd()) - SelectionStart();
+}

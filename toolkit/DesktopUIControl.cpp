@@ -1,0 +1,94 @@
+#include "toolkit/DesktopUIControl.h"
+
+#include "toolkit/DesktopWindow.h"
+#include "toolkit/core/QtText.h"
+
+#include <QAccessible>
+#include <QWidget>
+#include <algorithm>
+
+DesktopUIControl::DesktopUIControl(DesktopWindow& window, QWidget* widget, const Placement& placement)
+    : widget_(widget)
+    , window_(window)
+    , placement_(placement)
+{
+    widget_->setParent(window_.Content());
+    if (placement_.tab < 0)
+        widget_->setFocusPolicy(static_cast<Qt::FocusPolicy>(widget_->focusPolicy() & ~Qt::TabFocus));
+    Apply();
+    widget_->setVisible(true);
+    window_.Add(*this);
+}
+
+DesktopUIControl::~DesktopUIControl()
+{
+    window_.Remove(*this);
+    delete widget_;
+}
+
+String DesktopUIControl::Name() const { return FromQt(widget_->objectName()); }
+
+void DesktopUIControl::SetName(StringView name) { widget_->setObjectName(ToQt(name)); }
+
+void DesktopUIControl::SetLeft(int points)
+{
+    placement_.left = points;
+    Apply();
+}
+
+void DesktopUIControl::SetTop(int points)
+{
+    placement_.top = points;
+    Apply();
+}
+
+void DesktopUIControl::SetWidth(int points)
+{
+    placement_.width = points;
+    Apply();
+}
+
+void DesktopUIControl::SetHeight(int points)
+{
+    placement_.height = points;
+    Apply();
+}
+
+bool DesktopUIControl::Enabled() const { return widget_->isEnabledTo(window_.Content()); }
+
+void DesktopUIControl::SetEnabled(bool enabled) { widget_->setEnabled(enabled); }
+
+bool DesktopUIControl::Visible() const { return !widget_->isHidden(); }
+
+void DesktopUIControl::SetVisible(bool visible) { widget_->setVisible(visible); }
+
+String DesktopUIControl::Tooltip() const { return FromQt(widget_->toolTip()); }
+
+void DesktopUIControl::SetTooltip(StringView tooltip) { widget_->setToolTip(ToQt(tooltip)); }
+
+String DesktopUIControl::AccessibleName() const
+{
+    const QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget_);
+    return accessible ? FromQt(accessible->text(QAccessible::Name)) : String();
+}
+
+void DesktopUIControl::SetAccessibleName(StringView name) { widget_->setAccessibleName(ToQt(name)); }
+
+void DesktopUIControl::SetFocus() { widget_->setFocus(); }
+
+void DesktopUIControl::Apply()
+{
+    widget_->setGeometry(placement_.left, placement_.top, std::max(placement_.width, 0),
+                         std::max(placement_.height, 0));
+}
+
+void DesktopUIControl::Follow(int moreWidth, int moreHeight)
+{
+    const auto follow = [this](int more, unsigned near, unsigned far, int& start, int& extent) {
+        if ((placement_.locks & far) == 0) return;
+        ((placement_.locks & near) == 0 ? start : extent) += more;
+    };
+    follow(moreWidth, Lock::Left, Lock::Right, placement_.left, placement_.width);
+    follow(moreHeight, Lock::Top, Lock::Bottom, placement_.top, placement_.height);
+    Apply();
+}

@@ -1,0 +1,210 @@
+#include "toolkit/DesktopWindow.h"
+
+#include "toolkit/Appearance.h"
+#include "toolkit/DesktopApplication.h"
+#include "toolkit/core/QtText.h"
+
+#include <QAbstractButton>
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QVBoxLayout>
+#include <algorithm>
+
+/// The window of the platform: the menu bar, where there is one, above the content.
+class DesktopWindow::Shell final : public QWidget {
+public:
+    Shell(DesktopWindow& owner, const WindowStyle& style);
+
+    void ResizeContent(int width, int height);
+    void MoveContent(int left, int top);
+    /// How far the content lies below the top edge.
+    [[nodiscard]] int MenuHeight() const;
+
+    QWidget* const content;
+
+protected:
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* object, QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    DesktopWindow& owner_;
+    QMenuBar* const menuBar_;
+};
+
+namespace {
+
+Qt::WindowFlags FlagsOf(const WindowStyle& style)
+{
+    Qt::WindowFlags flags = Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
+    flags.setFlag(Qt::WindowCloseButtonHint, style.hasCloseButton);
+    flags.setFlag(Qt::WindowMaximizeButtonHint, style.hasMaximizeButton);
+    flags.setFlag(Qt::WindowMinimizeButtonHint, style.hasMinimizeButton);
+    return flags;
+}
+
+/// The widgets that make up one place in the order of the Tab key.
+QWidgetList TabStops(QWidget* control)
+{
+    QWidgetList stops;
+    for (QAbstractButton* choice : control->findChildren<QAbstractButton*>())
+        stops.append(choice);
+    return stops.isEmpty() ? QWidgetList{control} : stops;
+}
+
+} // namespace
+
+DesktopWindow::Shell::Shell(DesktopWindow& owner, const WindowStyle& style)
+    : QWidget(nullptr, FlagsOf(style))
+    , content(new QWidget(this))
+    , owner_(owner)
+    , menuBar_(style.hasMenuBar ? DesktopApplication::MakeMenuBar(this) : nullptr)
+{
+    setWindowTitle(ToQt(style.title));
+    SetControlFont(*content);
+    content->setMinimumSize(style.resizable ? QSize(style.minimumWidth, style.minimumHeight)
+                                            : QSize(style.width, style.height));
+    content->setMaximumSize(style.resizable ? QSize(style.maximumWidth, style.maximumHeight)
+                                            : QSize(style.width, style.height));
+    content->installEventFilter(this);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSizeConstraint(QLayout::SetMinAndMaxSize);
+    layout->setMenuBar(menuBar_);
+    layout->addWidget(content);
+    resize(style.width, style.height + MenuHeight());
+}
+
+int DesktopWindow::Shell::MenuHeight() const { return menuBar_ ? menuBar_->heightForWidth(width()) : 0; }
+
+void DesktopWindow::Shell::ResizeContent(int width, int height)
+{
+    const QSize size = QSize(width, height).expandedTo(content->minimumSize()).boundedTo(content->maximumSize());
+    // Qt tells a hidden window's widgets of their size only when it is shown.
+    owner_.ContentResized(size.width(), size.height());
+    resize(size.width(), size.height() + MenuHeight());
+}
+
+void DesktopWindow::Shell::MoveContent(int left, int top)
+{
+    // Not move(), which places the frame.
+    setGeometry(left, top - MenuHeight(), width(), height());
+}
+
+bool DesktopWindow::Shell::event(QEvent* event)
+{
+    const bool handled = QWidget::event(event);
+    if (event->type() == QEvent::WindowActivate && owner_.Activated) owner_.Activated();
+    return handled;
+}
+
+bool DesktopWindow::Shell::eventFilter(QObject* object, QEvent* event)
+{
+    if (object == content && event->type() == QEvent::Resize)
+        owner_.ContentResized(content->width(), content->height());
+    return QWidget::eventFilter(object, event);
+}
+
+void DesktopWindow::Shell::closeEvent(QCloseEvent* event)
+{
+    owner_.Close();
+    event->setAccepted(isHidden());
+}
+
+DesktopWindow::DesktopWindow(const WindowStyle& style)
+    : width_(style.width)
+    , height_(style.height)
+    , shell_(std::make_unique<Shell>(*this, style))
+{
+    All().push_back(this);
+}
+
+DesktopWindow::~DesktopWindow() { std::erase(All(), this); }
+
+std::vector<DesktopWindow*>& DesktopWindow::All()
+{
+    static std::vector<DesktopWindow*> windows;
+    return windows;
+}
+
+String DesktopWindow::Title() const { return FromQt(shell_->windowTitle()); }
+
+int DesktopWindow::MinimumWidth() const { return shell_->content->minimumWidth(); }
+
+int DesktopWindow::MinimumHeight() const { return shell_->content->minimumHeight(); }
+
+int DesktopWindow::Left() const { return shell_->geometry().x(); }
+
+int DesktopWindow::Top() const { return shell_->geometry().y() + shell_->MenuHeight(); }
+
+void DesktopWindow::SetLeft(int points) { shell_->MoveContent(points, Top()); }
+
+void DesktopWindow::SetTop(int points) { shell_->MoveContent(Left(), points); }
+
+void DesktopWindow::SetWidth(int points) { shell_->ResizeContent(points, height_); }
+
+void DesktopWindow::SetHeight(int points) { shell_->ResizeContent(width_, points); }
+
+bool DesktopWindow::Visible() const { return shell_->isVisible(); }
+
+void DesktopWindow::Show()
+{
+    if (!opened_) {
+        opened_ = true;
+        ApplyTabOrder();
+        if (Opening) Opening();
+        if (!opened_) return;
+    }
+    shell_->setWindowState(shell_->windowState() & ~Qt::WindowMinimized);
+    shell_->show();
+    shell_->raise();
+    shell_->activateWindow();
+}
+
+void DesktopWindow::Close()
+{
+    if (CancelClosing && CancelClosing(false)) return;
+    opened_ = false;
+    shell_->hide();
+    DesktopApplication::WindowClosed();
+}
+
+DesktopUIControl* DesktopWindow::Focus() const
+{
+    for (const QWidget* widget = shell_->focusWidget(); widget; widget = widget->parentWidget()) {
+        const auto control = std::ranges::find(controls_, widget, &DesktopUIControl::widget_);
+        if (control != controls_.end()) return *control;
+    }
+    return nullptr;
+}
+
+void DesktopWindow::SetFocus() { shell_->content->setFocus(); }
+
+QWidget* DesktopWindow::Content() const { return shell_->content; }
+
+void DesktopWindow::Add(DesktopUIControl& control) { controls_.push_back(&control); }
+
+void DesktopWindow::Remove(DesktopUIControl& control) { std::erase(controls_, &control); }
+
+void DesktopWindow::ApplyTabOrder()
+{
+    std::vector<DesktopUIControl*> ordered = controls_;
+    std::ranges::stable_sort(ordered, {}, &DesktopUIControl::TabIndex);
+    QWidget* last = nullptr;
+    for (const DesktopUIControl* control : ordered)
+        for (QWidget* stop : TabStops(control->widget_)) {
+            if (last) QWidget::setTabOrder(last, stop);
+            last = stop;
+        }
+}
+
+void DesktopWindow::ContentResized(int width, int height)
+{
+    const int moreWidth = width - width_, moreHeight = height - height_;
+    width_ = width;
+    height_ = height;
+    if (moreWidth == 0 && moreHeight == 0) return;
+    for (DesktopUIControl* control : controls_)
+        control->Follow(moreWidth, moreHeight);
+}

@@ -1,0 +1,45 @@
+#include "toolkit/DocumentText.h"
+
+#include "toolkit/core/QtText.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+/// The last two are what Qt marks the bounds of frames with.
+constexpr char32_t carried[] = {U'\r', 0x2028, 0x2029, 0xFDD0, 0xFDD1};
+constexpr char16_t firstCarrier = 0xD800;
+
+bool IsCarried(char16_t unit) { return std::ranges::find(carried, unit) != std::end(carried); }
+
+} // namespace
+
+QString ToDocument(StringView text)
+{
+    QString units = ToQt(text);
+    for (QChar& unit : units)
+        if ((unit == u'\r' || unit.unicode() >= 0x2028) && IsCarried(unit.unicode()))
+            unit = QChar(static_cast<char16_t>(firstCarrier + (std::ranges::find(carried, unit.unicode()) - carried)));
+    return units;
+}
+
+String FromDocument(QStringView units)
+{
+    String text;
+    text.reserve(static_cast<std::size_t>(units.size()));
+    for (qsizetype i = 0; i < units.size(); ++i) {
+        const char16_t unit = units[i].unicode();
+        if (unit == QChar::ParagraphSeparator || unit == QChar::LineSeparator) {
+            text += U'\n';
+        } else if (!QChar::isSurrogate(unit)) {
+            text += unit;
+        } else if (i + 1 < units.size() && units[i + 1].isLowSurrogate()) {
+            text += QChar::surrogateToUcs4(unit, units[++i].unicode());
+        } else {
+            const auto carrier = static_cast<std::size_t>(unit - firstCarrier);
+            text += carrier < std::size(carried) ? carried[carrier] : char32_t{QChar::ReplacementCharacter};
+        }
+    }
+    return text;
+}

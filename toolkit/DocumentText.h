@@ -1,0 +1,14 @@
+/// Texts as a text document of Qt can carry them. For the sources of this folder only.
+#pragma once
+
+#include "toolkit/core/Text.h"
+
+#include <QString>
+
+/// A text for insertion into a document. LF stands for itself and begins a new block. The other characters that Qt
+/// takes for the end of a block or a line become halves of pairs that can't stand in a valid text; Qt shows such a half
+/// like a character that the font doesn't have.
+QString ToDocument(StringView text);
+
+/// The text that a document, or a selection of it, stands for.
+String FromDocument(QStringView units);
