@@ -1,0 +1,165 @@
+#include "engine/Checks.h"
+
+#include "app/localisation/Localisation.h"
+#include "engine/Names.h"
+#include "engine/SceneryText.h"
+#include "engine/TextNumbers.h"
+
+#include <algorithm>
+#include <deque>
+
+namespace {
+
+using Numbers = std::vector<TextNumbers::Number>;
+
+/// A line that names a scenery.
+struct Listing {
+    StringView line, name;
+};
+
+std::vector<Listing> ListingsOf(std::span<const StringView> lines)
+{
+    std::vector<Listing> listings;
+    for (const StringView line : lines) {
+        if (const StringView name = RetScenLigne(line); !name.empty()) listings.push_back({line, name});
+    }
+    return listings;
+}
+
+std::vector<String> FolderNames(const FolderItem& dossier)
+{
+    std::vector<String> names;
+    for (const FolderItem& child : dossier.Children()) {
+        if (child.IsFolder()) names.push_back(Fncts::Naff(child.Name(), true, true));
+    }
+    return names;
+}
+
+/// How many there are of each number below `count`.
+std::vector<std::size_t> CountEach(const Numbers& numbers, std::size_t count)
+{
+    std::vector<std::size_t> counts(count);
+    for (const TextNumbers::Number number : numbers) {
+        if (number != TextNumbers::None) ++counts[number];
+    }
+    return counts;
+}
+
+/// A list for a report, one name a line.
+String Bulleted(std::span<const StringView> names)
+{
+    String list;
+    for (const StringView name : names)
+        list.append(EndOfLine::Native).append(U" - ").append(name);
+    return list;
+}
+
+bool SortsBefore(StringView left, StringView right)
+{
+    return std::lexicographical_compare(left.begin(), left.end(), right.begin(), right.end(),
+                                        [](char32_t a, char32_t b) { return FoldCase(a) < FoldCase(b); });
+}
+
+/// The folders of `Custom Scenery` beside the lines that list sceneries, paired by name. Of several of one name the
+/// first folder goes with the first line, and so on.
+class Pairing {
+public:
+    Pairing(std::span<const String> folders, std::span<const Listing> listings);
+
+    [[nodiscard]] std::vector<StringView> UnlistedFolders() const;
+    [[nodiscard]] std::vector<StringView> ListedWithoutFolder() const;
+
+private:
+    std::span<const String> folders_;
+    std::span<const Listing> listings_;
+    TextNumbers names_;
+    Numbers ofFolder_, ofListing_;
+    std::vector<std::size_t> folderCounts_, listingCounts_;
+};
+
+Pairing::Pairing(std::span<const String> folders, std::span<const Listing> listings)
+    : folders_(folders)
+    , listings_(listings)
+    , names_(folders.size())
+    , ofFolder_(names_.Add(std::vector<StringView>(folders.begin(), folders.end())))
+{
+    std::deque<String> composed;
+    std::vector<StringView> names;
+    names.reserve(listings.size());
+    for (const Listing& listing : listings) {
+        String form = Fncts::NrmStgEnc(listing.name);
+        names.push_back(form == listing.name ? listing.name : composed.emplace_back(std::move(form)));
+    }
+    ofListing_ = names_.Find(names);
+    folderCounts_ = CountEach(ofFolder_, names_.Count());
+    listingCounts_ = CountEach(ofListing_, names_.Count());
+}
+
+std::vector<StringView> Pairing::UnlistedFolders() const
+{
+    std::vector<std::size_t> listings = listingCounts_;
+    std::vector<StringView> unlisted;
+    for (std::size_t i = 0; i < folders_.size(); ++i) {
+        std::size_t& left = listings[ofFolder_[i]];
+        if (left > 0)
+            --left;
+        else
+            unlisted.push_back(folders_[i]);
+    }
+    return unlisted;
+}
+
+std::vector<StringView> Pairing::ListedWithoutFolder() const
+{
+    // Only where lines remain does it matter which line stands first: all others need no sorting.
+    std::vector<std::size_t> remaining;
+    for (std::size_t i = 0; i < listings_.size(); ++i) {
+        const TextNumbers::Number name = ofListing_[i];
+        if (name == TextNumbers::None || listingCounts_[name] > folderCounts_[name]) remaining.push_back(i);
+    }
+    std::stable_sort(remaining.begin(), remaining.end(), [this](std::size_t left, std::size_t right) {
+        return SortsBefore(listings_[left].line, listings_[right].line);
+    });
+    std::vector<std::size_t> folders = folderCounts_;
+    std::vector<StringView> names;
+    for (const std::size_t i : remaining) {
+        const TextNumbers::Number name = ofListing_[i];
+        if (name != TextNumbers::None && folders[name] > 0)
+            --folders[name];
+        else
+            names.push_back(listings_[i].name);
+    }
+    return names;
+}
+
+} // namespace
+
+String TestModelScen(std::span<const StringView> lignes)
+{
+    std::vector<StringView> names;
+    for (const Listing& listing : ListingsOf(lignes))
+        names.push_back(listing.name);
+    TextNumbers numbers(names.size());
+    const Numbers numberOf = numbers.Add(names);
+    std::vector<std::size_t> met(numbers.Count());
+    std::vector<StringView> repeated;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        if (++met[numberOf[i]] == 2) repeated.push_back(names[i]);
+    }
+    std::sort(repeated.begin(), repeated.end(), SortsBefore);
+    return repeated.empty() ? String() : Localisation::Txt_ScenPlusDuneFois() + Bulleted(repeated);
+}
+
+String TestFolderScen(std::span<const StringView> lignes, const FolderItem& dossier)
+{
+    const std::vector<String> folders = FolderNames(dossier);
+    const std::vector<Listing> listings = ListingsOf(lignes);
+    const Pairing pairing(folders, listings);
+    String report = Bulleted(pairing.UnlistedFolders());
+    if (!report.empty()) report.insert(0, Localisation::Txt_DossDsDossPasDsScen());
+    if (const String list = Bulleted(pairing.ListedWithoutFolder()); !list.empty()) {
+        if (!report.empty()) report.append(EndOfLine::Native).append(U" ").append(EndOfLine::Native);
+        report.append(Localisation::Txt_ScenDsScenIniPasDsDoss()).append(list);
+    }
+    return report;
+}

@@ -1,0 +1,60 @@
+/// What a scenery text is: its line ends, its header and its kinds of lines.
+#pragma once
+
+#include "toolkit/core/Text.h"
+
+/// The line end of all scenery texts, and the characters that it adds to an offset.
+inline constexpr StringView TxtEoF = EndOfLine::UNIX;
+inline constexpr Int64 LgTxtEoF = std::ssize(TxtEoF);
+
+/// The header: what every accepted text begins with, in whatever case.
+inline constexpr StringView TxtDebSpack = U"I\n1000 version\nSCENERY";
+inline constexpr Int64 LgTxtDebSpack = std::ssize(TxtDebSpack);
+
+inline constexpr StringView EnabledPrefix = U"SCENERY_PACK ";
+inline constexpr StringView DisabledPrefix = U"SCENERY_PACK_DISABLED ";
+
+/// What a text begins with that takes the place of a text that was refused or couldn't be made.
+inline constexpr StringView ErrorMarker = U"### Error ###";
+
+struct Acceptance {
+    String text;
+    bool accepted;
+};
+
+/// The text with its line ends made `TxtEoF`, or an error text when it is empty or begins with no header.
+///
+/// The header is looked for in the raw text: one whose first two lines end in CR LF is refused, and the error text then
+/// ends with the whole of it as it came.
+Acceptance AcceptSceneryText(StringView raw);
+
+/// The lines of a text; line k begins behind k line ends. The views live as long as the text behind `text`.
+std::vector<StringView> LinesOf(StringView text);
+
+/// The folder's name in a line of a custom pack, or "": "SCENERY_PACK Custom Scenery/Alpes/Sud/" gives "Alpes".
+///
+/// The keyword may stand anywhere in the line, and the first one counts. A name without "/" behind it is none. The name
+/// comes back as it is spelled, as a view of the line.
+StringView RetScenLigne(StringView ligne);
+
+/// The characters of lines 0 to `dernier` with a line end of `lgEoF` behind each: where the line behind them begins.
+/// 0 for -1.
+Int64 LongTxtTab(std::span<const StringView> lignes, Int64 lgEoF, Int64 dernier);
+
+enum class LineState : std::uint8_t { Other, Enabled, Disabled };
+
+/// A line cut behind the prefix that tells a pack's state. The rest is a path, opaque to us.
+struct SceneryLine {
+    LineState state;
+    StringView prefix;
+    /// All of a line that is no pack line.
+    StringView rest;
+
+    [[nodiscard]] String Text() const { return String(prefix) += rest; }
+};
+
+SceneryLine ParseLine(StringView line);
+
+/// The line of the same pack in the other state: "scenery_pack Alpes/" gives "SCENERY_PACK_DISABLED Alpes/".
+/// `line` must be a pack line.
+SceneryLine TwinOf(const SceneryLine& line);
