@@ -31,8 +31,9 @@ std::vector<DesktopUIControl*> ControlsNamed(const DesktopWindow& window, String
     return found;
 }
 
-void Cover(const DesktopWindow& window)
+void Cover(DesktopWindow& window)
 {
+    window.BlockKeyboard(true);
     const auto covers = ControlsNamed(window, coverName);
     if (covers.empty()) {
         TellAuthors(U"CtrlDsFenetrDiag, there is not 'LabBlockUI' in window '" + window.Title() + U"'");
@@ -51,8 +52,9 @@ void Cover(const DesktopWindow& window)
         TellAuthors(U"CtrlDsFenetrDiag, there is more than one 'LabBlockUI' in window '" + window.Title() + U"'");
 }
 
-void Uncover(const DesktopWindow& window)
+void Uncover(DesktopWindow& window)
 {
+    window.BlockKeyboard(false);
     for (DesktopUIControl* const cover : ControlsNamed(window, coverName)) {
         cover->SetVisible(false);
         cover->SetWidth(uncovered.width);
@@ -100,7 +102,7 @@ bool CtrlDsFenetrDiag(DesktopWindow* win, bool opening)
 {
     if (opening && (win == nullptr || !win->Visible())) return false;
     CmLabBlockUI(1, opening ? win : nullptr, nullptr, nullptr);
-    for (const DesktopWindow* const window : WindowsFromLastToFirst()) {
+    for (DesktopWindow* const window : WindowsFromLastToFirst()) {
         if (window == win || !window->Visible()) continue;
         if (opening)
             Cover(*window);

@@ -7,8 +7,10 @@
 #include <QAbstractButton>
 #include <QCloseEvent>
 #include <QMenuBar>
+#include <QPointer>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <utility>
 
 /// The window of the platform: the menu bar, where there is one, above the content.
 class DesktopWindow::Shell final : public QWidget {
@@ -21,8 +23,11 @@ public:
     [[nodiscard]] int MenuHeight() const;
 
     QWidget* const content;
+    bool keyboardIsBlocked = false;
+    QPointer<QWidget> focusBefore;
 
 protected:
+    bool focusNextPrevChild(bool next) override { return !keyboardIsBlocked && QWidget::focusNextPrevChild(next); }
     bool event(QEvent* event) override;
     bool eventFilter(QObject* object, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
@@ -180,6 +185,16 @@ DesktopUIControl* DesktopWindow::Focus() const
 }
 
 void DesktopWindow::SetFocus() { shell_->content->setFocus(); }
+
+void DesktopWindow::BlockKeyboard(bool blocked)
+{
+    if (std::exchange(shell_->keyboardIsBlocked, blocked) == blocked) return;
+    if (blocked) {
+        shell_->focusBefore = shell_->focusWidget();
+        SetFocus();
+    } else if (shell_->focusBefore)
+        shell_->focusBefore->setFocus();
+}
 
 QWidget* DesktopWindow::Content() const { return shell_->content; }
 

@@ -51,6 +51,9 @@ public:
     [[nodiscard]] DesktopUIControl* Focus() const;
     /// Takes the focus from every control.
     void SetFocus();
+    /// Keeps the keyboard from the controls: the focus leaves them, and the Tab key doesn't bring it back. Afterwards
+    /// the control that had it has it again.
+    void BlockKeyboard(bool blocked);
 
     [[nodiscard]] const std::vector<DesktopUIControl*>& Controls() const { return controls_; }
 
