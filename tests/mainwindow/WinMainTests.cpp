@@ -1,0 +1,219 @@
+#include "app/App.h"
+#include "mainwindow/WinMain.h"
+#include "support/Fncts.h"
+#include "support/PathForm.h"
+#include "tests/TemporaryFolder.h"
+#include "toolkit/Probe.h"
+
+#include <chrono>
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr const char* header = "I\n1000 version\nSCENERY\n";
+
+/// The main window of a program that lives as long as the test, with its data folder in a temporary place.
+class MainWindow : public testing::Test {
+protected:
+    MainWindow()
+    {
+        setenv("XDG_DATA_HOME", folder.Folder("data").c_str(), 1);
+        Fncts::DrapMenu = Fncts::AinitProg = false;
+        probe.ScreenSize = {{1280, 800}};
+    }
+
+    void Open(std::string_view preferences = {})
+    {
+        if (!preferences.empty()) folder.File("data/fr.Kavesti.Tarnivel Datas/Tarnivel Prefs.txt", preferences);
+        app.emplace(argc, argv);
+        window.emplace();
+        window->Show();
+    }
+
+    void Choose(DesktopTextField& field, const std::filesystem::path& file) const
+    {
+        field.SetText(Fncts::AbsPath_f(FolderItem(file), false));
+    }
+
+    void Run()
+    {
+        window->BtnRun_Pressed();
+        EXPECT_FALSE(Fncts::DrapMenu);
+        EXPECT_EQ(window->BtnRun.Caption(), U"Arrêter");
+        const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+        while (!Fncts::DrapMenu && std::chrono::steady_clock::now() < deadline)
+            DesktopApplication::YieldToPlatform();
+        ASSERT_TRUE(Fncts::DrapMenu);
+        EXPECT_EQ(window->BtnRun.Caption(), U"Générer");
+    }
+
+    String View(int row)
+    {
+        window->PopMenuAff.SetSelectedRowIndex(row);
+        window->PopMenuAff_SelectionChanged();
+        return window->TextAreaAff.Text();
+    }
+
+    TemporaryFolder folder;
+    Probe probe;
+    char name[8] = "tests";
+    char* argv[2] = {name, nullptr};
+    int argc = 1;
+    std::optional<App> app;
+    std::optional<WinMain> window;
+};
+
+TEST_F(MainWindow, EachViewShowsItsTextAndKeepsItsEdits)
+{
+    Open();
+    Choose(window->TextFieldMod1, folder.File("model.ini", std::string(header) + "SCENERY_PACK b\nSCENERY_PACK a\n"));
+    Choose(window->TextFieldSpack, folder.File("Custom Scenery/scenery_packs.ini",
+                                               std::string(header) + "SCENERY_PACK_DISABLED a\nSCENERY_PACK b\n"));
+    Run();
+    EXPECT_EQ(window->TextAreaAff.Text(), U"I\n1000 version\nSCENERY\nSCENERY_PACK b\nSCENERY_PACK_DISABLED a\n");
+    EXPECT_TRUE(probe.Asked.empty());
+    EXPECT_EQ(probe.Beeps, 0);
+
+    window->TextAreaAff.SetText(U"edited\u00A0\r\n");
+    EXPECT_EQ(View(0), U"I\n1000 version\nSCENERY\nSCENERY_PACK b\nSCENERY_PACK a\n");
+    EXPECT_EQ(View(1), U"I\n1000 version\nSCENERY\nSCENERY_PACK_DISABLED a\nSCENERY_PACK b\n");
+    EXPECT_EQ(View(2), U"edited\u00A0\r\n");
+}
+
+TEST_F(MainWindow, ARefusedTextStandsWhereItsViewIs)
+{
+    struct Row {
+        const char* name;
+        const char* model;
+        const char* source;
+        String views[3];
+    };
+    const String refused =
+        U"### Error ###  Content should begin with :\nI\n1000 version\nSCENERY\n\n" + String(89, U'*') + U"\n";
+    const Row rows[] = {
+        {"both are missing", nullptr, nullptr, {U"### Error ###  empty", U"### Error ###  empty", U"### Error ###"}},
+        {"the model has another header",
+         "x\r\n",
+         "I\n1000 VERSION\nSCENERY_X\r\ny\r",
+         {refused + U"x\r\n", U"I\n1000 VERSION\nSCENERY_X\ny\n", U"### Error ###"}},
+        {"the source begins with a byte-order mark and holds bad bytes",
+         header,
+         "\xEF\xBB\xBFI\n1000 version\nSCENERY\nab\xFF"
+         "c",
+         {U"I\n1000 version\nSCENERY\n", U"I\n1000 version\nSCENERY\nabc", U"I\n1000 version\nSCENERY\nabc\n"}},
+    };
+    Open();
+    for (const Row& row : rows) {
+        probe.Beeps = 0;
+        Choose(window->TextFieldMod1, row.model ? folder.File("model", row.model) : folder.Path() / "none");
+        Choose(window->TextFieldSpack, row.source ? folder.File("source", row.source) : folder.Folder("folder"));
+        Run();
+        for (const int view : {0, 1, 2})
+            EXPECT_EQ(View(view), row.views[view]) << row.name;
+        EXPECT_EQ(probe.Beeps, row.views[2] == U"### Error ###" ? 1 : 0) << row.name;
+    }
+}
+
+TEST_F(MainWindow, AModelAddressThatIsNoneIsTold)
+{
+    Open("Source Model :@: 1\nSourceUrl :@: ftp://server/model\n");
+    Run();
+    EXPECT_EQ(probe.Asked, std::vector<String>{U"L'url devrait commencer avec 'http://' o 'https://'.[Ok]"});
+    EXPECT_EQ(View(0), U"### Error ###  empty");
+}
+
+TEST_F(MainWindow, AStoppedFetchLeavesNothingBehind)
+{
+    Open("Source Model :@: 1\nSourceUrl :@: HTTP://192.0.2.1/model\n");
+    window->TextAreaAff.SetText(U"old");
+    window->BtnRun_Pressed();
+    window->TimerDebRun.SetRunMode(Timer::RunModes::Off);
+    window->TimerDebRun_Action();
+    window->Close();
+    EXPECT_EQ(probe.Beeps, 1) << "a run refuses the close";
+    EXPECT_FALSE(app->DrapOkQuit);
+    window->BtnRun_Pressed();
+    EXPECT_TRUE(Fncts::DrapMenu);
+    for (const int row : {2, 1, 0})
+        EXPECT_EQ(View(row), U"");
+}
+
+TEST_F(MainWindow, ManyReportsDoNotAskWithoutEnd)
+{
+    Open();
+    std::string source = header, model = header;
+    for (int i = 0; i < 100; ++i) {
+        const std::string line = "SCENERY_PACK line " + std::to_string(i) + "\n";
+        model += line;
+        source += line + line;
+    }
+    Choose(window->TextFieldMod1, folder.File("model", model));
+    Choose(window->TextFieldSpack, folder.File("source", source));
+    Run();
+    ASSERT_EQ(probe.Asked.size(), 21U);
+    EXPECT_EQ(probe.Asked.front(),
+              U"Problème, la ligne ci-dessous est présente plus d'une fois :\nSCENERY_PACK line 0[Ok]");
+    EXPECT_NE(probe.Asked.back().find(U"SCENERY_PACK line 99\n"), String::npos);
+}
+
+TEST_F(MainWindow, AMarkThatAnEditMadeBadIsTold)
+{
+    Open();
+    Choose(window->TextFieldMod1, folder.File("model", header));
+    Choose(window->TextFieldSpack, folder.File("source", std::string(header) + "unknown\n"));
+    Run();
+    window->TextAreaAff.SetText(U"short");
+    View(1);
+    EXPECT_EQ(View(2), U"short");
+    EXPECT_EQ(probe.Asked,
+              std::vector<String>{U"Error ! Please contact the authors.\nAffArea :\njNbre = 23\nkNbre = -1"});
+    EXPECT_EQ(probe.Beeps, 3);
+}
+
+TEST_F(MainWindow, ThePreferencesFillTheControls)
+{
+    Open(
+        "Fenetre WinMain :@: 40,50,800,600\nSource Model :@: 7\nSourceFile_Path :@: a\xFF\nArchiv Old File :@: true\n"
+        "ArchivFolder_Path :@: b\r\nSceneryPack_Path :@: c\nVolume Sonore :@: 101\nAfficher Bouton Special A :@: True");
+    EXPECT_EQ(window->Width(), 800);
+    EXPECT_EQ(window->Height(), 600);
+    EXPECT_EQ(window->RadGrpSrc.SelectedIndex(), 0);
+    EXPECT_EQ(probe.Beeps, 3) << "the source has no choice 7";
+    EXPECT_EQ(window->TextFieldMod1.Text(), U"a");
+    EXPECT_TRUE(window->ChBoxArchiv.Value());
+    EXPECT_EQ(window->TextFieldArchiv.Text(), U"b");
+    EXPECT_EQ(window->TextFieldSpack.Text(), U"c");
+    EXPECT_EQ(app->DefVolSon(-1, false), 80);
+    EXPECT_TRUE(window->SegButtSpecA.Visible());
+}
+
+TEST_F(MainWindow, AStartThatFailsSaysWhyAndQuits)
+{
+    probe.ScreenSize = {{779, 460}};
+    Open();
+    EXPECT_EQ(probe.Asked,
+              std::vector<String>{U"Error ! Please contact the authors.\n \nThe screen size is too small.[Quitter]"});
+    EXPECT_FALSE(Fncts::AinitProg);
+    EXPECT_EQ(app->Run(), 0);
+}
+
+TEST_F(MainWindow, ThePageOfVersionsOpensOnlyForAReleaseOnItsLabel)
+{
+    struct Row {
+        const char* name;
+        int x, y;
+        bool opens;
+    };
+    Open();
+    EXPECT_EQ(window->StaticTextVersion.Text(), U"v.1.1.3");
+    for (const Row& row : {Row{"inside", 0, 0, true}, Row{"on the far edge", 50, 16, true},
+                           Row{"right of it", 51, 3, false}, Row{"above it", 3, -1, false}}) {
+        probe.Links.clear();
+        EXPECT_TRUE(window->StaticTextVersion.MouseDown(1, 1));
+        window->StaticTextVersion.MouseUp(row.x, row.y);
+        window->StaticTextVersion.MouseUp(0, 0);
+        EXPECT_EQ(probe.Links.size(), row.opens ? 1U : 0U) << row.name;
+    }
+}
+
+} // namespace
