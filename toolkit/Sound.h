@@ -4,7 +4,8 @@
 #include "toolkit/core/FolderItem.h"
 
 #include <memory>
-#include <optional>
+
+class SoundVoice;
 
 /// A sound that can be played many times. The platform's sound system is woken by the first `Play`, not before.
 class Sound {
@@ -13,7 +14,7 @@ public:
     static std::unique_ptr<Sound> OpenAsSound(const FolderItem& file);
     ~Sound();
 
-    /// A second voice of the same sound and volume, or null.
+    /// A second voice of the same sound and volume.
     [[nodiscard]] std::unique_ptr<Sound> Clone() const;
     [[nodiscard]] bool IsPlaying() const;
     /// Plays from the start; without a sound device nothing happens.
@@ -24,9 +25,8 @@ public:
     void SetVolume(int percent);
 
 private:
-    struct Voice;
     explicit Sound(FolderItem file);
     FolderItem file_;
     int volume_ = 100;
-    std::unique_ptr<Voice> voice_;
+    std::unique_ptr<SoundVoice> voice_;
 };

@@ -1,0 +1,143 @@
+#include "toolkit/Dialogs.h"
+
+#include "toolkit/DesktopWindow.h"
+#include "toolkit/MessageWindow.h"
+#include "toolkit/Probe.h"
+#include "toolkit/core/QtText.h"
+
+#include <QFile>
+#include <QFileDialog>
+#include <QPointer>
+#include <memory>
+
+/// The layer's own door to what hangs a dialog on a window.
+class Dialogs {
+public:
+    /// Null for no window, and for one that can't be seen: a dialog on it would be unseen as well.
+    static QWidget* ParentOf(const DesktopWindow* window)
+    {
+        return window && window->Visible() ? window->Content()->window() : nullptr;
+    }
+};
+
+namespace {
+
+void Record(Probe& probe, String asked)
+{
+    probe.Asked.push_back(std::move(asked));
+    if (probe.WhileAsking) probe.WhileAsking();
+}
+
+/// The answer that a test has prepared.
+template <typename Kind>
+Kind TakeAnswer(Probe& probe, Kind otherwise)
+{
+    if (probe.Answers.empty()) return otherwise;
+    const Probe::Answer answer = probe.Answers.front();
+    probe.Answers.pop_front();
+    return std::get<Kind>(answer);
+}
+
+String InWords(const MessageDialog& dialog)
+{
+    String words = dialog.Message;
+    if (!dialog.Explanation.empty()) words += U"\n" + dialog.Explanation;
+    words += U"[" + dialog.ActionButton + U"]";
+    for (const String& caption : {dialog.CancelButton, dialog.AlternateActionButton})
+        if (!caption.empty()) words += U"[" + caption + U"]";
+    return words;
+}
+
+MessageDialog::Button ButtonOf(int number)
+{
+    using Button = MessageDialog::Button;
+    switch (number) {
+    case 1:
+        return Button::Action;
+    case 2:
+        return Button::Cancel;
+    case 3:
+        return Button::Alternate;
+    default:
+        return Button::None;
+    }
+}
+
+/// Runs a dialog to its end. Null when its window went away meanwhile and took it along.
+template <typename Dialog>
+std::unique_ptr<Dialog> Finished(Dialog* dialog)
+{
+    const QPointer<Dialog> watched(dialog);
+    if (dialog->parentWidget()) dialog->setWindowModality(Qt::WindowModal);
+    dialog->exec();
+    return std::unique_ptr<Dialog>(watched.data());
+}
+
+std::optional<FolderItem> Choose(std::unique_ptr<QFileDialog> chooser, const std::optional<FolderItem>& initialFolder)
+{
+    // An alias is an item of its own; the program follows it where it wants to.
+    chooser->setOptions(chooser->options() | QFileDialog::DontUseNativeDialog | QFileDialog::DontResolveSymlinks);
+    if (initialFolder) chooser->setDirectory(QFile::decodeName(initialFolder->Path().c_str()));
+    const auto finished = Finished(chooser.release());
+    if (!finished || finished->result() != QDialog::Accepted || finished->selectedFiles().isEmpty()) return {};
+    return FolderItem(QFile::encodeName(finished->selectedFiles().constFirst()).toStdString());
+}
+
+/// ".txt;.ini" as "*.txt *.ini".
+QString NameFilter(StringView extensions)
+{
+    QStringList patterns;
+    for (const StringView extension : Split(extensions, U";"))
+        if (!extension.empty()) patterns << QLatin1Char('*') + ToQt(extension);
+    return patterns.join(QLatin1Char(' '));
+}
+
+} // namespace
+
+MessageDialog::Button MessageDialog::ShowModal(DesktopWindow* window) const
+{
+    if (Probe* const probe = Probe::Current()) {
+        Record(*probe, InWords(*this));
+        return ButtonOf(TakeAnswer<int>(*probe, 1));
+    }
+    const auto finished = Finished(new MessageWindow(*this, Dialogs::ParentOf(window)));
+    return finished ? finished->Pressed() : Button::None;
+}
+
+std::optional<FolderItem> OpenFileDialog::ShowModal(DesktopWindow* window) const
+{
+    if (Probe* const probe = Probe::Current()) {
+        Record(*probe, PromptText);
+        return TakeAnswer<std::optional<FolderItem>>(*probe, {});
+    }
+    auto chooser = std::make_unique<QFileDialog>(Dialogs::ParentOf(window), ToQt(PromptText));
+    chooser->setFileMode(QFileDialog::ExistingFile);
+    const QString first = NameFilter(Filter);
+    const QString allFiles = QStringLiteral("*");
+    chooser->setNameFilters(first.isEmpty() ? QStringList(allFiles) : QStringList{first, allFiles});
+    return Choose(std::move(chooser), InitialFolder);
+}
+
+std::optional<FolderItem> SelectFolderDialog::ShowModal(DesktopWindow* window) const
+{
+    if (Probe* const probe = Probe::Current()) {
+        Record(*probe, PromptText);
+        return TakeAnswer<std::optional<FolderItem>>(*probe, {});
+    }
+    auto chooser = std::make_unique<QFileDialog>(Dialogs::ParentOf(window), ToQt(PromptText));
+    chooser->setFileMode(QFileDialog::Directory);
+    chooser->setOption(QFileDialog::ShowDirsOnly);
+    return Choose(std::move(chooser), InitialFolder);
+}
+
+void MessageBox(StringView text)
+{
+    if (Probe* const probe = Probe::Current()) {
+        Record(*probe, String(text));
+        return;
+    }
+    MessageDialog notice;
+    notice.Message = text;
+    notice.ActionButton = U"OK";
+    static_cast<void>(notice.ShowModal());
+}

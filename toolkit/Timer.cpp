@@ -1,0 +1,29 @@
+#include "toolkit/Timer.h"
+
+#include <QTimer>
+
+Timer::Timer(int period)
+    : timer_(std::make_unique<QTimer>())
+{
+    timer_->setInterval(period);
+    QObject::connect(timer_.get(), &QTimer::timeout, timer_.get(), [this] {
+        if (Action) Action();
+    });
+}
+
+Timer::~Timer() = default;
+
+void Timer::SetRunMode(RunModes mode)
+{
+    timer_->setSingleShot(mode == RunModes::Single);
+    if (mode == RunModes::Off)
+        timer_->stop();
+    else
+        timer_->start();
+}
+
+Timer::RunModes Timer::RunMode() const
+{
+    if (!timer_->isActive()) return RunModes::Off;
+    return timer_->isSingleShot() ? RunModes::Single : RunModes::Multiple;
+}
