@@ -185,11 +185,16 @@ String ReplaceLineEndings(StringView text, StringView lineEnd)
 {
     String result;
     result.reserve(text.size());
-    for (std::size_t end = text.find_first_of(U"\r\n"); end != none; end = text.find_first_of(U"\r\n")) {
-        result.append(text.substr(0, end)).append(lineEnd);
-        text.remove_prefix(end + (text.substr(end).starts_with(U"\r\n") ? 2 : 1));
+    const auto isLineEnd = [](char32_t character) { return character == U'\n' || character == U'\r'; };
+    auto start = text.begin();
+    auto end = std::find_if(start, text.end(), isLineEnd);
+    while (end != text.end()) {
+        result.append(start, end).append(lineEnd);
+        const bool isPair = *end == U'\r' && end + 1 != text.end() && end[1] == U'\n';
+        start = end + (isPair ? 2 : 1);
+        end = std::find_if(start, text.end(), isLineEnd);
     }
-    return result.append(text);
+    return result.append(start, text.end());
 }
 
 StringView Left(StringView text, Int64 length) { return text.substr(0, ToOffset(length)); }
