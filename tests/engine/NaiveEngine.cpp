@@ -1,0 +1,162 @@
+#include "tests/engine/NaiveEngine.h"
+
+#include "app/localisation/Localisation.h"
+#include "engine/Names.h"
+#include "engine/SceneryText.h"
+
+#include <algorithm>
+
+namespace {
+
+using Lines = std::vector<String>;
+
+Int64 Search(const Lines& lines, StringView line, Int64 start = 0)
+{
+    for (Int64 i = start; i < std::ssize(lines); ++i) {
+        if (SameText(lines[static_cast<std::size_t>(i)], line)) return i;
+    }
+    return -1;
+}
+
+Lines Cut(StringView text)
+{
+    const std::vector<StringView> views = Split(text, U"\n");
+    Lines lines(views.begin(), views.end());
+    while (!lines.empty() && lines.back().empty())
+        lines.pop_back();
+    return lines;
+}
+
+void Sort(Lines& lines)
+{
+    std::stable_sort(lines.begin(), lines.end(),
+                     [](const String& left, const String& right) { return FoldCase(left) < FoldCase(right); });
+}
+
+Lines Reduce(const Lines& lines)
+{
+    Lines names;
+    for (const String& line : lines) {
+        if (const StringView name = RetScenLigne(line); !name.empty()) names.emplace_back(name);
+    }
+    return names;
+}
+
+Int64 OffsetOf(const Lines& lines, std::size_t index)
+{
+    Int64 offset = 0;
+    for (std::size_t k = 0; k < index; ++k)
+        offset += std::ssize(lines[k]) + 1;
+    return offset;
+}
+
+String CheckModel(const Lines& model)
+{
+    Lines names = Reduce(model);
+    Sort(names);
+    String list, last;
+    for (std::size_t i = 1; i < names.size(); ++i) {
+        if (!SameText(names[i - 1], names[i])) {
+            last.clear();
+        } else if (!SameText(last, names[i])) {
+            last = names[i];
+            list += U"\n - " + last;
+        }
+    }
+    return list.empty() ? list : Localisation::Txt_ScenPlusDuneFois() + list;
+}
+
+String CheckFolders(const Lines& sorted, const Lines& folders)
+{
+    Lines names = Reduce(sorted);
+    String list;
+    for (const String& folder : folders) {
+        const auto found = std::find_if(names.begin(), names.end(), [&folder](const String& name) {
+            return SameText(Fncts::NrmStgEnc(name), Fncts::NrmStgEnc(folder));
+        });
+        if (found == names.end())
+            list += U"\n - " + folder;
+        else
+            names.erase(found);
+    }
+    if (!list.empty()) list = Localisation::Txt_DossDsDossPasDsScen() + list;
+    if (names.empty()) return list;
+    if (!list.empty()) list += U"\n \n";
+    list += Localisation::Txt_ScenDsScenIniPasDsDoss();
+    for (const String& name : names)
+        list += U"\n - " + name;
+    return list;
+}
+
+String TwinIn(StringView line)
+{
+    if (BeginsWith(line, U"SCENERY_PACK_DISABLED ")) return U"SCENERY_PACK " + String(line.substr(22));
+    if (BeginsWith(line, U"SCENERY_PACK ")) return U"SCENERY_PACK_DISABLED " + String(line.substr(13));
+    return {};
+}
+
+Lines PlaceModel(const Lines& model, const Lines& source, Outcome& outcome)
+{
+    Lines destination = {U"I", U"1000 version", U"SCENERY"};
+    for (std::size_t i = 3; i < model.size(); ++i) {
+        String line = model[i];
+        if (line.empty()) {
+            destination.emplace_back();
+            continue;
+        }
+        const std::size_t before = outcome.reports.size();
+        const String twin = TwinIn(line);
+        Int64 found = Search(source, line);
+        if (found >= 0 && Search(source, line, found + 1) >= 0)
+            outcome.reports.emplace_back(Localisation::Txt_ProbLignPresDxFois(), line);
+        if (!twin.empty()) {
+            const Int64 twinFound = Search(source, twin);
+            if (twinFound >= 0 && Search(source, twin, twinFound + 1) >= 0)
+                outcome.reports.emplace_back(Localisation::Txt_ProbLignPresDxFois(), twin);
+            if (found >= 0 && twinFound >= 0)
+                outcome.reports.emplace_back(Localisation::Txt_ProbLignEquiv(), line + U"\n" + twin);
+            if (found < 0) {
+                line = twin;
+                found = twinFound;
+            }
+        }
+        if (outcome.reports.size() > before) continue;
+        if (found < 0)
+            outcome.modelMarks.push_back(OffsetOf(model, i));
+        else
+            destination.push_back(line);
+    }
+    return destination;
+}
+
+void AddTheRest(Lines& destination, const Lines& source, Outcome& outcome)
+{
+    for (std::size_t j = 3; j < source.size(); ++j) {
+        if (source[j].empty() || Search(destination, source[j]) >= 0) continue;
+        const std::size_t place = std::min(j, destination.size());
+        outcome.resultMarks.push_back(OffsetOf(destination, place));
+        destination.insert(destination.begin() + static_cast<std::ptrdiff_t>(place), source[j]);
+    }
+}
+
+} // namespace
+
+Outcome RunNaively(StringView modelText, StringView sourceText, const std::vector<String>& folders)
+{
+    Outcome outcome;
+    const Lines model = Cut(modelText);
+    Lines source = Cut(sourceText);
+    if (const String refusal = CheckModel(model); !refusal.empty()) return {U"### Error ###", {}, {}, {{refusal, {}}}};
+    Lines destination = PlaceModel(model, source, outcome);
+    AddTheRest(destination, source, outcome);
+    for (const String& line : destination)
+        outcome.text += line + U"\n";
+    Sort(source);
+    Sort(destination);
+    if (!std::equal(source.begin(), source.end(), destination.begin(), destination.end(), SameText)) {
+        outcome.reports.emplace_back(Localisation::Txt_ProblemCompInitFinal(), U"");
+    } else if (const String report = CheckFolders(destination, folders); !report.empty()) {
+        outcome.reports.emplace_back(report, U"");
+    }
+    return outcome;
+}

@@ -1,0 +1,83 @@
+#include "engine/Names.h"
+#include "tests/TemporaryFolder.h"
+#include "tests/engine/NaiveEngine.h"
+
+#include <map>
+#include <random>
+
+namespace {
+
+class Dice {
+public:
+    std::size_t Roll(std::size_t sides) { return std::uniform_int_distribution<std::size_t>(0, sides - 1)(engine_); }
+
+    /// A short text whose lines meet each other often: as repeats, as twins, in another case.
+    String Text(std::size_t mostLines)
+    {
+        String text = Roll(9) == 0 ? U"i\n1000 VERSION\nscenery_X" : U"I\n1000 version\nSCENERY";
+        for (std::size_t lines = Roll(mostLines + 1); lines > 0; --lines)
+            text += U"\n" + Line();
+        return text.append(Roll(3), U'\n');
+    }
+
+private:
+    String Line()
+    {
+        static const std::vector<StringView> prefixes = {
+            U"SCENERY_PACK ",      U"SCENERY_PACK ", U"SCENERY_PACK_DISABLED ", U"SCENERY_PACK_DISABLED ", U"",
+            U"SCENERY_PAC\u212A ", U" SCENERY_PACK "};
+        static const std::vector<StringView> rests = {U"Custom Scenery/a/",
+                                                      U"Custom Scenery/é/",
+                                                      U"Custom Scenery/e\u0301/",
+                                                      U"Custom Scenery/B b/x/y",
+                                                      U"Custom Scenery/c",
+                                                      U"Custom Scenery/d:e/",
+                                                      U"Custom Scenery/f/",
+                                                      U"Custom Scenery/g/",
+                                                      U"*GLOBAL_AIRPORTS*",
+                                                      U"/x/y/",
+                                                      U"x",
+                                                      U"",
+                                                      U"",
+                                                      U"SCENERY_PACK x",
+                                                      U"I",
+                                                      U"scenery_x"};
+        String line = String(prefixes[Roll(prefixes.size())]).append(rests[Roll(rests.size())]);
+        if (Roll(4) == 0) line = FoldCase(line);
+        if (Roll(4) == 0 && !line.empty()) {
+            char32_t& letter = line[Roll(line.size())];
+            if (letter >= U'a' && letter <= U'z') letter -= U'a' - U'A';
+        }
+        return line;
+    }
+
+    std::mt19937 engine_{20240225};
+};
+
+TEST(CreerSpack, DoesWhatTheNaiveEngineDoes)
+{
+    TemporaryFolder temporary;
+    for (const char* name : {"A", "B b", "b B", "É", "d:e", "z"})
+        temporary.Folder(name);
+    const FolderItem dossier(temporary.Path());
+    std::vector<String> folders;
+    for (const FolderItem& child : dossier.Children())
+        folders.push_back(Fncts::Naff(child.Name(), true, true));
+
+    Dice dice;
+    std::map<std::size_t, int> runsByReports;
+    for (int run = 0; run < 6000; ++run) {
+        const std::size_t mostLines = 1 + dice.Roll(12);
+        const String model = dice.Text(mostLines);
+        const String source = dice.Text(mostLines);
+        const Outcome expected = RunNaively(model, source, folders);
+        ASSERT_EQ(RunEngine(model, source, dossier), expected)
+            << "run " << run << "\nmodel " << testing::PrintToString(model) << "\nsource "
+            << testing::PrintToString(source);
+        ++runsByReports[expected.reports.size()];
+    }
+    for (std::size_t reports = 0; reports <= 3; ++reports)
+        EXPECT_GT(runsByReports[reports], 20) << "the dice give too few runs with " << reports << " reports";
+}
+
+} // namespace

@@ -1,0 +1,86 @@
+#include "engine/SceneryText.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const String stars(89, U'*');
+
+String Refused(StringView text)
+{
+    return U"### Error ###  Content should begin with :\nI\n1000 version\nSCENERY\n\n" + stars + U"\n" + String(text);
+}
+
+TEST(SceneryText, Acceptance)
+{
+    struct Row {
+        const char* name;
+        String raw, text;
+        bool accepted;
+    };
+    const Row rows[] = {
+        {"an empty text is an error", U"", U"### Error ###  empty", false},
+        {"the header alone is accepted", U"I\n1000 version\nSCENERY", U"I\n1000 version\nSCENERY", true},
+        {"21 characters are too few", U"I\n1000 version\nSCENER", Refused(U"I\n1000 version\nSCENER"), false},
+        {"only 22 characters count", U"I\n1000 version\nSCENERY_X", U"I\n1000 version\nSCENERY_X", true},
+        {"case doesn't count, and stays", U"i\n1000 VERSION\nscenery\n", U"i\n1000 VERSION\nscenery\n", true},
+        {"CR LF in the header is refused and kept as it is", U"I\r\n1000 version\r\nSCENERY\r\nx\r",
+         Refused(U"I\r\n1000 version\r\nSCENERY\r\nx\r"), false},
+        {"CR in the header is refused", U"I\r1000 version\rSCENERY", Refused(U"I\r1000 version\rSCENERY"), false},
+        {"all kinds of line ends behind the header become LF", U"I\n1000 version\nSCENERY\r\n\r\na\rb\n\rc\n",
+         U"I\n1000 version\nSCENERY\n\na\nb\n\nc\n", true},
+        {"a byte-order mark is no header", U"\uFEFFI\n1000 version\nSCENERY",
+         Refused(U"\uFEFFI\n1000 version\nSCENERY"), false},
+        {"an error text is refused like any other", U"### Error ###7 x", Refused(U"### Error ###7 x"), false},
+        {"NULs are characters", String(U"I\n1000 version\nSCENERY\n\0\r\0", 26),
+         String(U"I\n1000 version\nSCENERY\n\0\n\0", 26), true},
+    };
+    for (const Row& row : rows) {
+        const Acceptance acceptance = AcceptSceneryText(row.raw);
+        EXPECT_EQ(acceptance.text, row.text) << row.name;
+        EXPECT_EQ(acceptance.accepted, row.accepted) << row.name;
+    }
+    EXPECT_EQ(LinesOf(TxtDebSpack), (std::vector<StringView>{U"I", U"1000 version", U"SCENERY"}));
+    EXPECT_EQ(LgTxtDebSpack, 22);
+}
+
+TEST(SceneryText, RetScenLigne)
+{
+    struct Row {
+        const char* name;
+        StringView line, scenery;
+    };
+    const Row rows[] = {
+        {"an enabled pack", U"SCENERY_PACK Custom Scenery/Alpes/", U"Alpes"},
+        {"a disabled pack", U"SCENERY_PACK_DISABLED Custom Scenery/Alpes/", U"Alpes"},
+        {"case doesn't count, the name keeps its own", U"scenery_pack custom scenery/AlPes/", U"AlPes"},
+        {"only the first folder of a deeper path", U"SCENERY_PACK Custom Scenery/Alpes/Sud/", U"Alpes"},
+        {"no slash behind the name", U"SCENERY_PACK Custom Scenery/Alpes", U""},
+        {"nothing behind the keyword", U"SCENERY_PACK Custom Scenery/", U""},
+        {"an empty name", U"SCENERY_PACK Custom Scenery//x/", U""},
+        {"the keyword stands inside the line", U"# SCENERY_PACK_DISABLED Custom Scenery/Alpes/", U"Alpes"},
+        {"the enabled keyword stands first", U"SCENERY_PACK Custom Scenery/a/SCENERY_PACK_DISABLED Custom Scenery/b/",
+         U"a"},
+        {"the disabled keyword stands first", U"SCENERY_PACK_DISABLED Custom Scenery/b/SCENERY_PACK Custom Scenery/a/",
+         U"b"},
+        {"the first keyword without a name hides the second",
+         U"SCENERY_PACK_DISABLED Custom Scenery//SCENERY_PACK Custom Scenery/a/", U""},
+        {"another path", U"SCENERY_PACK /Volumes/Data/Alpes/", U""},
+        {"two blanks", U"SCENERY_PACK  Custom Scenery/Alpes/", U""},
+        {"a header line", U"SCENERY", U""},
+        {"a blank line", U"", U""},
+        {"nothing is decoded or composed", U"SCENERY_PACK Custom Scenery/e\u0301 %20:é/", U"e\u0301 %20:é"},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(RetScenLigne(row.line), row.scenery) << row.name;
+}
+
+TEST(SceneryText, LongTxtTab)
+{
+    const std::vector<StringView> lines = {U"I", U"", U"é😀"};
+    EXPECT_EQ(LongTxtTab(lines, 1, -1), 0);
+    EXPECT_EQ(LongTxtTab(lines, 1, 1), 3);
+    EXPECT_EQ(LongTxtTab(lines, 2, 2), 9);
+}
+
+} // namespace
