@@ -17,7 +17,7 @@ public:
 protected:
     void showEvent(QShowEvent* event) override
     {
-        const bool stop = owner->MouseUp && owner->TabIndex() >= 0;
+        const bool stop = owner && owner->MouseUp && owner->TabIndex() >= 0;
         setFocusPolicy(stop ? Qt::TabFocus : Qt::NoFocus);
         QLabel::showEvent(event);
     }

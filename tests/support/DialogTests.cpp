@@ -1,0 +1,170 @@
+#include "support/Covers.h"
+#include "support/DialogHelpers.h"
+#include "support/Fncts.h"
+#include "support/Sounds.h"
+#include "toolkit/Probe.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Window : DesktopWindow {
+    explicit Window(const String& title)
+        : DesktopWindow({.title = title, .width = 300, .height = 200})
+    {
+        labBlockUI.Opening();
+        Show();
+    }
+
+    [[nodiscard]] DesktopUIControl& Cover() const
+    {
+        return **std::ranges::find(Controls(), U"LabBlockUI1", [](const auto* control) { return control->Name(); });
+    }
+    [[nodiscard]] bool IsCovered() const
+    {
+        const DesktopUIControl& cover = Cover();
+        return cover.Visible() && cover.Left() == 0 && cover.Top() == 0 && cover.Width() == Width() &&
+               cover.Height() == Height();
+    }
+    [[nodiscard]] bool IsFree() const { return !Cover().Visible() && Cover().Width() == 16 && Cover().Height() == 16; }
+
+    DesktopTextField field{*this, {10, 20, 100, 22}};
+    Fncts::LabBlockUISet labBlockUI{*this, 1};
+};
+
+class Dialogs : public ::testing::Test {
+protected:
+    static Int16 Ask(DesktopWindow* win, bool sheet = true)
+    {
+        return Fncts::MyDialogBox(U"Really?", U"", U"Yes", U"No", U"Later", 0, win, sheet);
+    }
+    /// What was told last, without the words that stand above each message for the authors.
+    [[nodiscard]] String Told() const { return probe_.Asked.back().substr(36); }
+
+    Probe probe_;
+    Window asking_{U"asking"}, other_{U"other"};
+};
+
+TEST_F(Dialogs, TheButtonPressedIsTheResult)
+{
+    for (const int button : {1, 2, 3, 0}) {
+        probe_.Answers.emplace_back(button);
+        EXPECT_EQ(Ask(&asking_), button);
+    }
+    EXPECT_EQ(probe_.Asked.back(), U"Really?[Yes][No][Later]");
+    Fncts::MyDialogBox(U"", U"More", U"Ok", U"", U"", 3, nullptr, true);
+    EXPECT_EQ(probe_.Asked.back(), U" \nMore[Ok]");
+    Fncts::MyDialogBox(U"No action", U"", U"", U"", U"", 0, &asking_, true);
+    EXPECT_EQ(probe_.Asked[5], U"Error !\nPlease contact the authors.\nMy DialogBox, BtnAct = ''");
+    EXPECT_EQ(probe_.Asked.size(), 7U) << "the dialog is shown all the same";
+}
+
+TEST_F(Dialogs, TheProgramIsQuietMeanwhile)
+{
+    for (const bool before : {true, false}) {
+        Fncts::DrapMenu = before;
+        probe_.WhileAsking = [&] { EXPECT_TRUE(!Fncts::DrapMenu && Fncts::DrapDiagBox); };
+        Ask(&asking_);
+        EXPECT_EQ(Fncts::DrapMenu, before);
+        EXPECT_FALSE(Fncts::DrapDiagBox);
+    }
+}
+
+TEST_F(Dialogs, ASheetCoversTheOtherVisibleWindowsAlone)
+{
+    Window hidden(U"hidden");
+    hidden.Close();
+    probe_.WhileAsking = [&] {
+        EXPECT_TRUE(asking_.IsFree() && hidden.IsFree() && other_.IsCovered());
+        other_.SetWidth(400);
+        other_.SetHeight(100);
+        EXPECT_TRUE(other_.IsCovered()) << "the cover follows the window";
+    };
+    Ask(&asking_);
+    other_.SetWidth(500);
+    EXPECT_TRUE(other_.IsFree());
+
+    probe_.WhileAsking = [&] { EXPECT_TRUE(asking_.IsFree() && other_.IsFree()); };
+    Ask(nullptr);
+    Ask(&hidden);
+    Ask(&asking_, false);
+    EXPECT_EQ(probe_.Asked.size(), 4U);
+}
+
+TEST_F(Dialogs, AChooserGivesTheItemChosen)
+{
+    const FolderItem file("/a"), folder("/");
+    probe_.Answers = {std::optional(file), std::optional(folder)};
+    EXPECT_EQ(Fncts::MyDialogLoad(file, U"File?", U".txt", &asking_, true)->Path(), "/a");
+    EXPECT_EQ(Fncts::MyDialogFolder(std::nullopt, U"Folder?", nullptr, true)->Path(), "/");
+    EXPECT_FALSE(Fncts::MyDialogFolder(folder, U"Folder?", &asking_, true)) << "the user gave up";
+    EXPECT_EQ(probe_.Asked, (std::vector<String>{U"File?", U"Folder?", U"Folder?"}));
+}
+
+TEST_F(Dialogs, AnActivatedWindowSendsTheUserBackWithOneBeep)
+{
+    const auto activate = [&] { return Fncts::CmLabBlockUI(2, &other_, nullptr, nullptr); };
+    EXPECT_TRUE(activate()) << "no dialog, no beep";
+    EXPECT_FALSE(Fncts::CmLabBlockUI(1, &asking_, nullptr, nullptr));
+    EXPECT_FALSE(activate());
+    EXPECT_EQ(probe_.Beeps, 0) << "at once after the dialog opened";
+    Fncts::Pause(14);
+    activate();
+    activate();
+    EXPECT_EQ(probe_.Beeps, 1);
+    Fncts::CmLabBlockUI(1, nullptr, nullptr, nullptr);
+}
+
+TEST_F(Dialogs, FaultsOfTheCoversAreReported)
+{
+    Fncts::CmLabBlockUI(7, nullptr, nullptr, nullptr);
+    EXPECT_EQ(Told(), U"CmLabBlockUI, Which case ? TampNbre = 7");
+    DesktopLabel first(other_, {1, 2, 3, 4}, U"UI"), clone(other_, {0, 0, 9, 9}, U"UI");
+    first.SetName(U"Label");
+    Fncts::CmLabBlockUI(0, &asking_, &first, &clone);
+    EXPECT_EQ(Told(), U"LabBlockUI, LabBlockUI(0).Parent is not Nil");
+    EXPECT_EQ(clone.Name() + clone.Text() + first.Text(), U"Label1  ");
+    EXPECT_EQ(clone.Left() * 1000 + clone.Top() * 100 + clone.Width() * 10 + clone.Height(), 1234);
+
+    clone.SetName(U"LabBlockUI1");
+    Fncts::CtrlDsFenetrDiag(&asking_, true);
+    EXPECT_EQ(Told(), U"CtrlDsFenetrDiag, there is more than one 'LabBlockUI' in window 'other'");
+    clone.SetName(U"LabBlockUI2");
+    other_.labBlockUI.Opening();
+    EXPECT_EQ(Told(), U"LabBlockUI, LabBlockUI(2) is not Nil");
+    other_.Cover().SetLocks(Lock::Left);
+    Fncts::CtrlDsFenetrDiag(&asking_, true);
+    EXPECT_EQ(Told(), U"CtrlDsFenetrDiag, 'LabBlockUI' should be Lock Left and Lock Top");
+    other_.Cover().SetName(U"");
+    Fncts::CtrlDsFenetrDiag(&asking_, true);
+    EXPECT_EQ(Told(), U"CtrlDsFenetrDiag, there is not 'LabBlockUI' in window 'other'");
+    EXPECT_EQ(probe_.Asked.size(), 6U);
+    Fncts::CtrlDsFenetrDiag(&asking_, false);
+}
+
+TEST_F(Dialogs, WindowsOpenedTooEarlyAreNamedInTheirOrder)
+{
+    Window third(U"third");
+    Fncts::CtrlFenetrOuv({&asking_, &other_, &third});
+    EXPECT_TRUE(probe_.Asked.empty());
+    Fncts::CtrlFenetrOuv({&asking_});
+    EXPECT_EQ(probe_.Asked, std::vector<String>{U"Error ! Please contact the authors, PrefsCharger, Windows launched "
+                                                U"before read AffHelpTag !\n • 'other'\n • 'third'"});
+}
+
+TEST_F(Dialogs, TextFieldsMoveUpAndTheFocusComesBack)
+{
+    DesktopSegmentedButton segment(asking_, {10, 80, 50, 20}, U"s");
+    Fncts::DecPosCtrl(asking_);
+    EXPECT_EQ(asking_.field.Top(), 19);
+    EXPECT_EQ(segment.Top(), 80);
+    asking_.field.SetFocus();
+    Ask(&asking_);
+    EXPECT_EQ(asking_.Focus(), &asking_.field);
+    segment.SetFocus();
+    Ask(&asking_);
+    EXPECT_EQ(asking_.Focus(), nullptr);
+}
+
+} // namespace

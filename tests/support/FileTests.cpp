@@ -1,0 +1,157 @@
+#include "support/FileHelpers.h"
+#include "support/Fncts.h"
+#include "tests/TemporaryFolder.h"
+#include "toolkit/Probe.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+TEST(Alias, IsResolvedOnlyWhereItLeadsSomewhere)
+{
+    const TemporaryFolder disk;
+    const fs::path file = disk.File("file");
+    const auto link = [&](const char* name, const fs::path& target) {
+        fs::create_symlink(target, disk.Path() / name);
+        return FolderItem(disk.Path() / name);
+    };
+    struct Row {
+        const char* name;
+        std::optional<FolderItem> item;
+        bool exists;
+        fs::path target;
+    };
+    const Row rows[] = {
+        {"nothing", std::nullopt, false, ""},
+        {"a file is its own target", FolderItem(file), true, file},
+        {"the root", FolderItem("/"), true, "/"},
+        {"an alias of an alias", link("second", link("alias", "file").Path()), true, file},
+        {"a dead alias exists only as itself", link("dead", "gone"), true, ""},
+        {"an alias of itself", link("circle", "circle"), true, ""},
+    };
+    for (const Row& row : rows) {
+        const auto target = Fncts::GetItemMoT_f(row.item, true), same = Fncts::GetItemMoT_f(row.item, false);
+        EXPECT_EQ(target ? target->Path() : fs::path(), row.target) << row.name;
+        EXPECT_EQ(same ? same->Path() : fs::path(), row.item ? row.item->Path() : fs::path()) << row.name;
+        EXPECT_EQ(Fncts::PasNil_Existe_Alias(row.item, true), !row.target.empty()) << row.name;
+        EXPECT_EQ(Fncts::PasNil_Existe_Alias(row.item, false), row.exists) << row.name;
+    }
+    EXPECT_FALSE(Fncts::PasNil_Existe_Alias(FolderItem(disk.Path() / "missing"), false));
+}
+
+TEST(Removal, TakesTheTreeAndLeavesWhatAliasesLeadTo)
+{
+    const TemporaryFolder disk;
+    for (const char* name : {"outside/kept", "tree/a", "tree/.b", "tree/c\xFF", "tree/d\n", "tree/e/f/g", "tree/h/i"})
+        disk.File(name, "x");
+    fs::create_directory_symlink(disk.Path() / "outside", disk.Path() / "tree/e/folder alias");
+    fs::create_symlink("nowhere", disk.Path() / "tree/dead");
+    EXPECT_FALSE(Fncts::RemoveFileOrFolder(FolderItem(disk.Path() / "tree"), true));
+    EXPECT_FALSE(fs::exists(disk.Path() / "tree"));
+    EXPECT_EQ(disk.Content("outside/kept"), "x");
+}
+
+TEST(Removal, AFailureStopsTheWatchedOnesAlone)
+{
+    const TemporaryFolder disk;
+    const FolderItem file(disk.File("file")), missing(disk.Path() / "missing");
+    EXPECT_TRUE(Fncts::RemoveFileOrFolder(missing, false));
+    EXPECT_FALSE(Fncts::ArretUrg);
+    EXPECT_TRUE(Fncts::RemoveFileOrFolder(missing, true));
+    EXPECT_TRUE(Fncts::RemoveFileOrFolder(file, true));
+    EXPECT_TRUE(file.Exists());
+    EXPECT_FALSE(Fncts::RemoveFileOrFolder(file, false));
+    EXPECT_FALSE(file.Exists());
+    Fncts::ArretUrg = false;
+}
+
+TEST(Extension, IsWhatFollowsTheLastDot)
+{
+    const std::pair<const char*, StringView> rows[] = {{"a", U""},   {".bashrc", U""}, {"a.b.c", U".c"},
+                                                       {"a.", U"."}, {".a.b", U".b"},  {"..a", U".a"}};
+    for (const auto& [name, extension] : rows)
+        EXPECT_EQ(Fncts::Extension_f(FolderItem(fs::path("/folder.d") / name)), extension) << name;
+}
+
+TEST(Application, IsInTheFolderOfTheBundleOrOfTheExecutable)
+{
+    const std::pair<const char*, const char*> rows[] = {{"/Apps/T.app/Contents/MacOS/T", "/Apps"},
+                                                        {"/opt/bin/tarnivel", "/opt/bin"},
+                                                        {"/Contents/MacOS/T", "/"},
+                                                        {"/", "/"}};
+    for (const auto& [executable, folder] : rows)
+        EXPECT_EQ(Fncts::FolderOfApplication(FolderItem(executable)).Path(), folder) << executable;
+}
+
+TEST(Reveal, AVolumeIsOpenedAndAllElseIsSelected)
+{
+    const TemporaryFolder disk;
+    const Probe probe;
+    Fncts::RevealEltFinder(FolderItem(disk.File("file")));
+    Fncts::RevealEltFinder(FolderItem("/"));
+    EXPECT_EQ(probe.Revealed, std::vector<String>{(disk.Path() / "file").u32string()});
+    EXPECT_EQ(probe.Opened, std::vector<String>{U"/"});
+}
+
+/// A user's home of its own.
+class DataFolder : public ::testing::Test {
+protected:
+    DataFolder()
+    {
+        ::setenv("HOME", home_.Path().c_str(), 1);
+        ::setenv("XDG_DATA_HOME", home_.Folder("data").c_str(), 1);
+        ::setenv("XDG_CONFIG_HOME", home_.Folder("config").c_str(), 1);
+    }
+    ~DataFolder() override { Fncts::DossierPref.reset(); }
+
+    TemporaryFolder home_;
+    const fs::path folder_ = home_.Path() / "data/fr.Kavesti.Tarnivel Datas";
+    Probe probe_;
+};
+
+TEST_F(DataFolder, IsMadeAndFilledWithWhatOlderVersionsKept)
+{
+    struct Row {
+        const char *name, *before, *after;
+    };
+    const Row rows[] = {
+        {"a folder of an older version moves in", "config/Tarnivel/Tarnivel Prefs.txt", "Tarnivel Prefs.txt"},
+        {"so does a file of the oldest", "config/Tarnivel Prefs.txt", "Tarnivel Prefs.txt"},
+        {"a folder that is there stays", "data/fr.Kavesti.Tarnivel Datas/mine", "mine"},
+        {"other files stay where they are", "config/Other Prefs.txt", "../../config/Other Prefs.txt"},
+    };
+    for (const Row& row : rows) {
+        home_.File(row.before, row.name);
+        EXPECT_TRUE(Fncts::DefDossAppDataPref()) << row.name;
+        EXPECT_EQ(Fncts::DossierPref->Path(), folder_) << row.name;
+        EXPECT_EQ(home_.Content(folder_ / row.after), row.name);
+        EXPECT_FALSE(fs::exists(home_.Path() / "config/Tarnivel")) << row.name;
+        fs::remove_all(folder_);
+    }
+    fs::remove_all(home_.Path() / "config");
+    EXPECT_TRUE(Fncts::DefDossAppDataPref()) << "no folder of preferences";
+}
+
+TEST_F(DataFolder, AFailureIsToldAndLosesNothing)
+{
+    home_.File("config/Tarnivel/Tarnivel Prefs.txt", "old");
+    home_.File("data/Tarnivel/other", "x");
+    EXPECT_FALSE(Fncts::DefDossAppDataPref());
+    EXPECT_EQ(probe_.Asked, std::vector<String>{U"Error ! Please contact the authors.\nDefDossAppDataPref, problem "
+                                                U"while creating Preferences folder!"});
+    EXPECT_EQ(probe_.Beeps, 3);
+    EXPECT_EQ(home_.Content("config/Tarnivel/Tarnivel Prefs.txt"), "old");
+}
+
+TEST_F(DataFolder, CannotBeHadBehindAFileOrWithoutAHome)
+{
+    ::setenv("XDG_DATA_HOME", home_.File("file").c_str(), 1);
+    EXPECT_FALSE(Fncts::DefDossAppDataPref());
+    ::unsetenv("HOME");
+    EXPECT_FALSE(Fncts::DefDossAppDataPref());
+    EXPECT_FALSE(Fncts::DossierPref);
+}
+
+} // namespace

@@ -1,0 +1,148 @@
+#include "support/PathForm.h"
+#include "tests/TemporaryFolder.h"
+#include "toolkit/core/TextEncoding.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+namespace fs = std::filesystem;
+using Fncts::AbsPath_f;
+using Fncts::GetFitemAbsPath;
+
+/// The path form of a place of the boot volume whose names hold no ":".
+String LongForm(const fs::path& path) { return U"Linux" + ReplaceAll(path.u32string(), U"/", U":"); }
+
+/// "" where there is nothing.
+fs::path Found(StringView path, bool followAlias = false)
+{
+    const auto item = GetFitemAbsPath(path, followAlias);
+    return item ? item->Path() : fs::path();
+}
+
+class PathForm : public ::testing::Test {
+protected:
+    PathForm() { FolderItem::SetVolumesFolder(disk_.Folder("Volumes")); }
+    ~PathForm() override { FolderItem::SetVolumesFolder(std::nullopt); }
+
+    static void ExpectRoundTrip(const fs::path& path)
+    {
+        for (const bool folderMark : {false, true}) {
+            const String form = AbsPath_f(FolderItem(path), folderMark);
+            EXPECT_EQ(Found(form), path) << Encodings::UTF8.Encode(form);
+        }
+    }
+
+    TemporaryFolder disk_;
+};
+
+TEST_F(PathForm, NamesTheVolumeFirstAndMarksFolders)
+{
+    const String start = LongForm(disk_.Path());
+    const std::pair<fs::path, String> rows[] = {
+        {"/", U"Linux:"},
+        {disk_.Folder("X-Plane 12"), start + U":X-Plane 12:"},
+        {disk_.File("10:51.ini"), start + U":10/51.ini"},
+        {disk_.File("e\u0301te\u0301"), start + U":\u00E9t\u00E9"},
+        {disk_.Folder("Volumes/Data/X-Plane 12"), U"Data:X-Plane 12:"},
+        {disk_.Folder("Volumes/Data"), U"Data:"},
+        {disk_.Path() / "Volumes/Data/new.txt", U"Data:new.txt"},
+    };
+    for (const auto& [path, form] : rows)
+        EXPECT_EQ(AbsPath_f(FolderItem(path), true), form) << path;
+    EXPECT_EQ(AbsPath_f(FolderItem("/"), false), U"Linux");
+    EXPECT_EQ(Found(U"LINUX"), "/") << "a volume's name ignores case";
+}
+
+TEST_F(PathForm, EveryNameComesBack)
+{
+    const std::string names[] = {"plain",
+                                 "a:b",
+                                 "a:",
+                                 ":",
+                                 "::",
+                                 ":a",
+                                 "\u212A",
+                                 "e\u0301t\u00E9",
+                                 "a\nb",
+                                 "\r",
+                                 " ",
+                                 ".dots.",
+                                 "...",
+                                 "a\\b",
+                                 "=\u0338",
+                                 "\u1112\u1161",
+                                 "\u0338",
+                                 "¿%",
+                                 "Linux",
+                                 "q\u0323\u0307",
+                                 std::string(255, 'n')};
+    for (const std::string& name : names) {
+        ExpectRoundTrip(disk_.File("files" / fs::path(name)));
+        ExpectRoundTrip(disk_.File("folders" / fs::path(name) / name));
+        ExpectRoundTrip(disk_.Path() / "folders" / name);
+        ExpectRoundTrip(disk_.File("Volumes" / fs::path(name) / name));
+        ExpectRoundTrip(disk_.Path() / "Volumes" / name);
+    }
+    const auto noText = GetFitemAbsPath(AbsPath_f(FolderItem(disk_.File("a\xFF")), true), true);
+    EXPECT_TRUE(!noText || !noText->Exists()) << "a name that is no text does no harm";
+}
+
+TEST_F(PathForm, WhatTheShortPathWouldMissKeepsTheLongOne)
+{
+    const std::pair<const char*, fs::path> rows[] = {
+        {"the folder of volumes itself", disk_.File("Volumes/Data/f").parent_path().parent_path()},
+        {"a folder of that name in other letters", disk_.File("volumes/Data/f")},
+        {"a hidden volume", disk_.File("Volumes/.Data/f")},
+        {"a volume that isn't there", disk_.Path() / "Volumes/new"},
+        {"a volume called as the boot volume", disk_.Folder("Volumes/Linux/etc")},
+    };
+    for (const auto& [name, path] : rows) {
+        SCOPED_TRACE(name);
+        EXPECT_EQ(AbsPath_f(FolderItem(path), false), LongForm(path));
+        ExpectRoundTrip(path);
+    }
+    FolderItem::SetVolumesFolder(disk_.Path() / "missing");
+    EXPECT_EQ(AbsPath_f(FolderItem(disk_.Path() / "Volumes/Data/f"), false), LongForm(disk_.Path() / "Volumes/Data/f"));
+}
+
+TEST_F(PathForm, OfVolumesOfOneNameTheOneThatHoldsTheItemIsTaken)
+{
+    const fs::path upper = disk_.Folder("Volumes/DATA/folder"), lower = disk_.File("Volumes/data/folder/leaf");
+    EXPECT_EQ(Found(U"Data:folder:leaf"), lower);
+    EXPECT_EQ(Found(U"Data:folder:new"), upper / "new") << "or else the first that holds its folder";
+    disk_.File("Volumes/DATA/folder/leaf");
+    ExpectRoundTrip(upper / "leaf");
+    ExpectRoundTrip(lower);
+}
+
+TEST_F(PathForm, TheDriveOfSwapFilesIsNeverTaken)
+{
+    const fs::path file = disk_.File("Volumes/vm/f");
+    EXPECT_FALSE(GetFitemAbsPath(U"vm:f", false));
+    ExpectRoundTrip(file);
+    disk_.Folder("Volumes/a");
+    EXPECT_EQ(Found(U"vm:f"), file) << "only drive 1 of that name holds swap files";
+}
+
+TEST_F(PathForm, OnlyTheLastNameMayBeMissing)
+{
+    const String start = LongForm(disk_.Path());
+    EXPECT_EQ(Found(start + U":new.ini"), disk_.Path() / "new.ini");
+    for (const String& path : {String(), String(U":"), String(U"::"), String(U":Linux"), String(U"Nowhere:x"),
+                               start + U":missing:x", start + U"::x", start + U":x::", start + U":..:x", start + U":..",
+                               start + U":a" + U'\0', start + U":.", U"Linux:" + String(100000, U':')})
+        EXPECT_FALSE(GetFitemAbsPath(path, false)) << Encodings::UTF8.Encode(path);
+}
+
+TEST_F(PathForm, AnAliasIsResolvedAtTheEndAndOnRequest)
+{
+    const fs::path file = disk_.File("folder/file"), alias = disk_.Path() / "alias", onTheWay = disk_.Path() / "way";
+    fs::create_symlink(file, alias);
+    fs::create_symlink("folder", onTheWay);
+    EXPECT_EQ(Found(LongForm(alias), true), file);
+    EXPECT_EQ(Found(LongForm(alias), false), alias);
+    EXPECT_EQ(Found(LongForm(onTheWay / "file"), true), onTheWay / "file");
+}
+
+} // namespace

@@ -1,0 +1,57 @@
+#include "support/SoundThrottle.h"
+#include "support/Sounds.h"
+#include "toolkit/Probe.h"
+#include "toolkit/core/System.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(SoundThrottle, AdmitsFiftyAndOneMoreEveryTwelveTicks)
+{
+    SoundThrottle throttle;
+    const auto admitted = [&](Int64 now) {
+        int count = 0;
+        while (count < 100 && throttle.Admit(now))
+            ++count;
+        return count;
+    };
+    EXPECT_EQ(admitted(1000), 50);
+    EXPECT_EQ(admitted(1011), 0);
+    EXPECT_EQ(admitted(1012), 1) << "a refused sound doesn't put the moment off";
+    EXPECT_EQ(admitted(1036), 2);
+    EXPECT_EQ(admitted(5), 0) << "a clock that goes back forgets nothing";
+    throttle.Penalise();
+    EXPECT_EQ(admitted(1167), 0);
+    EXPECT_EQ(admitted(1168), 1) << "two seconds later than without the failure";
+    EXPECT_EQ(admitted(1000000), 50);
+}
+
+TEST(Beeps, AreCountedWithPausesBetween)
+{
+    const Probe probe;
+    Fncts::BeepNbT(0);
+    Fncts::BeepNbT(-1);
+    EXPECT_EQ(probe.Beeps, 0);
+    const Int64 start = System::Ticks();
+    Fncts::BeepNbT(3);
+    EXPECT_EQ(probe.Beeps, 3);
+    EXPECT_GE(System::Ticks() - start, 20);
+}
+
+TEST(Sounds, EachPlaysItsOwnFileAtTheCommonVolume)
+{
+    const Probe probe;
+    Fncts::SetVolume(35);
+    for (Sound* const sound : {Fncts::_x_Bip::Bip(), Fncts::_x_Whit::Whit(), Fncts::_x_Glass_t::Glass_t(),
+                               Fncts::_x_Agrafeuse_t::Agrafeuse_t(), Fncts::_x_Msg::Msg()}) {
+        Fncts::PlayT(sound);
+        ASSERT_NE(sound, nullptr);
+        EXPECT_EQ(sound->Volume(), 35);
+    }
+    Fncts::PlayT(nullptr);
+    EXPECT_EQ(probe.Sounds,
+              (std::vector<String>{U"Bip.wav", U"Whit.wav", U"Glass_t.wav", U"Agrafeuse_t.wav", U"Msg.wav"}));
+}
+
+} // namespace
