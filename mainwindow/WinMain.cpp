@@ -10,6 +10,7 @@
 #include "support/Sounds.h"
 #include "support/TextHelpers.h"
 #include "toolkit/Desktop.h"
+#include "toolkit/Dialogs.h"
 
 using namespace Localisation;
 
@@ -50,7 +51,7 @@ WinMain::WinMain()
     , BtnAffDoss          (*this, { 346, 132, 120,  20, T | R,         19}, Btn_AffDoss())
     , TextFieldCherch     (*this, {  52, 475, 175,  22, L | B,         20})
     , PushButtCherch      (*this, { 257, 475,  38,  20, L | B,         22}, U"☞", 18)
-    , LabBlockUI          (*this)
+    , LabBlockUI          (*this, 23)
     , PushButtInitCherch  (*this, { 229, 475,  26,  20, L | B,         24}, U"⊗")
     , PushButtDebug       (*this, { 315, 478,  80,  20, L | B,         25}, U"Debug Butt")
     , PopMenuAff          (*this, { 158, 132, 126,  20, L | T,         11}, PopupAff(), 2)

@@ -8,6 +8,7 @@
 #include "toolkit/DesktopWindow.h"
 #include "toolkit/Timer.h"
 #include "toolkit/URLConnection.h"
+#include "toolkit/core/FolderItem.h"
 
 /// The window on which everything is done: it names the model and the scenery_packs.ini, runs, and shows and edits the
 /// three texts.
@@ -35,7 +36,7 @@ public:
     DesktopButton BtnAide, BtnEnabDis, BtnAffDoss;
     DesktopTextField TextFieldCherch;
     DesktopButton PushButtCherch;
-    Fncts::LabBlockUI LabBlockUI;
+    Fncts::LabBlockUISet LabBlockUI;
     DesktopButton PushButtInitCherch;
     URLConnection URLCnctLirePage;
     DesktopButton PushButtDebug;
