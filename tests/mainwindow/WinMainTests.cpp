@@ -106,7 +106,7 @@ TEST_F(MainWindow, ARefusedTextStandsWhereItsViewIs)
     for (const Row& row : rows) {
         probe.Beeps = 0;
         Choose(window->TextFieldMod1, row.model ? folder.File("model", row.model) : folder.Path() / "none");
-        Choose(window->TextFieldSpack, row.source ? folder.File("source", row.source) : folder.Folder("folder"));
+        Choose(window->TextFieldSpack, row.source ? folder.File("Custom Scenery/source", row.source) : folder.Folder("folder"));
         Run();
         for (const int view : {0, 1, 2})
             EXPECT_EQ(View(view), row.views[view]) << row.name;
@@ -148,7 +148,7 @@ TEST_F(MainWindow, ManyReportsDoNotAskWithoutEnd)
         source += line + line;
     }
     Choose(window->TextFieldMod1, folder.File("model", model));
-    Choose(window->TextFieldSpack, folder.File("source", source));
+    Choose(window->TextFieldSpack, folder.File("Custom Scenery/source", source));
     Run();
     ASSERT_EQ(probe.Asked.size(), 21U);
     EXPECT_EQ(probe.Asked.front(),
@@ -160,7 +160,7 @@ TEST_F(MainWindow, AMarkThatAnEditMadeBadIsTold)
 {
     Open();
     Choose(window->TextFieldMod1, folder.File("model", header));
-    Choose(window->TextFieldSpack, folder.File("source", std::string(header) + "unknown\n"));
+    Choose(window->TextFieldSpack, folder.File("Custom Scenery/source", std::string(header) + "unknown\n"));
     Run();
     window->TextAreaAff.SetText(U"short");
     View(1);
