@@ -95,17 +95,19 @@ class Program:
                     self.application = child
         return self.application
 
-    def windows(self, *roles):
+    def windows(self, dialogs):
+        """The dialogs, or the windows that are none, that are on the screen."""
         application = self._application()
         children = (application.get_child_at_index(i) for i in range(application.get_child_count())) if application else ()
-        return [child for child in children if child and child.get_role_name() in roles and has(child, "showing")]
+        shown = [child for child in children if child and has(child, "showing")]
+        return [child for child in shown if (child.get_role_name() in ("alert", "dialog")) == dialogs]
 
     def window(self):
         """The main window, once it is on the screen."""
-        return self.wait_for("a main window", lambda: next(iter(self.windows("frame")), None))
+        return self.wait_for("a main window", lambda: next(iter(self.windows(dialogs=False)), None))
 
     def dialog(self):
-        return self.wait_for("a dialog", lambda: next(iter(self.windows("alert", "dialog")), None))
+        return self.wait_for("a dialog", lambda: next(iter(self.windows(dialogs=True)), None))
 
     def all(self, role=None, name=None):
         """What is to be seen in the main window, by role and by name (or one of several names)."""
@@ -141,7 +143,7 @@ class Program:
         answers = [self.answer()]
 
         def next_dialog_or_end():
-            return self.windows("alert", "dialog") or self.all("push button", caption)
+            return self.windows(dialogs=True) or self.all("push button", caption)
 
         while self.wait_for("the end of the run", next_dialog_or_end)[0].get_role_name() != "push button":
             answers.append(self.answer())
