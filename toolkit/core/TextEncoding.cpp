@@ -9,7 +9,7 @@
 namespace {
 
 // Texts pass through UTF-16 in pieces, so that a large one never lies in memory a third time.
-constexpr std::size_t pieceSize = 1 << 16;
+constexpr std::size_t pieceSize = 1 << 14;
 
 bool IsContinuation(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
 
