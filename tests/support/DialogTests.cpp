@@ -23,9 +23,7 @@ struct Window : DesktopWindow {
     }
     [[nodiscard]] bool IsCovered() const
     {
-        const DesktopUIControl& cover = Cover();
-        return cover.Visible() && cover.Left() == 0 && cover.Top() == 0 && cover.Width() == Width() &&
-               cover.Height() == Height();
+        return Cover().Visible() && Cover().Width() == Width() && Cover().Height() == Height();
     }
     [[nodiscard]] bool IsFree() const { return !Cover().Visible() && Cover().Width() == 16 && Cover().Height() == 16; }
 
@@ -46,11 +44,15 @@ protected:
     Window asking_{U"asking"}, other_{U"other"};
 };
 
-TEST_F(Dialogs, TheButtonPressedIsTheResult)
+TEST_F(Dialogs, TheButtonPressedIsTheResultAndTheProgramIsQuietMeanwhile)
 {
+    probe_.WhileAsking = [] { EXPECT_TRUE(!Fncts::DrapMenu && Fncts::DrapDiagBox); };
     for (const int button : {1, 2, 3, 0}) {
+        Fncts::DrapMenu = button == 1;
         probe_.Answers.emplace_back(button);
         EXPECT_EQ(Ask(&asking_), button);
+        EXPECT_EQ(Fncts::DrapMenu, button == 1);
+        EXPECT_FALSE(Fncts::DrapDiagBox);
     }
     EXPECT_EQ(probe_.Asked.back(), U"Really?[Yes][No][Later]");
     Fncts::MyDialogBox(U"", U"More", U"Ok", U"", U"", 3, nullptr, true);
@@ -58,17 +60,6 @@ TEST_F(Dialogs, TheButtonPressedIsTheResult)
     Fncts::MyDialogBox(U"No action", U"", U"", U"", U"", 0, &asking_, true);
     EXPECT_EQ(probe_.Asked[5], U"Error !\nPlease contact the authors.\nMy DialogBox, BtnAct = ''");
     EXPECT_EQ(probe_.Asked.size(), 7U) << "the dialog is shown all the same";
-}
-
-TEST_F(Dialogs, TheProgramIsQuietMeanwhile)
-{
-    for (const bool before : {true, false}) {
-        Fncts::DrapMenu = before;
-        probe_.WhileAsking = [&] { EXPECT_TRUE(!Fncts::DrapMenu && Fncts::DrapDiagBox); };
-        Ask(&asking_);
-        EXPECT_EQ(Fncts::DrapMenu, before);
-        EXPECT_FALSE(Fncts::DrapDiagBox);
-    }
 }
 
 TEST_F(Dialogs, ASheetCoversTheOtherVisibleWindowsAlone)
@@ -80,10 +71,13 @@ TEST_F(Dialogs, ASheetCoversTheOtherVisibleWindowsAlone)
         other_.SetWidth(400);
         other_.SetHeight(100);
         EXPECT_TRUE(other_.IsCovered()) << "the cover follows the window";
+        EXPECT_EQ(other_.Focus(), nullptr) << "the keyboard is blocked too";
     };
+    other_.field.SetFocus();
     Ask(&asking_);
+    EXPECT_EQ(other_.Focus(), &other_.field);
     other_.SetWidth(500);
-    EXPECT_TRUE(other_.IsFree());
+    EXPECT_TRUE(other_.IsFree() && other_.Height() == 100);
 
     probe_.WhileAsking = [&] { EXPECT_TRUE(asking_.IsFree() && other_.IsFree()); };
     Ask(nullptr);

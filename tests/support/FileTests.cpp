@@ -18,25 +18,20 @@ TEST(Alias, IsResolvedOnlyWhereItLeadsSomewhere)
         return FolderItem(disk.Path() / name);
     };
     struct Row {
-        const char* name;
         std::optional<FolderItem> item;
-        bool exists;
         fs::path target;
     };
     const Row rows[] = {
-        {"nothing", std::nullopt, false, ""},
-        {"a file is its own target", FolderItem(file), true, file},
-        {"the root", FolderItem("/"), true, "/"},
-        {"an alias of an alias", link("second", link("alias", "file").Path()), true, file},
-        {"a dead alias exists only as itself", link("dead", "gone"), true, ""},
-        {"an alias of itself", link("circle", "circle"), true, ""},
+        {std::nullopt, ""},         {FolderItem(file), file},
+        {FolderItem("/"), "/"},     {link("second", link("alias", "file").Path()), file},
+        {link("dead", "gone"), ""}, {link("circle", "circle"), ""},
     };
-    for (const Row& row : rows) {
-        const auto target = Fncts::GetItemMoT_f(row.item, true), same = Fncts::GetItemMoT_f(row.item, false);
-        EXPECT_EQ(target ? target->Path() : fs::path(), row.target) << row.name;
-        EXPECT_EQ(same ? same->Path() : fs::path(), row.item ? row.item->Path() : fs::path()) << row.name;
-        EXPECT_EQ(Fncts::PasNil_Existe_Alias(row.item, true), !row.target.empty()) << row.name;
-        EXPECT_EQ(Fncts::PasNil_Existe_Alias(row.item, false), row.exists) << row.name;
+    for (const auto& [item, target] : rows) {
+        const fs::path place = item ? item->Path() : fs::path();
+        EXPECT_EQ(Fncts::GetItemMoT_f(item, true).value_or(FolderItem("")).Path(), target) << place;
+        EXPECT_EQ(Fncts::GetItemMoT_f(item, false).value_or(FolderItem("")).Path(), place);
+        EXPECT_EQ(Fncts::PasNil_Existe_Alias(item, true), !target.empty()) << place;
+        EXPECT_EQ(Fncts::PasNil_Existe_Alias(item, false), item.has_value()) << place;
     }
     EXPECT_FALSE(Fncts::PasNil_Existe_Alias(FolderItem(disk.Path() / "missing"), false));
 }
@@ -113,21 +108,18 @@ protected:
 
 TEST_F(DataFolder, IsMadeAndFilledWithWhatOlderVersionsKept)
 {
-    struct Row {
-        const char *name, *before, *after;
+    const std::pair<const char*, const char*> rows[] = {
+        {"config/Tarnivel/Tarnivel Prefs.txt", "Tarnivel Prefs.txt"},
+        {"config/Tarnivel Prefs.txt", "Tarnivel Prefs.txt"},
+        {"data/fr.Kavesti.Tarnivel Datas/mine", "mine"},
+        {"config/Other Prefs.txt", "../../config/Other Prefs.txt"},
     };
-    const Row rows[] = {
-        {"a folder of an older version moves in", "config/Tarnivel/Tarnivel Prefs.txt", "Tarnivel Prefs.txt"},
-        {"so does a file of the oldest", "config/Tarnivel Prefs.txt", "Tarnivel Prefs.txt"},
-        {"a folder that is there stays", "data/fr.Kavesti.Tarnivel Datas/mine", "mine"},
-        {"other files stay where they are", "config/Other Prefs.txt", "../../config/Other Prefs.txt"},
-    };
-    for (const Row& row : rows) {
-        home_.File(row.before, row.name);
-        EXPECT_TRUE(Fncts::DefDossAppDataPref()) << row.name;
-        EXPECT_EQ(Fncts::DossierPref->Path(), folder_) << row.name;
-        EXPECT_EQ(home_.Content(folder_ / row.after), row.name);
-        EXPECT_FALSE(fs::exists(home_.Path() / "config/Tarnivel")) << row.name;
+    for (const auto& [before, after] : rows) {
+        home_.File(before, before);
+        EXPECT_TRUE(Fncts::DefDossAppDataPref()) << before;
+        EXPECT_EQ(Fncts::DossierPref->Path(), folder_);
+        EXPECT_EQ(home_.Content(folder_ / after), before);
+        EXPECT_FALSE(fs::exists(home_.Path() / "config/Tarnivel"));
         fs::remove_all(folder_);
     }
     fs::remove_all(home_.Path() / "config");
@@ -143,15 +135,13 @@ TEST_F(DataFolder, AFailureIsToldAndLosesNothing)
                                                 U"while creating Preferences folder!"});
     EXPECT_EQ(probe_.Beeps, 3);
     EXPECT_EQ(home_.Content("config/Tarnivel/Tarnivel Prefs.txt"), "old");
-}
 
-TEST_F(DataFolder, CannotBeHadBehindAFileOrWithoutAHome)
-{
     ::setenv("XDG_DATA_HOME", home_.File("file").c_str(), 1);
-    EXPECT_FALSE(Fncts::DefDossAppDataPref());
+    EXPECT_FALSE(Fncts::DefDossAppDataPref()) << "a file is in the place of the folder";
     ::unsetenv("HOME");
     EXPECT_FALSE(Fncts::DefDossAppDataPref());
     EXPECT_FALSE(Fncts::DossierPref);
+    EXPECT_EQ(probe_.Asked.size(), 1U);
 }
 
 } // namespace

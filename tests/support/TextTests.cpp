@@ -1,5 +1,4 @@
 #include "support/TextHelpers.h"
-#include "toolkit/Desktop.h"
 #include "toolkit/Probe.h"
 
 #include <gtest/gtest.h>
@@ -12,7 +11,6 @@ TEST(FracTexte, CutsAtPlaceholdersAndReportsAMissingPart)
     const Probe probe;
     EXPECT_EQ(Fncts::FracTexte(U"a¿%b¿%", 1), U"a");
     EXPECT_EQ(Fncts::FracTexte(U"a¿%b¿%", 3), U"");
-    EXPECT_EQ(Fncts::FracTexte(U"50 %, ¿ no", 1), U"50 %, ¿ no");
     EXPECT_TRUE(probe.Asked.empty());
     EXPECT_EQ(Fncts::FracTexte(U"a¿%b", 0), U"");
     EXPECT_EQ(Fncts::FracTexte(U"a¿%b", 3), U"");
@@ -23,9 +21,8 @@ TEST(FracTexte, CutsAtPlaceholdersAndReportsAMissingPart)
 /// Grows a window byte by byte while it is valid text; what it held before a bad byte is kept, the bad byte is not.
 Bytes KeptByAGrowingWindow(const Bytes& text)
 {
-    if (text.empty()) return {};
-    std::size_t start = 0, length = 1;
     Bytes kept;
+    std::size_t start = 0, length = 1;
     const auto isValid = [&] { return Encodings::UTF8.IsValidData(std::string_view(text).substr(start, length)); };
     while (start + length < text.size()) {
         if (isValid()) {
@@ -40,7 +37,7 @@ Bytes KeptByAGrowingWindow(const Bytes& text)
     return length != 1 ? kept + text.substr(start, length - 1) : kept;
 }
 
-TEST(NettoiBadEncod, KeepsWhatAGrowingWindowWouldKeep)
+TEST(NettoiBadEncod, KeepsWhatAGrowingWindowWouldKeepInOnePass)
 {
     // Few different bytes, so that whole characters, halves of them and strays all come up, at both ends too.
     const Bytes bytes("a\0\n\x7F\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80\xED\xA0\xFF\xC0", 18);
@@ -51,13 +48,8 @@ TEST(NettoiBadEncod, KeepsWhatAGrowingWindowWouldKeep)
             byte = bytes[random() % bytes.size()];
         ASSERT_EQ(Fncts::NettoiBadEncod(text, Encodings::UTF8), KeptByAGrowingWindow(text)) << round;
     }
-}
-
-TEST(NettoiBadEncod, TakesALongTextInOnePass)
-{
-    Bytes text(std::size_t{10} << 20, 'a');
-    text.back() = '\xFF';
-    EXPECT_EQ(Fncts::NettoiBadEncod(text, Encodings::UTF8).size(), text.size() - 1);
+    const Bytes ascii(std::size_t{10} << 20, 'a');
+    EXPECT_EQ(Fncts::NettoiBadEncod(ascii + '\xFF', Encodings::UTF8), ascii);
 }
 
 TEST(MenuLabEt, DoublesAmpersandsAndBack)
@@ -69,12 +61,6 @@ TEST(MenuLabEt, DoublesAmpersandsAndBack)
     EXPECT_TRUE(probe.Asked.empty());
     EXPECT_EQ(Fncts::MenuLabEt(U"a&b", true, 4), U"a&b");
     EXPECT_EQ(probe.Asked, std::vector<String>{U"Error !\nPlease contact the authors.\nMenuLabEt, CeTypObj = 4"});
-}
-
-TEST(PressPapTxt, PutsTheTextOnTheClipboard)
-{
-    Fncts::PressPapTxt(U"a\tb\n\U0001F600");
-    EXPECT_EQ(Clipboard::Text(), U"a\tb\n\U0001F600");
 }
 
 } // namespace
