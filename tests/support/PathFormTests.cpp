@@ -87,15 +87,13 @@ TEST_F(PathForm, OfVolumesOfOneNameTheOneThatHoldsTheItemIsTaken)
     EXPECT_EQ(Found(U"Data:folder:new"), upper / "new") << "or else the first that holds its folder";
     ExpectRoundTrip(disk_.File("Volumes/DATA/folder/leaf"));
     ExpectRoundTrip(lower);
-}
 
-TEST_F(PathForm, TheDriveOfSwapFilesIsNeverTaken)
-{
-    const fs::path file = disk_.File("Volumes/vm/f");
-    EXPECT_EQ(Found(U"vm:f"), "");
-    ExpectRoundTrip(file);
-    disk_.Folder("Volumes/a");
-    EXPECT_EQ(Found(U"vm:f"), file) << "only drive 1 of that name holds swap files";
+    disk_.File("Volumes/vm/f");
+    EXPECT_EQ(Found(U"vm:f"), disk_.Path() / "Volumes/vm/f");
+    fs::remove_all(upper.parent_path());
+    fs::remove_all(disk_.Path() / "Volumes/data");
+    EXPECT_EQ(Found(U"vm:f"), "") << "the first drive after the boot volume holds swap files if that is its name";
+    ExpectRoundTrip(disk_.Path() / "Volumes/vm/f");
 }
 
 TEST_F(PathForm, OnlyTheLastNameMayBeMissingOrAnAliasToFollow)
