@@ -21,9 +21,11 @@ public:
     void Send(StringView method, StringView url, int timeout);
     /// Ends a request under way without an event.
     void Disconnect();
+    /// The next request goes out as the first one did: without cookies or log-ins from earlier answers.
     void ClearRequestHeaders();
 
-    /// The whole answer of the server, an error page included; the bytes as they came.
+    /// The answer of the server, an error page included; the bytes as they came. One that was sent without its length
+    /// ends where the connection does.
     std::function<void(const String& url, Int64 httpStatus, const Bytes& content)> ContentReceived;
     /// No server, no answer in time, an answer that broke off, or one of more than `MaximumSize` bytes.
     std::function<void(const RuntimeException& error)> Error;
