@@ -5,6 +5,7 @@
 #include "toolkit/core/QtText.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QPointer>
@@ -165,6 +166,9 @@ void DesktopWindow::Show()
     shell_->show();
     shell_->raise();
     shell_->activateWindow();
+    // Not every desktop hands the keyboard on to the dialog that blocks the window.
+    QWidget* const dialog = QApplication::activeModalWidget();
+    if (dialog && dialog->parentWidget() == shell_.get()) dialog->activateWindow();
 }
 
 void DesktopWindow::Close()
