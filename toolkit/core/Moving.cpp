@@ -13,13 +13,14 @@ namespace {
 std::error_code Duplicate(const fs::path& from, const fs::path& to)
 {
     std::error_code error;
-    if (fs::is_symlink(fs::symlink_status(from, error))) {
+    const fs::file_type kind = fs::symlink_status(from, error).type();
+    if (kind == fs::file_type::symlink) {
         const fs::path destination = fs::read_symlink(from, error);
         if (!error) fs::create_symlink(destination, to, error);
         return error;
     }
     fs::create_hard_link(from, to, error);
-    if (!error || error == std::errc::file_exists || !fs::is_regular_file(from)) return error;
+    if (!error || error == std::errc::file_exists || kind != fs::file_type::regular) return error;
 
     // Another file system, or one without hard links.
     fs::copy_file(from, to, fs::copy_options::none, error);
