@@ -34,9 +34,9 @@ std::error_code MoveFile(const fs::path& from, const fs::path& to)
 {
     std::error_code error = Duplicate(from, to);
     if (error) return error;
-    if (fs::remove(from, error)) return {};
+    fs::remove(from, error);
     std::error_code ignored;
-    fs::remove(to, ignored);
+    if (error) fs::remove(to, ignored);
     return error;
 }
 
