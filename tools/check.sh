@@ -43,7 +43,6 @@ lint() {
     local sources
     sources=$(sed -n 's/^ *"file": "\(.*\)",\?$/\1/p' build/release/compile_commands.json |
         grep -vF "$PWD/build/" | sort -u)
-    # shellcheck disable=SC2086  # xargs splits them
     xargs -d '\n' -n 1 -P "$(nproc)" clang-tidy -p build/release --quiet \
         --extra-arg=-Wno-unknown-warning-option <<<"$sources" 2>build/release/tidy.log |
         grep -v '^$'

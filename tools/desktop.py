@@ -179,8 +179,8 @@ class Program:
         assert Atspi.EditableText.set_text_contents(node, text)
 
     def color_at(self, node, offset):
-        """The text colour at an offset, as "red,green,blue"."""
-        return Atspi.Text.get_attribute_run(node, offset, False)[0].get("fg-color")
+        """The text colour at an offset, as "red,green,blue"; black where the text has no colour of its own."""
+        return Atspi.Text.get_attribute_run(node, offset, False)[0].get("fg-color", "0,0,0")
 
     def screenshot(self, path):
         """The screen without its empty border."""
