@@ -83,12 +83,11 @@ void MessageWindow::AddText(QTextEdit& text, const MessageDialog& content) const
     writer.insertText(ToQt(content.Message), strong);
     if (!content.Explanation.empty()) {
         writer.insertBlock(QTextBlockFormat(), QTextCharFormat());
-        QTextCursor firstLine = writer;
-        firstLine.setKeepPositionOnInsert(true);
+        const QTextBlock firstLine = writer.block();
         writer.insertText(ToQt(content.Explanation), QTextCharFormat());
         QTextBlockFormat apart;
         apart.setTopMargin(text.fontMetrics().height() / 2.0);
-        firstLine.setBlockFormat(apart);
+        QTextCursor(firstLine).setBlockFormat(apart);
     }
     writer.endEditBlock();
     text.moveCursor(QTextCursor::Start);
@@ -119,16 +118,21 @@ void MessageWindow::FitToScreen(QTextEdit& text, int heightOfTheRest) const
     const int mostHeight = screen()->availableGeometry().height() * percentOfScreen / 100 - heightOfTheRest;
 
     QTextDocument& document = *text.document();
-    document.setTextWidth(widest);
-    const int width = std::clamp(static_cast<int>(std::ceil(document.idealWidth())), narrowest, widest);
-    document.setTextWidth(width);
-    const int height = static_cast<int>(std::ceil(document.size().height()));
-    const bool fits = height <= mostHeight;
+    QSize size(widest, mostHeight);
+    // Measuring a report of thousands of lines takes a second, and their number alone says that it scrolls.
+    bool fits = document.blockCount() * text.fontMetrics().height() <= mostHeight;
+    if (fits) {
+        document.setTextWidth(widest);
+        size.setWidth(std::clamp(static_cast<int>(std::ceil(document.idealWidth())), narrowest, widest));
+        document.setTextWidth(size.width());
+        fits = document.size().height() <= mostHeight;
+    }
+    if (fits) size.setHeight(static_cast<int>(std::ceil(document.size().height())));
     text.setVerticalScrollBarPolicy(fits ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAlwaysOn);
     // What scrolls can be reached with the Tab key, and is moved with the arrows.
     text.setFocusPolicy(fits ? Qt::ClickFocus : Qt::StrongFocus);
     const int barWidth = fits ? 0 : text.verticalScrollBar()->sizeHint().width();
-    text.setFixedSize(width + barWidth, std::min(height, mostHeight));
+    text.setFixedSize(size.width() + barWidth, size.height());
 }
 
 void MessageWindow::Answer(MessageDialog::Button button)

@@ -1,13 +1,16 @@
-#include <QApplication>
+#include "toolkit/DesktopApplication.h"
+
+#include <cstdlib>
 #include <gtest/gtest.h>
 
 int main(int argc, char** argv)
 {
     testing::InitGoogleTest(&argc, argv);
-    if (qEnvironmentVariableIsEmpty("DISPLAY")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    // The servers of the tests are on this computer.
+    setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    // The servers of the tests are on this computer, and its sound server is left alone.
     for (const char* const name : {"http_proxy", "https_proxy", "all_proxy", "HTTP_PROXY", "HTTPS_PROXY", "ALL_PROXY"})
-        qunsetenv(name);
-    const QApplication application(argc, argv);
+        unsetenv(name);
+    setenv("PULSE_SERVER", "unix:/nowhere", 1);
+    const DesktopApplication application(argc, argv, U"Services tests", U"1.0");
     return RUN_ALL_TESTS();
 }
