@@ -2,7 +2,7 @@
 
 import sys
 
-from desktop import Program, has, nodes, private_environment
+from desktop import Program, has, private_environment
 from sample import DISABLED, ENABLED, pack, sample
 
 BLACK, GREEN, RED, ORANGE = "0,0,0", "0,200,0", "255,0,0", "255,127,0"
@@ -19,11 +19,12 @@ CONTROLS = {
 
 
 def check_names(program):
-    for role, names in CONTROLS.items():
-        for name in names:
-            program.find(role, name)
-    nameless = [n for n in nodes(program.window()) if has(n, "showing", "focusable") and not n.get_name()]
-    assert not nameless, [node.get_role_name() for node in nameless]
+    program.find("push button", "Générer")
+    shown = {(node.get_role_name(), node.get_name()): node for node in program.all()}
+    missing = {(role, name) for role, names in CONTROLS.items() for name in names} - set(shown)
+    assert not missing, missing
+    nameless = [role for (role, name), node in shown.items() if not name and has(node, "focusable")]
+    assert not nameless, nameless
 
 
 def check_report(report, files):
