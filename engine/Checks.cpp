@@ -2,7 +2,7 @@
 
 #include "app/localisation/Localisation.h"
 #include "engine/Names.h"
-#include "engine/SceneryText.h"
+#include "engine/Sorting.h"
 #include "engine/TextNumbers.h"
 
 #include <algorithm>
@@ -17,13 +17,23 @@ struct Listing {
     StringView line, name;
 };
 
-std::vector<Listing> ListingsOf(std::span<const StringView> lines)
+std::vector<Listing> ListingsOf(std::span<const SceneryLine> lines)
 {
     std::vector<Listing> listings;
-    for (const StringView line : lines) {
-        if (const StringView name = RetScenLigne(line); !name.empty()) listings.push_back({line, name});
+    listings.reserve(lines.size());
+    for (const SceneryLine& line : lines) {
+        if (const StringView name = RetScenLigne(line.text); !name.empty()) listings.push_back({line.text, name});
     }
     return listings;
+}
+
+std::vector<StringView> NamesOf(std::span<const Listing> listings)
+{
+    std::vector<StringView> names;
+    names.reserve(listings.size());
+    for (const Listing& listing : listings)
+        names.push_back(listing.name);
+    return names;
 }
 
 std::vector<String> FolderNames(const FolderItem& dossier)
@@ -54,12 +64,6 @@ String Bulleted(std::span<const StringView> names)
     return list;
 }
 
-bool SortsBefore(StringView left, StringView right)
-{
-    return std::lexicographical_compare(left.begin(), left.end(), right.begin(), right.end(),
-                                        [](char32_t a, char32_t b) { return FoldCase(a) < FoldCase(b); });
-}
-
 /// The folders of `Custom Scenery` beside the lines that list sceneries, paired by name. Of several of one name the
 /// first folder goes with the first line, and so on.
 class Pairing {
@@ -83,12 +87,10 @@ Pairing::Pairing(std::span<const String> folders, std::span<const Listing> listi
     , names_(folders.size())
     , ofFolder_(names_.Add(std::vector<StringView>(folders.begin(), folders.end())))
 {
-    std::deque<String> composed;
-    std::vector<StringView> names;
-    names.reserve(listings.size());
-    for (const Listing& listing : listings) {
-        String form = Fncts::NrmStgEnc(listing.name);
-        names.push_back(form == listing.name ? listing.name : composed.emplace_back(std::move(form)));
+    std::deque<String> changed;
+    std::vector<StringView> names = NamesOf(listings);
+    for (StringView& name : names) {
+        if (String form = Fncts::NrmStgEnc(name); form != name) name = changed.emplace_back(std::move(form));
     }
     ofListing_ = names_.Find(names);
     folderCounts_ = CountEach(ofFolder_, names_.Count());
@@ -111,18 +113,19 @@ std::vector<StringView> Pairing::UnlistedFolders() const
 
 std::vector<StringView> Pairing::ListedWithoutFolder() const
 {
-    // Only where lines remain does it matter which line stands first: all others need no sorting.
+    // Only where lines remain does it matter which of them stands first: all others need no sorting.
     std::vector<std::size_t> remaining;
+    std::vector<StringView> lines;
     for (std::size_t i = 0; i < listings_.size(); ++i) {
         const TextNumbers::Number name = ofListing_[i];
-        if (name == TextNumbers::None || listingCounts_[name] > folderCounts_[name]) remaining.push_back(i);
+        if (name != TextNumbers::None && listingCounts_[name] <= folderCounts_[name]) continue;
+        remaining.push_back(i);
+        lines.push_back(listings_[i].line);
     }
-    std::stable_sort(remaining.begin(), remaining.end(), [this](std::size_t left, std::size_t right) {
-        return SortsBefore(listings_[left].line, listings_[right].line);
-    });
     std::vector<std::size_t> folders = folderCounts_;
     std::vector<StringView> names;
-    for (const std::size_t i : remaining) {
+    for (const std::size_t place : SortedOrder(lines)) {
+        const std::size_t i = remaining[place];
         const TextNumbers::Number name = ofListing_[i];
         if (name != TextNumbers::None && folders[name] > 0)
             --folders[name];
@@ -134,23 +137,23 @@ std::vector<StringView> Pairing::ListedWithoutFolder() const
 
 } // namespace
 
-String TestModelScen(std::span<const StringView> lignes)
+String TestModelScen(std::span<const SceneryLine> lignes)
 {
-    std::vector<StringView> names;
-    for (const Listing& listing : ListingsOf(lignes))
-        names.push_back(listing.name);
+    const std::vector<StringView> names = NamesOf(ListingsOf(lignes));
     TextNumbers numbers(names.size());
-    const Numbers numberOf = numbers.Add(names);
+    const Numbers ofName = numbers.Add(names);
     std::vector<std::size_t> met(numbers.Count());
-    std::vector<StringView> repeated;
+    std::vector<StringView> repeated, sorted;
     for (std::size_t i = 0; i < names.size(); ++i) {
-        if (++met[numberOf[i]] == 2) repeated.push_back(names[i]);
+        if (++met[ofName[i]] == 2) repeated.push_back(names[i]);
     }
-    std::sort(repeated.begin(), repeated.end(), SortsBefore);
-    return repeated.empty() ? String() : Localisation::Txt_ScenPlusDuneFois() + Bulleted(repeated);
+    if (repeated.empty()) return {};
+    for (const std::size_t place : SortedOrder(repeated))
+        sorted.push_back(repeated[place]);
+    return Localisation::Txt_ScenPlusDuneFois() + Bulleted(sorted);
 }
 
-String TestFolderScen(std::span<const StringView> lignes, const FolderItem& dossier)
+String TestFolderScen(std::span<const SceneryLine> lignes, const FolderItem& dossier)
 {
     const std::vector<String> folders = FolderNames(dossier);
     const std::vector<Listing> listings = ListingsOf(lignes);

@@ -2,15 +2,15 @@
 /// well.
 #pragma once
 
+#include "engine/SceneryText.h"
 #include "toolkit/core/FolderItem.h"
-#include "toolkit/core/Text.h"
 
 /// The sceneries that the lines of a model name more than once, in whatever state or case: each is told once, in sorted
 /// order, as its second line spells it.
-String TestModelScen(std::span<const StringView> lignes);
+String TestModelScen(std::span<const SceneryLine> lignes);
 
 /// The folders in `dossier` that no line names, in the order of the folder, and the sceneries that have no folder
 /// there, in the order of their lines when sorted.
 ///
 /// A folder answers for one line, the first of its name. Names are compared in canonical form, and case doesn't count.
-String TestFolderScen(std::span<const StringView> lignes, const FolderItem& dossier);
+String TestFolderScen(std::span<const SceneryLine> lignes, const FolderItem& dossier);

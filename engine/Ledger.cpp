@@ -4,22 +4,20 @@
 
 namespace {
 
-/// What the lines are numbered by; `more` stands behind them.
-std::vector<StringView> RestsOf(std::span<const StringView> lines, std::span<const StringView> more = {})
+std::vector<StringView> RestsOf(std::span<const SceneryLine> lines)
 {
     std::vector<StringView> rests;
-    rests.reserve(lines.size() + more.size());
-    for (const StringView line : lines)
-        rests.push_back(ParseLine(line).rest);
-    rests.insert(rests.end(), more.begin(), more.end());
+    rests.reserve(lines.size());
+    for (const SceneryLine& line : lines)
+        rests.push_back(line.Rest());
     return rests;
 }
 
-/// What a result holds of itself, and the blank line.
-std::vector<StringView> OwnLines()
+/// What a result may hold that the source doesn't: the header, and a blank line behind it.
+std::vector<SceneryLine> OwnLines()
 {
-    std::vector<StringView> lines = LinesOf(TxtDebSpack);
-    lines.emplace_back();
+    std::vector<SceneryLine> lines = LinesOf(TxtDebSpack);
+    lines.push_back({{}, LineState::Other});
     return lines;
 }
 
@@ -31,18 +29,20 @@ bool Entry::IsBalanced() const
                        [](const Tally& tally) { return tally.inSource == tally.inResult; });
 }
 
-Ledger::Ledger(std::span<const StringView> source)
+Ledger::Ledger(std::span<const SceneryLine> source)
     : packs_(source.size() + OwnLines().size())
-    , numbers_(packs_.Add(RestsOf(source, OwnLines())))
-    , entries_(packs_.Count() + 1)
+    , ofSource_(packs_.Add(RestsOf(source)))
 {
-    for (std::size_t index = 0; index < source.size(); ++index)
-        ++OfSource(index)[ParseLine(source[index]).state].inSource;
-    for (std::size_t index = source.size(); index + 1 < numbers_.size(); ++index)
-        ++entries_[numbers_[index]][LineState::Other].inResult;
+    const std::vector<SceneryLine> own = OwnLines();
+    const std::vector<TextNumbers::Number> ofOwn = packs_.Add(RestsOf(own));
+    entries_.resize(packs_.Count() + 1);
+    for (std::size_t i = 0; i < source.size(); ++i)
+        ++OfSource(i)[source[i].state].inSource;
+    for (std::size_t i = 0; i + 1 < own.size(); ++i)
+        ++entries_[ofOwn[i]][own[i].state].inResult;
 }
 
-std::vector<Entry*> Ledger::Find(std::span<const StringView> lines)
+std::vector<Entry*> Ledger::Find(std::span<const SceneryLine> lines)
 {
     std::vector<Entry*> found;
     found.reserve(lines.size());

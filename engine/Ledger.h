@@ -28,18 +28,18 @@ private:
 /// The result begins with the header. The source's lines must outlive the ledger.
 class Ledger {
 public:
-    explicit Ledger(std::span<const StringView> source);
+    explicit Ledger(std::span<const SceneryLine> source);
 
     /// The entry of line `index` of the source.
-    Entry& OfSource(std::size_t index) { return entries_[numbers_[index]]; }
+    Entry& OfSource(std::size_t index) { return entries_[ofSource_[index]]; }
     /// The entries of other lines in their order; lines that neither side holds share one without any count.
-    std::vector<Entry*> Find(std::span<const StringView> lines);
+    std::vector<Entry*> Find(std::span<const SceneryLine> lines);
 
     /// Whether the result holds the very lines of the source, each as often.
     [[nodiscard]] bool IsBalanced() const;
 
 private:
     TextNumbers packs_;
-    std::vector<TextNumbers::Number> numbers_;
+    std::vector<TextNumbers::Number> ofSource_;
     std::vector<Entry> entries_;
 };

@@ -3,6 +3,7 @@
 namespace {
 
 constexpr std::size_t starsOfError = 89;
+constexpr StringView keyword = U"SCENERY_PACK";
 constexpr StringView customPacks[] = {U"SCENERY_PACK Custom Scenery/", U"SCENERY_PACK_DISABLED Custom Scenery/"};
 
 String MissingHeader(StringView refused)
@@ -20,6 +21,14 @@ StringView UpToSlash(StringView path)
     return end == StringView::npos ? StringView() : path.substr(0, end);
 }
 
+LineState StateOf(StringView line)
+{
+    for (const LineState state : {LineState::Enabled, LineState::Disabled}) {
+        if (BeginsWith(line, PrefixOf(state))) return state;
+    }
+    return LineState::Other;
+}
+
 } // namespace
 
 Acceptance AcceptSceneryText(StringView raw)
@@ -29,38 +38,29 @@ Acceptance AcceptSceneryText(StringView raw)
     return {ReplaceLineEndings(raw, TxtEoF), true};
 }
 
-std::vector<StringView> LinesOf(StringView text) { return Split(text, TxtEoF); }
-
 StringView RetScenLigne(StringView ligne)
 {
-    for (; !ligne.empty(); ligne.remove_prefix(1)) {
-        for (const StringView customPack : customPacks) {
-            if (BeginsWith(ligne, customPack)) return UpToSlash(ligne.substr(customPack.size()));
+    for (Int64 found = IndexOf(ligne, keyword); found >= 0; found = IndexOf(ligne, keyword, found + 1)) {
+        const StringView pack = Middle(ligne, found);
+        for (const StringView beginning : customPacks) {
+            if (BeginsWith(pack, beginning)) return UpToSlash(pack.substr(beginning.size()));
         }
     }
     return {};
 }
 
-Int64 LongTxtTab(std::span<const StringView> lignes, Int64 lgEoF, Int64 dernier)
+std::vector<SceneryLine> LinesOf(StringView text)
+{
+    std::vector<SceneryLine> lines;
+    for (const StringView line : Split(text, TxtEoF))
+        lines.push_back({line, StateOf(line)});
+    return lines;
+}
+
+Int64 LongTxtTab(std::span<const SceneryLine> lignes, Int64 lgEoF, Int64 dernier)
 {
     Int64 length = 0;
     for (Int64 k = 0; k <= dernier; ++k)
-        length += std::ssize(lignes[static_cast<std::size_t>(k)]) + lgEoF;
+        length += std::ssize(lignes[static_cast<std::size_t>(k)].text) + lgEoF;
     return length;
-}
-
-SceneryLine ParseLine(StringView line)
-{
-    const auto cut = [line](LineState state, std::size_t prefix) {
-        return SceneryLine{state, line.substr(0, prefix), line.substr(prefix)};
-    };
-    if (BeginsWith(line, DisabledPrefix)) return cut(LineState::Disabled, DisabledPrefix.size());
-    if (BeginsWith(line, EnabledPrefix)) return cut(LineState::Enabled, EnabledPrefix.size());
-    return cut(LineState::Other, 0);
-}
-
-SceneryLine TwinOf(const SceneryLine& line)
-{
-    if (line.state == LineState::Disabled) return {LineState::Enabled, EnabledPrefix, line.rest};
-    return {LineState::Disabled, DisabledPrefix, line.rest};
 }

@@ -28,33 +28,43 @@ struct Acceptance {
 /// ends with the whole of it as it came.
 Acceptance AcceptSceneryText(StringView raw);
 
-/// The lines of a text; line k begins behind k line ends. The views live as long as the text behind `text`.
-std::vector<StringView> LinesOf(StringView text);
-
 /// The folder's name in a line of a custom pack, or "": "SCENERY_PACK Custom Scenery/Alpes/Sud/" gives "Alpes".
 ///
 /// The keyword may stand anywhere in the line, and the first one counts. A name without "/" behind it is none. The name
 /// comes back as it is spelled, as a view of the line.
 StringView RetScenLigne(StringView ligne);
 
-/// The characters of lines 0 to `dernier` with a line end of `lgEoF` behind each: where the line behind them begins.
-/// 0 for -1.
-Int64 LongTxtTab(std::span<const StringView> lignes, Int64 lgEoF, Int64 dernier);
-
 enum class LineState : std::uint8_t { Other, Enabled, Disabled };
 
-/// A line cut behind the prefix that tells a pack's state. The rest is a path, opaque to us.
-struct SceneryLine {
-    LineState state;
-    StringView prefix;
-    /// All of a line that is no pack line.
-    StringView rest;
+/// The prefix of the lines in a state; "" for `Other`.
+constexpr StringView PrefixOf(LineState state)
+{
+    if (state == LineState::Other) return {};
+    return state == LineState::Enabled ? EnabledPrefix : DisabledPrefix;
+}
 
-    [[nodiscard]] String Text() const { return String(prefix) += rest; }
+/// The state of a line's twin. A line that is no pack line has none, and stays what it is.
+constexpr LineState TwinOf(LineState state)
+{
+    if (state == LineState::Other) return state;
+    return state == LineState::Enabled ? LineState::Disabled : LineState::Enabled;
+}
+
+/// A line with the state that its prefix tells.
+struct SceneryLine {
+    StringView text;
+    LineState state;
+
+    [[nodiscard]] StringView Prefix() const { return text.substr(0, PrefixOf(state).size()); }
+    /// What a pack line has in common with its twin: a path, opaque to us. All of a line that is no pack line.
+    [[nodiscard]] StringView Rest() const { return text.substr(PrefixOf(state).size()); }
+    /// The line of the same pack in the other state: "scenery_pack Alpes/" gives "SCENERY_PACK_DISABLED Alpes/".
+    [[nodiscard]] String Twin() const { return String(PrefixOf(TwinOf(state))) += Rest(); }
 };
 
-SceneryLine ParseLine(StringView line);
+/// The lines of a text. The views live as long as the text behind `text`.
+std::vector<SceneryLine> LinesOf(StringView text);
 
-/// The line of the same pack in the other state: "scenery_pack Alpes/" gives "SCENERY_PACK_DISABLED Alpes/".
-/// `line` must be a pack line.
-SceneryLine TwinOf(const SceneryLine& line);
+/// The characters of lines 0 to `dernier` with a line end of `lgEoF` behind each: where the line behind them begins.
+/// 0 for -1.
+Int64 LongTxtTab(std::span<const SceneryLine> lignes, Int64 lgEoF, Int64 dernier);

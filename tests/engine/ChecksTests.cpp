@@ -11,16 +11,16 @@ const String twice = U"Ces Sceneries sont plus d'une fois dans le SceneryModel :
 const String unlisted = U"Ces dossiers sont dans le dossier “Custom Scenery” mais pas dans “scenery_packs.ini” :";
 const String missing = U"Ces Sceneries sont dans “scenery_packs.ini” mais pas dans le dossier “Custom Scenery” :";
 
-/// An enabled line for each name; a disabled one for a name behind "-".
-std::vector<String> LinesFor(const std::vector<StringView>& names)
+/// An enabled line for each name, a disabled one for a name behind "-".
+String TextFor(const std::vector<StringView>& names)
 {
-    std::vector<String> lines;
+    String text;
     for (const StringView name : names) {
         const bool disabled = name.starts_with(U'-');
-        lines.push_back(String(disabled ? DisabledPrefix : EnabledPrefix) + U"Custom Scenery/" +
-                        String(name.substr(disabled ? 1 : 0)) + U"/");
+        text.append(disabled ? DisabledPrefix : EnabledPrefix).append(U"Custom Scenery/");
+        text.append(name.substr(disabled ? 1 : 0)).append(U"/\n");
     }
-    return lines;
+    return text;
 }
 
 TEST(Checks, TestModelScen)
@@ -41,11 +41,11 @@ TEST(Checks, TestModelScen)
         {"a deeper path names the same scenery", {U"a/x", U"a/y"}, twice + U"\n - a"},
     };
     for (const Row& row : rows) {
-        const std::vector<String> lines = LinesFor(row.names);
-        EXPECT_EQ(TestModelScen(std::vector<StringView>(lines.begin(), lines.end())), row.report) << row.name;
+        const String text = TextFor(row.names);
+        EXPECT_EQ(TestModelScen(LinesOf(text)), row.report) << row.name;
     }
-    const StringView outside[] = {U"SCENERY_PACK x/", U"SCENERY_PACK x/", U"", U"", U"SCENERY_PACK Custom Scenery/a"};
-    EXPECT_EQ(TestModelScen(outside), U"");
+    const StringView outside = U"SCENERY_PACK x/\nSCENERY_PACK x/\n\n\nSCENERY_PACK Custom Scenery/a";
+    EXPECT_EQ(TestModelScen(LinesOf(outside)), U"");
 }
 
 TEST(Checks, TestFolderScen)
@@ -86,10 +86,8 @@ TEST(Checks, TestFolderScen)
         TemporaryFolder temporary;
         for (const char* folder : row.folders)
             temporary.Folder(folder);
-        const std::vector<String> lines = LinesFor(row.names);
-        EXPECT_EQ(TestFolderScen(std::vector<StringView>(lines.begin(), lines.end()), FolderItem(temporary.Path())),
-                  row.report)
-            << row.name;
+        const String text = TextFor(row.names);
+        EXPECT_EQ(TestFolderScen(LinesOf(text), FolderItem(temporary.Path())), row.report) << row.name;
     }
 }
 
@@ -100,7 +98,7 @@ TEST(Checks, TestFolderScenTakesOnlyFoldersOfTheFolderItself)
     temporary.Folder("scenery/a/b");
     temporary.File("scenery/scenery_packs.ini");
     std::filesystem::create_directory_symlink(outside, temporary.Path() / "scenery/link");
-    const StringView lines[] = {U"SCENERY_PACK Custom Scenery/link/"};
+    const std::vector<SceneryLine> lines = LinesOf(U"SCENERY_PACK Custom Scenery/link/");
     EXPECT_EQ(TestFolderScen(lines, FolderItem(temporary.Path() / "scenery")),
               unlisted + U"\n - a\n \n" + missing + U"\n - link");
     EXPECT_EQ(TestFolderScen(lines, FolderItem(temporary.Path() / "gone")), missing + U"\n - link");

@@ -2,6 +2,7 @@
 #include "tests/TemporaryFolder.h"
 #include "tests/engine/NaiveEngine.h"
 
+#include <algorithm>
 #include <map>
 #include <random>
 
@@ -18,6 +19,20 @@ public:
         for (std::size_t lines = Roll(mostLines + 1); lines > 0; --lines)
             text += U"\n" + Line();
         return text.append(Roll(3), U'\n');
+    }
+
+    /// The lines of a text in another order, some in another state or case.
+    String Variant(StringView text)
+    {
+        std::vector<StringView> lines = Split(text, U"\n");
+        std::shuffle(lines.begin() + 3, lines.end(), engine_);
+        String variant;
+        for (const StringView line : lines) {
+            const bool enabled = BeginsWith(line, U"SCENERY_PACK ") && Roll(2) == 0;
+            variant += enabled ? U"SCENERY_PACK_DISABLED " + String(line.substr(13)) : String(line);
+            variant += U'\n';
+        }
+        return Roll(2) == 0 ? FoldCase(variant) : variant;
     }
 
 private:
@@ -65,19 +80,22 @@ TEST(CreerSpack, DoesWhatTheNaiveEngineDoes)
         folders.push_back(Fncts::Naff(child.Name(), true, true));
 
     Dice dice;
-    std::map<std::size_t, int> runsByReports;
+    std::map<String, int> messages;
     for (int run = 0; run < 6000; ++run) {
         const std::size_t mostLines = 1 + dice.Roll(12);
         const String model = dice.Text(mostLines);
-        const String source = dice.Text(mostLines);
+        const String source = dice.Roll(2) == 0 ? dice.Variant(model) : dice.Text(mostLines);
         const Outcome expected = RunNaively(model, source, folders);
         ASSERT_EQ(RunEngine(model, source, dossier), expected)
             << "run " << run << "\nmodel " << testing::PrintToString(model) << "\nsource "
             << testing::PrintToString(source);
-        ++runsByReports[expected.reports.size()];
+        for (const auto& [message, explanation] : expected.reports)
+            ++messages[message.substr(0, message.find(U'\n'))];
     }
-    for (std::size_t reports = 0; reports <= 3; ++reports)
-        EXPECT_GT(runsByReports[reports], 20) << "the dice give too few runs with " << reports << " reports";
+    // Dice that never get as far as a message would prove nothing about it.
+    EXPECT_EQ(messages.size(), 5U);
+    for (const auto& [message, count] : messages)
+        EXPECT_GT(count, 20) << testing::PrintToString(message);
 }
 
 } // namespace

@@ -40,7 +40,6 @@ TEST(SceneryText, Acceptance)
         EXPECT_EQ(acceptance.text, row.text) << row.name;
         EXPECT_EQ(acceptance.accepted, row.accepted) << row.name;
     }
-    EXPECT_EQ(LinesOf(TxtDebSpack), (std::vector<StringView>{U"I", U"1000 version", U"SCENERY"}));
     EXPECT_EQ(LgTxtDebSpack, 22);
 }
 
@@ -77,7 +76,7 @@ TEST(SceneryText, RetScenLigne)
 
 TEST(SceneryText, LongTxtTab)
 {
-    const std::vector<StringView> lines = {U"I", U"", U"é😀"};
+    const std::vector<SceneryLine> lines = LinesOf(U"I\n\né😀");
     EXPECT_EQ(LongTxtTab(lines, 1, -1), 0);
     EXPECT_EQ(LongTxtTab(lines, 1, 1), 3);
     EXPECT_EQ(LongTxtTab(lines, 2, 2), 9);
