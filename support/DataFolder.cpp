@@ -26,7 +26,7 @@ std::optional<FolderItem> FindDataFolder()
 {
     const auto applicationData = SpecialFolder::ApplicationData();
     if (!Fncts::PasNil_Existe_Alias(applicationData, true)) return std::nullopt;
-    const auto dataFolder = applicationData->Child(U"fr.Kavesti.Tarnivel Datas");
+    auto dataFolder = applicationData->Child(U"fr.Kavesti.Tarnivel Datas");
     if (!dataFolder || dataFolder->Exists()) return dataFolder;
 
     const auto preferences = SpecialFolder::Preferences();

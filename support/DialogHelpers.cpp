@@ -18,7 +18,7 @@ auto InFrame(DesktopWindow* win, bool sheet, const Ask& ask)
     Fncts::DrapDiagBox = true;
     const bool drapMenuBefore = std::exchange(Fncts::DrapMenu, false);
     const bool useWin = !sheet || Fncts::CtrlDsFenetrDiag(win, true);
-    const auto answer = ask(useWin ? win : nullptr);
+    auto answer = ask(useWin ? win : nullptr);
     if (sheet && useWin) Fncts::CtrlDsFenetrDiag(win, false);
     if (sheet && win != nullptr) Fncts::WrkArrSegButBugF(*win);
     Fncts::DrapMenu = drapMenuBefore;

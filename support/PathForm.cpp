@@ -40,7 +40,8 @@ std::vector<FolderItem> DrivesNamed(const String& name)
         if (SameText(driveName, name) && drive.Visible() && drive.IsReadable() && !holdsSwapFiles)
             drives.push_back(drive);
     }
-    std::ranges::stable_partition(drives, [&](const FolderItem& drive) { return CanonicalForm(drive.Name()) == name; });
+    std::stable_partition(drives.begin(), drives.end(),
+                          [&](const FolderItem& drive) { return CanonicalForm(drive.Name()) == name; });
     return drives;
 }
 
@@ -77,7 +78,7 @@ namespace Fncts {
 
 String AbsPath_f(const FolderItem& item, bool folderMark)
 {
-    const String path = PathFromBootVolume(item, folderMark);
+    String path = PathFromBootVolume(item, folderMark);
     const auto volumes = FolderItem::VolumesFolder();
     if (!volumes) return path;
     const String StUpDiskVol = PathFromBootVolume(*volumes, false) + U':';
