@@ -55,7 +55,12 @@ DesktopApplication::~DesktopApplication() { current = nullptr; }
 
 void DesktopApplication::SetMenuBar(DesktopMenuBar menuBar) { private_->menuBar = std::move(menuBar); }
 
-int DesktopApplication::Run() { return private_->exitCode ? *private_->exitCode : QApplication::exec(); }
+int DesktopApplication::Run()
+{
+    // A window that refused to open, or a quit from its opening, has left no loop to end.
+    if (private_->exitCode || !HasVisibleWindow()) return private_->exitCode.value_or(0);
+    return QApplication::exec();
+}
 
 void DesktopApplication::Quit(int exitCode)
 {
@@ -63,18 +68,19 @@ void DesktopApplication::Quit(int exitCode)
     const bool refused = std::ranges::any_of(windows, [](DesktopWindow* window) {
         return window->Visible() && window->CancelClosing && window->CancelClosing(true);
     });
-    if (!refused) End(exitCode);
-}
-
-void DesktopApplication::End(int exitCode)
-{
+    if (refused) return;
     private_->exitCode = exitCode;
     QApplication::exit(exitCode);
 }
 
+bool DesktopApplication::HasVisibleWindow()
+{
+    return std::ranges::any_of(DesktopWindow::All(), &DesktopWindow::Visible);
+}
+
 void DesktopApplication::WindowClosed()
 {
-    if (current && std::ranges::none_of(DesktopWindow::All(), &DesktopWindow::Visible)) current->End(0);
+    if (!HasVisibleWindow()) QApplication::exit(0);
 }
 
 QMenuBar* DesktopApplication::MakeMenuBar(QWidget* window)

@@ -42,7 +42,7 @@ private:
     static QMenuBar* MakeMenuBar(QWidget* window);
     /// Ends the event loop when no window is left.
     static void WindowClosed();
-    void End(int exitCode);
+    static bool HasVisibleWindow();
 
     struct Private;
     std::unique_ptr<Private> private_;

@@ -83,9 +83,6 @@ public:
     {
         rows_->setContentsMargins(0, 0, 0, 0);
         rows_->setSpacing(0);
-        QObject::connect(&group_, &QButtonGroup::idToggled, this, [this](int id, bool selected) {
-            if (selected) setFocusProxy(group_.button(id));
-        });
     }
 
     void Fill(const std::vector<StringView>& captions, int room)
@@ -104,6 +101,12 @@ public:
     void Select(int id)
     {
         if (QAbstractButton* choice = group_.button(id)) choice->setChecked(true);
+    }
+
+protected:
+    void focusInEvent(QFocusEvent*) override
+    {
+        if (QAbstractButton* choice = group_.checkedButton()) choice->setFocus();
     }
 
 private:

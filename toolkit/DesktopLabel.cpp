@@ -12,6 +12,7 @@ namespace {
 
 class LabelWidget final : public QLabel {
 public:
+    /// Null while the label is being made.
     DesktopLabel* owner = nullptr;
 
 protected:
@@ -42,12 +43,12 @@ protected:
 
     void enterEvent(QEnterEvent*) override
     {
-        if (owner->MouseEnter) owner->MouseEnter();
+        if (owner && owner->MouseEnter) owner->MouseEnter();
     }
 
     void leaveEvent(QEvent*) override
     {
-        if (owner->MouseExit) owner->MouseExit();
+        if (owner && owner->MouseExit) owner->MouseExit();
     }
 
     void paintEvent(QPaintEvent* event) override

@@ -9,6 +9,14 @@
 #include <QPlainTextEdit>
 #include <algorithm>
 
+namespace {
+
+/// Characters of a line up to which it is wrapped between words. Qt's search for the end of a word takes time by the
+/// square of its length.
+constexpr std::size_t longestLineOfWords = 20'000;
+
+} // namespace
+
 class DesktopTextArea::Editor final : public QPlainTextEdit {
 public:
     Editor();
@@ -22,6 +30,8 @@ protected:
     void insertFromMimeData(const QMimeData* source) override;
 
 private:
+    /// Chooses how a text that comes in as a whole is wrapped.
+    void WrapFor(StringView text);
     /// Whether a text of the document has characters of two units each.
     static bool HasPairs(QStringView units)
     {
@@ -35,7 +45,6 @@ private:
 DesktopTextArea::Editor::Editor()
 {
     setTabChangesFocus(true);
-    setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     connect(document(), &QTextDocument::contentsChange, this, [this](int position, int, int added) {
@@ -47,11 +56,23 @@ DesktopTextArea::Editor::Editor()
     });
 }
 
+void DesktopTextArea::Editor::WrapFor(StringView text)
+{
+    bool words = true;
+    for (std::size_t start = 0; words && text.size() - start > longestLineOfWords;) {
+        const std::size_t end = std::min(text.find(U'\n', start), text.size());
+        words = end - start <= longestLineOfWords;
+        start = std::min(end + 1, text.size());
+    }
+    setWordWrapMode(words ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::WrapAnywhere);
+}
+
 void DesktopTextArea::Editor::SetText(StringView text, std::span<const ColorSpan> colors)
 {
     // Emptied beforehand, the document forgets the format that the caret stood in.
     clear();
     pairs_ = false;
+    WrapFor(text);
     setUndoRedoEnabled(false);
     QTextCursor cursor(document());
     cursor.beginEditBlock();
@@ -87,7 +108,10 @@ QMimeData* DesktopTextArea::Editor::createMimeDataFromSelection() const
 
 void DesktopTextArea::Editor::insertFromMimeData(const QMimeData* source)
 {
-    if (!isReadOnly() && source->hasText()) insertPlainText(ToDocument(FromQt(source->text())));
+    if (isReadOnly() || !source->hasText()) return;
+    const String text = FromQt(source->text());
+    if (text.size() > longestLineOfWords) WrapFor(text);
+    insertPlainText(ToDocument(text));
     ensureCursorVisible();
 }
 

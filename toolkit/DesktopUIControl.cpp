@@ -78,8 +78,12 @@ void DesktopUIControl::SetFocus() { widget_->setFocus(); }
 
 void DesktopUIControl::Apply()
 {
-    widget_->setGeometry(placement_.left, placement_.top, std::max(placement_.width, 0),
-                         std::max(placement_.height, 0));
+    // A control that begins in the content is drawn to its end, even where the table gives it a point too many.
+    const auto visible = [](int start, int extent, int room) {
+        return std::max(start < room ? std::min(extent, room - start) : extent, 0);
+    };
+    widget_->setGeometry(placement_.left, placement_.top, visible(placement_.left, placement_.width, window_.Width()),
+                         visible(placement_.top, placement_.height, window_.Height()));
 }
 
 void DesktopUIControl::Follow(int moreWidth, int moreHeight)

@@ -49,13 +49,14 @@ Qt::WindowFlags FlagsOf(const WindowStyle& style)
     return flags;
 }
 
-/// The widgets that make up one place in the order of the Tab key.
+/// The widgets that make up one place in the order of the Tab key: the control, or the choices of a group.
 QWidgetList TabStops(QWidget* control)
 {
+    if (control->focusPolicy() != Qt::NoFocus) return {control};
     QWidgetList stops;
     for (QAbstractButton* choice : control->findChildren<QAbstractButton*>())
         stops.append(choice);
-    return stops.isEmpty() ? QWidgetList{control} : stops;
+    return stops;
 }
 
 } // namespace
@@ -156,14 +157,13 @@ bool DesktopWindow::Visible() const { return shell_->isVisible(); }
 
 void DesktopWindow::Show()
 {
-    if (!opened_) {
-        opened_ = true;
-        ApplyTabOrder();
-        if (Opening) Opening();
-        if (!opened_) return;
-    }
+    const bool opens = !std::exchange(opened_, true);
+    if (opens && Opening) Opening();
+    if (!opened_) return;
     shell_->setWindowState(shell_->windowState() & ~Qt::WindowMinimized);
     shell_->show();
+    // Labels know only when they are shown whether they are links, which can take the focus.
+    if (opens) ApplyTabOrder();
     shell_->raise();
     shell_->activateWindow();
     // Not every desktop hands the keyboard on to the dialog that blocks the window.
@@ -210,12 +210,15 @@ void DesktopWindow::ApplyTabOrder()
 {
     std::vector<DesktopUIControl*> ordered = controls_;
     std::ranges::stable_sort(ordered, {}, &DesktopUIControl::TabIndex);
-    QWidget* last = nullptr;
+    // The content, which has the focus when no control has it, comes first; Qt orders only what the focus can reach.
+    QWidget* last = Content();
+    last->setFocusPolicy(Qt::TabFocus);
     for (const DesktopUIControl* control : ordered)
         for (QWidget* stop : TabStops(control->widget_)) {
-            if (last) QWidget::setTabOrder(last, stop);
+            QWidget::setTabOrder(last, stop);
             last = stop;
         }
+    Content()->setFocusPolicy(Qt::NoFocus);
 }
 
 void DesktopWindow::ContentResized(int width, int height)

@@ -1,0 +1,192 @@
+#include "tests/toolkit/WidgetTest.h"
+#include "toolkit/DesktopControls.h"
+#include "toolkit/DesktopWindow.h"
+
+#include <QComboBox>
+#include <QFontInfo>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace {
+
+struct ControlTest : ::testing::Test {
+    DesktopWindow window{{.title = U"Controls", .width = 400, .height = 300}};
+};
+
+TEST_F(ControlTest, CaptionsAreLiteral)
+{
+    for (StringView caption : {U"A & B", U"&Quit", U"&&", U"a&&&b", U"plain", U""}) {
+        DesktopButton button(window, {0, 0, 200, 20}, caption);
+        button.SetName(U"button");
+        EXPECT_EQ(button.Caption(), caption);
+        EXPECT_EQ(button.AccessibleName(), caption);
+        EXPECT_TRUE(Find<QPushButton>("button").shortcut().isEmpty());
+        DesktopLabel label(window, {0, 0, 200, 20}, caption);
+        EXPECT_EQ(label.Text(), caption);
+        EXPECT_EQ(label.AccessibleName(), caption);
+        DesktopPopupMenu popup(window, {0, 0, 200, 20}, caption, 0);
+        EXPECT_EQ(popup.SelectedRowText(), caption);
+    }
+    DesktopLabel label(window, {0, 0, 200, 20}, U"<b>no mark-up</b>");
+    EXPECT_EQ(label.AccessibleName(), U"<b>no mark-up</b>");
+    label.SetAccessibleName(U"another name");
+    EXPECT_EQ(label.AccessibleName(), U"another name");
+}
+
+TEST_F(ControlTest, CaptionsFitTheirControls)
+{
+    struct Row {
+        const char* name;
+        StringView caption;
+        int width, size, smallest, largest;
+    };
+    const Row rows[] = {
+        {"a short caption has the size of the layout", U"Ok", 100, 0, 12, 12},
+        {"a caption a little too wide gets smaller", U"Activer / Désactiver", 125, 0, 9, 11},
+        {"none gets smaller than 9", U"Sélectionner un dossier pour les archives", 60, 0, 9, 9},
+        {"a size of its own", U"☞", 38, 18, 18, 18},
+    };
+    for (const Row& row : rows) {
+        DesktopButton button(window, {0, 0, row.width, 20}, row.caption, row.size);
+        button.SetName(U"button");
+        const QPushButton& widget = Find<QPushButton>("button");
+        const int size = QFontInfo(widget.font()).pixelSize();
+        EXPECT_GE(size, row.smallest) << row.name;
+        EXPECT_LE(size, row.largest) << row.name;
+        EXPECT_TRUE(size == 9 || widget.fontMetrics().horizontalAdvance(widget.text()) <= row.width) << row.name;
+        button.SetCaption(U"Ok");
+        EXPECT_EQ(QFontInfo(widget.font()).pixelSize(), row.size ? row.size : 12) << row.name << ", then a short one";
+    }
+}
+
+TEST_F(ControlTest, FieldsKeepTheirText)
+{
+    DesktopTextField field(window, {0, 0, 200, 22}, U"first");
+    field.SetName(U"field");
+    ShowActive(window);
+    for (StringView text :
+         {StringView(U"a\nb\r\n\u2028\u2029c\td"), StringView(U"a\0b", 3), StringView(U"\ufeff😀\u00a0")}) {
+        field.SetText(text);
+        EXPECT_EQ(field.Text(), text);
+    }
+    const String longText(100'000, U'x');
+    field.SetText(longText);
+    EXPECT_EQ(field.Text().size(), longText.size());
+    QTest::keyClicks(&Find<QLineEdit>("field"), QStringLiteral("y"));
+    EXPECT_EQ(field.Text(), U"y" + longText);
+    const QPalette palette = Find<QLineEdit>("field").palette();
+    EXPECT_EQ(palette.color(QPalette::Base), QColor(Qt::white));
+    EXPECT_EQ(palette.color(QPalette::Text), QColor(Qt::black));
+}
+
+TEST_F(ControlTest, CodeFiresNoEvents)
+{
+    DesktopPopupMenu popup(window, {0, 0, 200, 20}, U"one\ntwo\nthree", 2);
+    DesktopSegmentedButton segment(window, {0, 30, 100, 24}, U"Segment");
+    popup.SetName(U"popup");
+    segment.SetName(U"segment");
+    std::vector<int> events;
+    popup.SelectionChanged = [&] { events.push_back(popup.SelectedRowIndex()); };
+    segment.Pressed = [&](int index) { events.push_back(10 + index + (segment.Selected(index) ? 1 : 0)); };
+    ShowActive(window);
+
+    popup.SetSelectedRowIndex(0);
+    segment.SetSelected(0, true);
+    EXPECT_TRUE(events.empty());
+    EXPECT_EQ(popup.SelectedRowText(), U"one");
+    EXPECT_TRUE(segment.Selected(0));
+    EXPECT_FALSE(segment.Selected(1));
+
+    auto& rows = Find<QComboBox>("popup");
+    QTest::keyClick(&rows, Qt::Key_Down);
+    QTest::keyClick(&rows, Qt::Key_Up);
+    QTest::keyClick(&rows, Qt::Key_Up);
+    EXPECT_EQ(events, (std::vector{1, 0})) << "the key that changes no row fires nothing";
+    events.clear();
+    QTest::mouseClick(&Find<QPushButton>("segment"), Qt::LeftButton);
+    QTest::keyClick(&Find<QPushButton>("segment"), Qt::Key_Space);
+    EXPECT_EQ(events, (std::vector{10, 11})) << "the segment comes up, then goes down";
+}
+
+TEST_F(ControlTest, ButtonsArePressedByMouseAndKeyUnlessDisabled)
+{
+    DesktopButton button(window, {0, 0, 100, 20}, U"Run");
+    button.SetName(U"run");
+    int pressed = 0;
+    button.Pressed = [&] { ++pressed; };
+    ShowActive(window);
+    auto& widget = Find<QPushButton>("run");
+    QTest::mouseClick(&widget, Qt::LeftButton);
+    QTest::keyClick(&widget, Qt::Key_Space);
+    EXPECT_EQ(pressed, 2);
+    button.SetEnabled(false);
+    EXPECT_FALSE(button.Enabled());
+    QTest::mouseClick(&widget, Qt::LeftButton);
+    EXPECT_EQ(pressed, 2);
+}
+
+TEST_F(ControlTest, ChoicesAreExclusive)
+{
+    DesktopRadioGroup group(window, {0, 0, 126, 45});
+    group.SetName(U"group");
+    group.SetInitialValue(U"Fichier & modèle\nUrl modèle");
+    ShowActive(window);
+    EXPECT_EQ(group.SelectedIndex(), 0);
+    group.SetSelectedIndex(1);
+    group.SetSelectedIndex(7);
+    EXPECT_EQ(group.SelectedIndex(), 1) << "a choice that isn't there changes nothing";
+    const auto choices = Find<QWidget>("group").findChildren<QRadioButton*>();
+    ASSERT_EQ(choices.size(), 2);
+    QTest::mouseClick(choices[0], Qt::LeftButton, {}, {5, choices[0]->height() / 2});
+    EXPECT_EQ(group.SelectedIndex(), 0);
+    EXPECT_FALSE(choices[1]->isChecked());
+    EXPECT_NEAR(choices[0]->height(), choices[1]->height(), 1);
+}
+
+struct LinkTest : ControlTest {
+    DesktopLabel link{window, {100, 100, 50, 16, Lock::Left | Lock::Top, 0}, U"v.1"};
+    std::vector<std::string> events;
+    bool takes = true;
+    QWidget* widget = nullptr;
+
+    void SetUp() override
+    {
+        link.SetName(U"link");
+        link.MouseDown = [this](int x, int y) { return Note("down", x, y), takes; };
+        link.MouseUp = [this](int x, int y) { Note("up", x, y); };
+        ShowActive(window);
+        widget = &Find<QLabel>("link");
+    }
+    void Note(const char* what, int x, int y)
+    {
+        events.push_back(what + (' ' + std::to_string(x) + ',' + std::to_string(y)));
+    }
+};
+
+TEST_F(LinkTest, ReleaseComesWhereverThePointerIs)
+{
+    QTest::mousePress(widget, Qt::LeftButton, {}, {10, 5});
+    QTest::mouseRelease(widget, Qt::LeftButton, {}, {200, -30});
+    EXPECT_EQ(events, (std::vector<std::string>{"down 10,5", "up 200,-30"}));
+    takes = false;
+    QTest::mouseClick(widget, Qt::LeftButton, {}, {10, 5});
+    QTest::mouseClick(widget, Qt::RightButton, {}, {10, 5});
+    EXPECT_EQ(events.size(), 3U) << "no release without a press that was taken, and no right button";
+}
+
+TEST_F(LinkTest, KeysPressItInItsMiddle)
+{
+    EXPECT_EQ(widget->focusPolicy(), Qt::TabFocus);
+    for (Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+        events.clear();
+        QTest::keyClick(widget, key);
+        EXPECT_EQ(events, (std::vector<std::string>{"down 24,7", "up 24,7"}));
+    }
+    DesktopLabel plain(window, {0, 0, 50, 16, Lock::Left | Lock::Top, 1}, U"plain");
+    plain.SetName(U"plain");
+    EXPECT_EQ(Find<QLabel>("plain").focusPolicy(), Qt::NoFocus);
+}
+
+} // namespace

@@ -1,0 +1,135 @@
+#include "tests/toolkit/TestMenus.h"
+#include "tests/toolkit/WidgetTest.h"
+#include "toolkit/DesktopControls.h"
+#include "toolkit/DesktopTextArea.h"
+
+#include <QClipboard>
+#include <QMenu>
+#include <QMenuBar>
+
+namespace {
+
+struct MenuTest : ::testing::Test {
+    DesktopWindow window{{.title = U"Menus", .width = 300, .height = 200, .hasMenuBar = true}};
+    DesktopTextField field{window, {0, 0, 200, 22, Lock::Left | Lock::Top, 0}, U"abc"};
+    DesktopTextArea area{window, {0, 40, 200, 80, Lock::Left | Lock::Top, 1}};
+    DesktopButton button{window, {0, 150, 100, 20, Lock::Left | Lock::Top, 2}, U"Button"};
+    int opened = 0, checked = 0;
+
+    void SetUp() override
+    {
+        TestMenus& menus = TestMenus::Current();
+        menus.open.Enabled = true;
+        menus.open.Action = [this] { return ++opened, true; };
+        TestApplication().MenuBarSelected = [this] { ++checked; };
+        field.SetName(U"field");
+        ShowActive(window);
+        QApplication::clipboard()->setText(QStringLiteral("clip"));
+    }
+    void TearDown() override { TestApplication().MenuBarSelected = nullptr; }
+
+    static QAction& Item(const char* name)
+    {
+        for (QAction* action : QApplication::activeWindow()->findChildren<QAction*>())
+            if (action->objectName() == QLatin1String(name)) return *action;
+        throw std::runtime_error(name);
+    }
+    /// Which of the items are enabled while the menu is open.
+    static std::string Enabled(const char* menu, std::initializer_list<const char*> items)
+    {
+        auto& list = Find<QMenu>(menu);
+        list.popup({0, 0});
+        std::string enabled;
+        for (const char* item : items)
+            if (Item(item).isEnabled()) enabled += std::string(enabled.empty() ? "" : " ") + item;
+        list.close();
+        return enabled;
+    }
+    static void Press(Qt::Key key, Qt::KeyboardModifiers modifiers)
+    {
+        QTest::keyClick(QApplication::activeWindow(), key, modifiers);
+    }
+};
+
+TEST_F(MenuTest, ShortcutsAreThoseOfTheText)
+{
+    struct Row {
+        const char *item, *keys;
+    };
+    for (const Row& row : {Row{"Open", "Ctrl+Shift+O"}, Row{"Archive", "Ctrl+Alt+O"}, Row{"Quit", "Ctrl+Q"},
+                           Row{"Preferences", "Ctrl+,"}, Row{"Clear", ""}})
+        EXPECT_EQ(Item(row.item).shortcut().toString(QKeySequence::PortableText).toStdString(), row.keys) << row.item;
+}
+
+TEST_F(MenuTest, ItemsAreCheckedWhenTheyAreToAct)
+{
+    Press(Qt::Key_O, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(opened, 1);
+    EXPECT_EQ(checked, 1);
+
+    TestApplication().MenuBarSelected = [] { TestMenus::Current().open.Enabled = false; };
+    Press(Qt::Key_O, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(opened, 1) << "disabled by the check, the item doesn't act";
+    EXPECT_EQ(Enabled("File", {"Open", "Archive", "Quit"}), "Archive Quit");
+
+    TestApplication().MenuBarSelected = [] { TestMenus::Current().open.Enabled = true; };
+    Press(Qt::Key_O, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(opened, 2) << "the shortcut acts again as soon as the item is enabled";
+}
+
+TEST_F(MenuTest, EditItemsServeTheControlWithTheFocus)
+{
+    const auto enabled = [] { return Enabled("Edit", {"Undo", "Cut", "Copy", "Paste", "Clear", "SelectAll"}); };
+    button.SetFocus();
+    EXPECT_EQ(enabled(), "") << "no text has the focus";
+    field.SetFocus();
+    EXPECT_EQ(enabled(), "Paste SelectAll");
+    Item("SelectAll").trigger();
+    EXPECT_EQ(enabled(), "Cut Copy Paste Clear SelectAll");
+    Item("Clear").trigger();
+    EXPECT_EQ(field.Text(), U"");
+    EXPECT_EQ(enabled(), "Undo Paste");
+    Item("Undo").trigger();
+    EXPECT_EQ(field.Text(), U"abc");
+
+    area.SetText(U"x\u2028\ny");
+    area.SetFocus();
+    for (const char* item : {"SelectAll", "Cut", "Paste", "Paste"})
+        Item(item).trigger();
+    EXPECT_EQ(area.Text(), U"x\u2028\nyx\u2028\ny");
+    QApplication::clipboard()->clear();
+    EXPECT_EQ(enabled(), "Undo SelectAll");
+    area.SetEnabled(false);
+    EXPECT_EQ(field.Text(), U"abc") << "the other control is left alone";
+}
+
+TEST_F(MenuTest, StandardKeysWorkInTheControls)
+{
+    field.SetFocus();
+    QWidget* widget = &Find<QWidget>("field");
+    QTest::keyClick(widget, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(widget, Qt::Key_X, Qt::ControlModifier);
+    EXPECT_EQ(field.Text(), U"");
+    QTest::keyClick(widget, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(field.Text(), U"abc") << "once, not once for the field and once for the menu";
+    QTest::keyClick(widget, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(field.Text(), U"");
+}
+
+TEST_F(MenuTest, OpenedByKeyTheMenuServesTheControlThatHadTheFocus)
+{
+    field.SetFocus();
+    auto* bar = QApplication::activeWindow()->findChild<QMenuBar*>();
+    bar->setFocus(Qt::MenuBarFocusReason);
+    EXPECT_EQ(Enabled("Edit", {"Undo", "Paste", "SelectAll"}), "Paste SelectAll");
+}
+
+TEST_F(MenuTest, QuitAsksTheWindows)
+{
+    std::vector<bool> asked;
+    window.CancelClosing = [&](bool appQuitting) { return asked.push_back(appQuitting), true; };
+    Item("Quit").trigger();
+    EXPECT_EQ(asked, std::vector{true});
+}
+
+} // namespace

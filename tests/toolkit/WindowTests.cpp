@@ -1,0 +1,183 @@
+#include "tests/toolkit/WidgetTest.h"
+#include "toolkit/DesktopControls.h"
+#include "toolkit/DesktopTextArea.h"
+
+#include <QTimer>
+#include <memory>
+
+namespace {
+
+constexpr unsigned L = Lock::Left, T = Lock::Top, R = Lock::Right, B = Lock::Bottom;
+
+TEST(Placement, ControlsFollowTheirLocks)
+{
+    struct Row {
+        const char* name;
+        unsigned locks;
+        Placement expected;
+    };
+    const Row rows[] = {
+        {"left and top stay", L | T, {10, 20, 30, 40}},
+        {"no lock stays", 0, {10, 20, 30, 40}},
+        {"right and bottom move", R | B, {110, -30, 30, 40}},
+        {"opposite edges stretch", L | R | T | B, {10, 20, 130, -10}},
+        {"one edge each", T | R, {110, 20, 30, 40}},
+    };
+    for (const Row& row : rows) {
+        DesktopWindow window({.title = U"W", .width = 400, .height = 300, .minimumWidth = 100, .minimumHeight = 100});
+        DesktopLabel control(window, {10, 20, 30, 40, row.locks}, U"x");
+        control.SetName(U"control");
+        window.SetWidth(500);
+        window.SetHeight(250);
+        const auto place = [&] { return QRect(control.Left(), control.Top(), control.Width(), control.Height()); };
+        const QRect expected(row.expected.left, row.expected.top, row.expected.width, row.expected.height);
+        EXPECT_EQ(place(), expected) << row.name;
+        EXPECT_GE(Find<QWidget>("control").height(), 0) << row.name;
+        window.Show();
+        QApplication::processEvents();
+        EXPECT_EQ(place(), expected) << row.name << ", shown";
+        window.SetWidth(400);
+        window.SetHeight(300);
+        QApplication::processEvents();
+        EXPECT_EQ(place(), QRect(10, 20, 30, 40)) << row.name << ", there and back";
+    }
+}
+
+TEST(Placement, WindowsKeepTheSizesOfTheirContent)
+{
+    DesktopWindow window({.title = U"W",
+                          .width = 760,
+                          .height = 500,
+                          .minimumWidth = 720,
+                          .minimumHeight = 400,
+                          .maximumWidth = 800,
+                          .hasMenuBar = true});
+    DesktopTextField field(window, {158, 13, 460, 22, L | T | R});
+    field.SetName(U"field");
+    const QWidget& content = *Find<QWidget>("field").parentWidget();
+    window.SetLeft(40);
+    window.SetTop(60);
+    window.Show();
+    QApplication::processEvents();
+    EXPECT_EQ(content.size(), QSize(760, 500));
+    EXPECT_GT(content.y(), 0) << "the menu bar lies above";
+    EXPECT_EQ(content.mapToGlobal(QPoint(0, 0)), QPoint(40, 60));
+    window.SetWidth(100);
+    window.SetHeight(5000);
+    QApplication::processEvents();
+    EXPECT_EQ(content.size(), QSize(720, 5000));
+    EXPECT_EQ(field.Width(), 420);
+    EXPECT_EQ(Find<QWidget>("field").width(), 420);
+    window.SetWidth(900);
+    QApplication::processEvents();
+    EXPECT_EQ(content.width(), 800);
+    EXPECT_EQ(window.Width(), 800);
+    window.SetTop(100);
+    EXPECT_EQ(window.Left(), 40);
+    EXPECT_EQ(content.mapToGlobal(QPoint(0, 0)).y(), 100);
+}
+
+TEST(Window, TabKeyGoesByIndexThenByCreation)
+{
+    DesktopWindow window({.title = U"W", .width = 400, .height = 300});
+    DesktopRadioGroup group(window, {0, 0, 100, 40, L | T, 2});
+    DesktopButton third(window, {0, 50, 100, 20, L | T, 1}, U"third");
+    DesktopTextArea fourth(window, {0, 80, 100, 20, L | T, 1});
+    DesktopButton never(window, {0, 110, 100, 20, L | T, -1}, U"never");
+    DesktopLabel label(window, {0, 140, 100, 20, L | T, 0}, U"label");
+    DesktopTextField second(window, {0, 170, 100, 20, L | T, 0});
+    DesktopLabel link(window, {0, 200, 100, 20, L | T, 3}, U"link");
+    link.MouseUp = [](int, int) {};
+    window.Opening = [&] { group.SetInitialValue(U"one\ntwo\nthree"); };
+    ShowActive(window);
+    window.SetFocus();
+    EXPECT_EQ(window.Focus(), nullptr);
+    for (const DesktopUIControl* expected :
+         std::initializer_list<const DesktopUIControl*>{&second, &third, &fourth, &group, &link, &second}) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        EXPECT_EQ(window.Focus(), expected) << expected->TabIndex();
+    }
+    group.SetFocus();
+    EXPECT_EQ(window.Focus(), &group);
+    never.SetFocus();
+    EXPECT_EQ(window.Focus(), &never);
+}
+
+TEST(Window, OpensBeforeItIsSeenAndOnce)
+{
+    DesktopWindow window({.title = U"W", .width = 400, .height = 300});
+    std::string events;
+    window.Opening = [&] { events += window.Visible() ? "late " : "opening "; };
+    window.Activated = [&] { events += "activated "; };
+    ShowActive(window);
+    EXPECT_TRUE(window.Visible());
+    window.Show();
+    EXPECT_EQ(events, "opening activated ");
+
+    DesktopWindow refused({.title = U"R", .width = 400, .height = 300});
+    refused.Opening = [&] { refused.Close(); };
+    refused.Show();
+    EXPECT_FALSE(refused.Visible()) << "closed while it opens, it is never seen";
+}
+
+TEST(Window, AUserClosesItUnlessItObjects)
+{
+    DesktopWindow window({.title = U"W", .width = 400, .height = 300});
+    DesktopLabel label(window, {0, 0, 10, 10}, U"x");
+    label.SetName(U"label");
+    bool objects = true;
+    std::vector<bool> asked;
+    window.CancelClosing = [&](bool appQuitting) { return asked.push_back(appQuitting), objects; };
+    window.Show();
+    Find<QWidget>("label").window()->close();
+    EXPECT_TRUE(window.Visible());
+    objects = false;
+    Find<QWidget>("label").window()->close();
+    EXPECT_FALSE(window.Visible());
+    EXPECT_EQ(asked, (std::vector{false, false})) << "each close asks once";
+}
+
+TEST(Application, CountsItsWindows)
+{
+    const Int64 before = DesktopApplication::WindowCount();
+    DesktopWindow first({.title = U"1", .width = 40, .height = 30});
+    {
+        DesktopWindow second({.title = U"2", .width = 40, .height = 30});
+        EXPECT_EQ(DesktopApplication::WindowCount(), before + 2);
+        EXPECT_EQ(DesktopApplication::WindowAt(before), &first);
+        EXPECT_EQ(DesktopApplication::WindowAt(before + 1), &second);
+    }
+    EXPECT_EQ(DesktopApplication::WindowCount(), before + 1);
+}
+
+TEST(Application, QuitEndsTheLoopUnlessAWindowObjects)
+{
+    DesktopWindow first({.title = U"1", .width = 40, .height = 30}), second({.title = U"2", .width = 40, .height = 30});
+    DesktopWindow hidden({.title = U"3", .width = 40, .height = 30});
+    std::string asked;
+    bool objects = true;
+    first.CancelClosing = [&](bool appQuitting) { return asked += appQuitting ? "1" : "x", false; };
+    second.CancelClosing = [&](bool appQuitting) { return asked += appQuitting ? "2" : "x", objects; };
+    hidden.CancelClosing = [&](bool) { return asked += "3", true; };
+    first.Show();
+    second.Show();
+    QTimer::singleShot(0, qApp, [&] {
+        TestApplication().Quit(3);
+        objects = false;
+        TestApplication().Quit(4);
+    });
+    EXPECT_EQ(TestApplication().Run(), 4);
+    EXPECT_EQ(asked, "1212");
+    EXPECT_EQ(TestApplication().Run(), 4) << "what has ended doesn't begin again";
+}
+
+TEST(Application, YieldingLetsTimersFireAndKeepsTheUsersInput)
+{
+    DesktopWindow window({.title = U"W", .width = 400, .height = 300});
+    bool fired = false;
+    QTimer::singleShot(0, qApp, [&] { fired = true; });
+    DesktopApplication::YieldToPlatform();
+    EXPECT_TRUE(fired);
+}
+
+} // namespace
