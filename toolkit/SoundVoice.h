@@ -2,6 +2,8 @@
 /// of the platform's sound system cost more at the start of the program than all the rest of the layer.
 #pragma once
 
+#include "toolkit/WavFormat.h"
+
 class SoundVoice {
 public:
     SoundVoice() = default;
@@ -15,5 +17,5 @@ public:
     [[nodiscard]] virtual bool IsPlaying() const = 0;
 };
 
-/// What the module offers under the name "MakeSoundVoice": a voice for the file of that path, the caller's to delete.
-using SoundVoiceMaker = SoundVoice*(const char* path);
+/// What the module offers under the name "MakeSoundVoice": a voice for the samples of a file, the caller's to delete.
+using SoundVoiceMaker = SoundVoice*(const char* path, const WavFormat& format);

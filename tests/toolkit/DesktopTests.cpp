@@ -1,0 +1,223 @@
+#include "tests/TemporaryFolder.h"
+#include "toolkit/Desktop.h"
+#include "toolkit/Probe.h"
+#include "toolkit/Sound.h"
+#include "toolkit/Timer.h"
+
+#include <QApplication>
+#include <QCursor>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusVirtualObject>
+#include <QDesktopServices>
+#include <QProcess>
+#include <QTest>
+#include <QUrl>
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace std::string_literals;
+
+/// What the desktop would have been asked to open.
+class OpenedLinks : public QObject {
+    Q_OBJECT
+public:
+    OpenedLinks()
+    {
+        for (const QString& scheme : schemes)
+            QDesktopServices::setUrlHandler(scheme, this, "Note");
+    }
+    ~OpenedLinks() override
+    {
+        for (const QString& scheme : schemes)
+            QDesktopServices::unsetUrlHandler(scheme);
+    }
+    Q_INVOKABLE void Note(const QUrl& url) { urls << url.toString(QUrl::FullyEncoded); }
+    QStringList urls;
+
+private:
+    const QStringList schemes{"http", "mailto", "file"};
+};
+
+TEST(Desktop, OpensLinksAndItems)
+{
+    OpenedLinks opened;
+    for (const StringView text : {U"http://example.invalid/a b?c=d&e#f", U"mailto:somebody@example.invalid", U"", U" ",
+                                  U"no link", U"--help", U"http://[::1", U"packs.ini"})
+        System::GotoURL(text);
+    OpenItem(FolderItem("/tmp/100% Alpes"));
+    EXPECT_EQ(opened.urls, (QStringList{"http://example.invalid/a%20b?c=d&e#f", "mailto:somebody@example.invalid",
+                                        "file:///tmp/100%25%20Alpes"}));
+}
+
+/// A file manager on a session bus, or what is in its place.
+class FileManager : public QDBusVirtualObject {
+public:
+    explicit FileManager(bool canSelect_)
+        : canSelect(canSelect_)
+    {
+    }
+    QString introspect(const QString&) const override { return {}; }
+    bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override
+    {
+        if (!canSelect) return false;
+        asked << message.member() << message.arguments().value(0).toStringList();
+        return connection.send(message.createReply());
+    }
+    const bool canSelect;
+    QStringList asked;
+};
+
+TEST(Desktop, RevealsAnItemOrElseOpensItsFolder)
+{
+    QProcess bus;
+    bus.start("dbus-daemon", {"--session", "--nofork", "--print-address"});
+    if (!bus.waitForStarted() || !bus.waitForReadyRead()) GTEST_SKIP() << "no dbus-daemon to be had";
+    const QString address = QString::fromLatin1(bus.readLine()).trimmed();
+    qputenv("DBUS_SESSION_BUS_ADDRESS", address.toLatin1());
+
+    for (const bool canSelect : {true, false}) {
+        OpenedLinks opened;
+        FileManager manager(canSelect);
+        auto connection = QDBusConnection::connectToBus(address, "file manager");
+        ASSERT_TRUE(connection.registerService("org.freedesktop.FileManager1"));
+        ASSERT_TRUE(connection.registerVirtualObject("/org/freedesktop/FileManager1", &manager));
+        RevealItem(FolderItem("/tmp/Custom Scenery/Alpes"));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !manager.asked.isEmpty() || !opened.urls.isEmpty(); }));
+        const QStringList selected{"ShowItems", "file:///tmp/Custom%20Scenery/Alpes"};
+        EXPECT_EQ(manager.asked, canSelect ? selected : QStringList());
+        EXPECT_EQ(opened.urls, canSelect ? QStringList() : QStringList("file:///tmp/Custom%20Scenery/"));
+        connection.unregisterObject("/org/freedesktop/FileManager1");
+        QDBusConnection::disconnectFromBus("file manager");
+    }
+    bus.kill();
+    bus.waitForFinished();
+}
+
+TEST(Desktop, KeepsOnePointerAtATime)
+{
+    SetMouseCursor(Cursor::FingerPointer);
+    SetMouseCursor(Cursor::FingerPointer);
+    ASSERT_NE(QGuiApplication::overrideCursor(), nullptr);
+    EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::PointingHandCursor);
+    SetMouseCursor(Cursor::StandardPointer);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    SetMouseCursor(Cursor::StandardPointer);
+}
+
+TEST(Desktop, PassesTextThroughTheClipboard)
+{
+    const String text = U"Été\n\U0001F600\t";
+    Clipboard::SetText(text);
+    EXPECT_EQ(Clipboard::Text(), text);
+}
+
+TEST(Probe, TakesThePlaceOfTheDesktop)
+{
+    const TemporaryFolder folder;
+    OpenedLinks opened;
+    const DesktopDisplay real = DesktopDisplay::DisplayAt(0);
+    EXPECT_GT(real.Width, 0);
+    {
+        Probe probe;
+        System::Beep();
+        System::GotoURL(U"no link");
+        OpenItem(FolderItem("/tmp"));
+        RevealItem(FolderItem("/etc"));
+        EXPECT_EQ(probe.Beeps, 1);
+        EXPECT_EQ(probe.Links, std::vector{U"no link"s});
+        EXPECT_EQ(probe.Opened, std::vector{U"/tmp"s});
+        EXPECT_EQ(probe.Revealed, std::vector{U"/etc"s});
+        EXPECT_FALSE(Keyboard::AsyncShiftKey() || Keyboard::AsyncAltKey() || Keyboard::AsyncControlKey());
+        probe.ShiftKey = probe.AltKey = probe.ControlKey = true;
+        EXPECT_TRUE(Keyboard::AsyncShiftKey() && Keyboard::AsyncAltKey() && Keyboard::AsyncControlKey());
+        EXPECT_EQ(DesktopDisplay::DisplayAt(0).Width, real.Width);
+        probe.ScreenSize = {640, 480};
+        EXPECT_EQ(DesktopDisplay::DisplayAt(0).Height, 480);
+    }
+    EXPECT_EQ(DesktopDisplay::DisplayAt(0).Height, real.Height);
+    EXPECT_TRUE(opened.urls.isEmpty());
+}
+
+TEST(Timer, FiresOnceOrAgainUntilItIsOff)
+{
+    Timer timer(1);
+    int shots = 0;
+    std::vector<Timer::RunModes> seen;
+    timer.Action = [&] {
+        seen.push_back(timer.RunMode());
+        if (++shots == 4) timer.SetRunMode(Timer::RunModes::Off);
+    };
+    timer.SetRunMode(Timer::RunModes::Single);
+    EXPECT_EQ(shots, 0);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shots == 1; }));
+    timer.SetRunMode(Timer::RunModes::Multiple);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shots == 4; }));
+    using enum Timer::RunModes;
+    EXPECT_EQ(seen, (std::vector{Off, Multiple, Multiple, Multiple}));
+    EXPECT_EQ(timer.RunMode(), Off);
+    timer.SetRunMode(Single);
+    timer.SetRunMode(Off);
+    Timer later(10);
+    later.SetRunMode(Single);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return later.RunMode() == Off; }));
+    EXPECT_EQ(shots, 4);
+}
+
+/// A WAV file of some samples; `format` 1 is plain samples.
+std::string Wav(char format, char bits, const std::string& before = "")
+{
+    const std::string fields{format, 0, 1, 0, 68, -84, 0, 0, -120, 88, 1, 0, 2, 0, bits, 0};
+    return "RIFF\0\1\0\0WAVE"s + before + "fmt \20\0\0\0"s + fields + "data\20\0\0\0"s + std::string(16, '\1');
+}
+
+TEST(Sound, OpensPlainWavFilesOnly)
+{
+    const struct {
+        const char* name;
+        std::string bytes;
+        bool isSound;
+    } rows[] = {
+        {"16 bits", Wav(1, 16), true},
+        {"another chunk of odd length goes before", Wav(1, 16, "LIST\3\0\0\0abc\0"s), true},
+        {"8 bits", Wav(1, 8), false},
+        {"compressed", Wav(85, 16), false},
+        {"no samples", Wav(1, 16).substr(0, 36), false},
+        {"a chunk that promises too much", Wav(1, 16, "LIST\xff\xff\xff\xff"s), false},
+        {"a cut head", Wav(1, 16).substr(0, 15), false},
+        {"an empty file", "", false},
+        {"a text", "SCENERY_PACK Custom Scenery/Alpes/\n", false},
+    };
+    const TemporaryFolder folder;
+    for (const auto& row : rows)
+        EXPECT_EQ(Sound::OpenAsSound(FolderItem(folder.File("sound.wav", row.bytes))) != nullptr, row.isSound)
+            << row.name;
+    EXPECT_EQ(Sound::OpenAsSound(FolderItem(folder.Path() / "missing.wav")), nullptr);
+    EXPECT_EQ(Sound::OpenAsSound(FolderItem(folder.Path())), nullptr);
+    EXPECT_EQ(Sound::OpenAsSound(FolderItem("/dev/zero")), nullptr);
+}
+
+TEST(Sound, IsSilentWithoutASoundDevice)
+{
+    const TemporaryFolder folder;
+    const auto sound = Sound::OpenAsSound(FolderItem(folder.File("Bip.wav", Wav(1, 16))));
+    ASSERT_TRUE(sound);
+    sound->SetVolume(30);
+    const auto clone = sound->Clone();
+    EXPECT_EQ(clone->Volume(), 30);
+    testing::internal::CaptureStderr();
+    for (Sound* const voice : {sound.get(), clone.get(), sound.get()}) {
+        voice->Play();
+        voice->SetVolume(50);
+        EXPECT_FALSE(voice->IsPlaying());
+    }
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+    Probe probe;
+    sound->Play();
+    EXPECT_EQ(probe.Sounds, std::vector{U"Bip.wav"s});
+}
+
+} // namespace
+
+#include "DesktopTests.moc"
