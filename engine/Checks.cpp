@@ -55,13 +55,35 @@ std::vector<std::size_t> CountEach(const Numbers& numbers, std::size_t count)
     return counts;
 }
 
-/// A list for a report, one name a line.
-String Bulleted(std::span<const StringView> names)
+/// Adds a section to a report, if it has any name: a title, and one name a line.
+void AppendSection(String& report, StringView title, std::span<const StringView> names)
 {
-    String list;
+    constexpr StringView bullet = U" - ";
+    if (names.empty()) return;
+    if (!report.empty()) report.append(EndOfLine::Native).append(U" ").append(EndOfLine::Native);
+    std::size_t length = report.size() + title.size();
     for (const StringView name : names)
-        list.append(EndOfLine::Native).append(U" - ").append(name);
-    return list;
+        length += EndOfLine::Native.size() + bullet.size() + name.size();
+    report.reserve(length);
+    report.append(title);
+    for (const StringView name : names)
+        report.append(EndOfLine::Native).append(bullet).append(name);
+}
+
+/// The second of the names wherever several are the same, in sorted order.
+std::vector<StringView> Repeated(std::span<const StringView> names)
+{
+    TextNumbers numbers(names.size());
+    const Numbers ofName = numbers.Add(names);
+    if (numbers.Count() == names.size()) return {};
+    std::vector<std::uint32_t> met(numbers.Count());
+    std::vector<StringView> seconds, sorted;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        if (++met[ofName[i]] == 2) seconds.push_back(names[i]);
+    }
+    for (const std::size_t place : SortedOrder(seconds))
+        sorted.push_back(seconds[place]);
+    return sorted;
 }
 
 /// The folders of `Custom Scenery` beside the lines that list sceneries, paired by name. Of several of one name the
@@ -139,18 +161,9 @@ std::vector<StringView> Pairing::ListedWithoutFolder() const
 
 String TestModelScen(std::span<const SceneryLine> lignes)
 {
-    const std::vector<StringView> names = NamesOf(ListingsOf(lignes));
-    TextNumbers numbers(names.size());
-    const Numbers ofName = numbers.Add(names);
-    std::vector<std::size_t> met(numbers.Count());
-    std::vector<StringView> repeated, sorted;
-    for (std::size_t i = 0; i < names.size(); ++i) {
-        if (++met[ofName[i]] == 2) repeated.push_back(names[i]);
-    }
-    if (repeated.empty()) return {};
-    for (const std::size_t place : SortedOrder(repeated))
-        sorted.push_back(repeated[place]);
-    return Localisation::Txt_ScenPlusDuneFois() + Bulleted(sorted);
+    String report;
+    AppendSection(report, Localisation::Txt_ScenPlusDuneFois(), Repeated(NamesOf(ListingsOf(lignes))));
+    return report;
 }
 
 String TestFolderScen(std::span<const SceneryLine> lignes, const FolderItem& dossier)
@@ -158,11 +171,8 @@ String TestFolderScen(std::span<const SceneryLine> lignes, const FolderItem& dos
     const std::vector<String> folders = FolderNames(dossier);
     const std::vector<Listing> listings = ListingsOf(lignes);
     const Pairing pairing(folders, listings);
-    String report = Bulleted(pairing.UnlistedFolders());
-    if (!report.empty()) report.insert(0, Localisation::Txt_DossDsDossPasDsScen());
-    if (const String list = Bulleted(pairing.ListedWithoutFolder()); !list.empty()) {
-        if (!report.empty()) report.append(EndOfLine::Native).append(U" ").append(EndOfLine::Native);
-        report.append(Localisation::Txt_ScenDsScenIniPasDsDoss()).append(list);
-    }
+    String report;
+    AppendSection(report, Localisation::Txt_DossDsDossPasDsScen(), pairing.UnlistedFolders());
+    AppendSection(report, Localisation::Txt_ScenDsScenIniPasDsDoss(), pairing.ListedWithoutFolder());
     return report;
 }

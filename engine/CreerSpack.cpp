@@ -40,9 +40,13 @@ bool ReportsDoubt(const SceneryLine& line, const Entry& entry, const Report& rep
     return reported;
 }
 
-/// A line of the result in two pieces, since no text holds a twin as a whole.
+/// A line of the model in the state that it has in the result.
 struct PlacedLine {
-    StringView prefix, rest;
+    const SceneryLine* line;
+    LineState state;
+
+    [[nodiscard]] StringView Prefix() const { return state == line->state ? line->Prefix() : PrefixOf(state); }
+    [[nodiscard]] StringView Rest() const { return line->Rest(); }
 };
 
 /// The body of the result as far as the model knows it. `unknown` receives where the lines of the model begin that the
@@ -60,12 +64,10 @@ std::vector<PlacedLine> PlaceInModelOrder(std::span<const SceneryLine> model, Le
         Entry& entry = *entries[i];
         const bool blank = line.text.empty();
         if (!blank && ReportsDoubt(line, entry, report)) continue;
-        if (blank || entry[line.state].inSource > 0) {
-            placed.push_back({line.Prefix(), line.Rest()});
-            ++entry[line.state].inResult;
-        } else if (const LineState twin = TwinOf(line.state); entry[twin].inSource > 0) {
-            placed.push_back({PrefixOf(twin), line.Rest()});
-            ++entry[twin].inResult;
+        const LineState state = blank || entry[line.state].inSource > 0 ? line.state : TwinOf(line.state);
+        if (blank || entry[state].inSource > 0) {
+            placed.push_back({&line, state});
+            ++entry[state].inResult;
         } else {
             unknown.push_back(offset);
         }
@@ -77,24 +79,23 @@ std::size_t LengthOf(std::span<const PlacedLine> lines)
 {
     std::size_t length = 0;
     for (const PlacedLine& line : lines)
-        length += line.prefix.size() + line.rest.size() + TxtEoF.size();
+        length += line.Prefix().size() + line.Rest().size() + TxtEoF.size();
     return length;
 }
 
-/// The text of the result: the placed lines, with each line of the source that isn't among them at its own line number,
-/// or at the end when the result is shorter. `unplaced` receives where those begin.
+/// Makes `text` the result: the placed lines, with each line of the source that isn't among them at its own line
+/// number, or at the end when the result is shorter. `unplaced` receives where those begin.
 ///
 /// Along the source line numbers only grow, so the text is written from its start to its end, and no line that an
 /// insertion pushes down is ever moved.
-String WeaveInTheRest(std::span<const PlacedLine> placed, std::span<const SceneryLine> source, Ledger& ledger,
-                      std::vector<Int64>& unplaced)
+void WeaveInTheRest(std::span<const PlacedLine> placed, std::span<const SceneryLine> source, Ledger& ledger,
+                    std::vector<Int64>& unplaced, String& text)
 {
-    String text(TxtDebSpack);
     text.reserve(LengthOf(placed) + static_cast<std::size_t>(LongTxtTab(source, LgTxtEoF, std::ssize(source) - 1)));
-    text.append(TxtEoF);
+    text.assign(TxtDebSpack).append(TxtEoF);
     std::size_t lines = headerLines;
-    const auto append = [&](const PlacedLine& line) {
-        text.append(line.prefix).append(line.rest).append(TxtEoF);
+    const auto append = [&](const auto& line) {
+        text.append(line.Prefix()).append(line.Rest()).append(TxtEoF);
         ++lines;
     };
     for (std::size_t j = headerLines; j < source.size(); ++j) {
@@ -103,11 +104,21 @@ String WeaveInTheRest(std::span<const PlacedLine> placed, std::span<const Scener
         for (; lines < j && !placed.empty(); placed = placed.subspan(1))
             append(placed.front());
         unplaced.push_back(std::ssize(text));
-        append({source[j].Prefix(), source[j].Rest()});
+        append(source[j]);
         ++tally.inResult;
     }
     std::for_each(placed.begin(), placed.end(), append);
-    return text;
+}
+
+/// Makes the result and its marks; true when it holds the very lines of the source.
+bool Reorder(SceneryTexts& texts, std::span<const SceneryLine> model, const Report& report)
+{
+    const std::vector<SceneryLine> source = LinesWithoutBlankEnd(texts.TextSrcSpack);
+    Ledger ledger(source);
+    const std::vector<PlacedLine> placed = PlaceInModelOrder(model, ledger, texts.CoulModSpack, report);
+    WeaveInTheRest(placed, source, ledger, texts.CoulDestSpack, texts.TextDestSpack);
+    // Once sorted, both texts are the same when each line has the same count on both sides.
+    return ledger.IsBalanced();
 }
 
 } // namespace
@@ -119,13 +130,7 @@ void CreerSpack(SceneryTexts& texts, const FolderItem& dossier, const Report& re
         texts.TextDestSpack = ErrorMarker;
         return report(twice, {});
     }
-    const std::vector<SceneryLine> source = LinesWithoutBlankEnd(texts.TextSrcSpack);
-    Ledger ledger(source);
-    const std::vector<PlacedLine> placed = PlaceInModelOrder(model, ledger, texts.CoulModSpack, report);
-    texts.TextDestSpack = WeaveInTheRest(placed, source, ledger, texts.CoulDestSpack);
-
-    // Both texts hold the same lines, once sorted, when each line has the same count on both sides.
-    if (!ledger.IsBalanced()) return report(Localisation::Txt_ProblemCompInitFinal(), {});
+    if (!Reorder(texts, model, report)) return report(Localisation::Txt_ProblemCompInitFinal(), {});
     if (const String folders = TestFolderScen(LinesOf(texts.TextDestSpack), dossier); !folders.empty()) {
         report(folders, {});
     }

@@ -1,5 +1,7 @@
 #include "engine/SceneryText.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr std::size_t starsOfError = 89;
@@ -52,8 +54,12 @@ StringView RetScenLigne(StringView ligne)
 std::vector<SceneryLine> LinesOf(StringView text)
 {
     std::vector<SceneryLine> lines;
-    for (const StringView line : Split(text, TxtEoF))
-        lines.push_back({line, StateOf(line)});
+    lines.reserve(1 + static_cast<std::size_t>(std::count(text.begin(), text.end(), TxtEoF.front())));
+    for (std::size_t end = text.find(TxtEoF); end != StringView::npos; end = text.find(TxtEoF)) {
+        lines.push_back({text.substr(0, end), StateOf(text.substr(0, end))});
+        text.remove_prefix(end + TxtEoF.size());
+    }
+    lines.push_back({text, StateOf(text)});
     return lines;
 }
 

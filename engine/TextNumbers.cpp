@@ -27,15 +27,32 @@ TextNumbers::TextNumbers(std::size_t most)
     : shift_(64 - static_cast<int>(std::bit_width(2 * most + 1)))
     , slots_(std::size_t{1} << (64 - shift_))
 {
+    texts_.reserve(most);
 }
 
 std::size_t TextNumbers::SlotOf(StringView text, std::uint64_t hash) const
 {
+    const auto isOther = [&](const Slot& slot) {
+        return slot.number != None && (slot.check != CheckOf(hash) || !SameText(texts_[slot.number], text));
+    };
     std::size_t index = Home(hash);
-    while (slots_[index].number != None &&
-           (slots_[index].check != CheckOf(hash) || !SameText(slots_[index].text, text)))
+    while (isOther(slots_[index]))
         index = (index + 1) % slots_.size();
     return index;
+}
+
+/// Has the memory brought up that the look-ups will read; each step finds there what the one before has asked for.
+void TextNumbers::ReadAhead(std::span<const std::uint64_t> hashes) const
+{
+    for (const std::uint64_t hash : hashes)
+        __builtin_prefetch(&slots_[Home(hash)]);
+    for (const std::uint64_t hash : hashes) {
+        if (const Slot& slot = slots_[Home(hash)]; slot.number != None) __builtin_prefetch(&texts_[slot.number]);
+    }
+    for (const std::uint64_t hash : hashes) {
+        const Slot& slot = slots_[Home(hash)];
+        if (slot.number != None && slot.check == CheckOf(hash)) __builtin_prefetch(texts_[slot.number].data());
+    }
 }
 
 /// Calls `use` with each text's index, its slot or the free slot where it belongs, and its hash.
@@ -45,12 +62,8 @@ void TextNumbers::ForEachSlot(std::span<const StringView> texts, Use use) const
     std::array<std::uint64_t, blockSize> hashes{};
     for (std::size_t first = 0; first < texts.size(); first += blockSize) {
         const std::span<const StringView> block = texts.subspan(first, std::min(blockSize, texts.size() - first));
-        for (std::size_t i = 0; i < block.size(); ++i) {
-            hashes[i] = HashOf(block[i]);
-            __builtin_prefetch(&slots_[Home(hashes[i])]);
-        }
-        for (std::size_t i = 0; i < block.size(); ++i)
-            __builtin_prefetch(slots_[Home(hashes[i])].text.data());
+        std::transform(block.begin(), block.end(), hashes.begin(), HashOf);
+        ReadAhead({hashes.data(), block.size()});
         for (std::size_t i = 0; i < block.size(); ++i)
             use(first + i, SlotOf(block[i], hashes[i]), hashes[i]);
     }
@@ -60,7 +73,10 @@ std::vector<TextNumbers::Number> TextNumbers::Add(std::span<const StringView> te
 {
     std::vector<Number> numbers(texts.size());
     ForEachSlot(texts, [&](std::size_t index, std::size_t slot, std::uint64_t hash) {
-        if (slots_[slot].number == None) slots_[slot] = {texts[index], CheckOf(hash), count_++};
+        if (slots_[slot].number == None) {
+            slots_[slot] = {CheckOf(hash), static_cast<Number>(texts_.size())};
+            texts_.push_back(texts[index]);
+        }
         numbers[index] = slots_[slot].number;
     });
     return numbers;

@@ -23,21 +23,23 @@ public:
     [[nodiscard]] std::vector<Number> Find(std::span<const StringView> texts) const;
 
     /// How many different texts were added; all numbers are below it.
-    [[nodiscard]] std::size_t Count() const { return count_; }
+    [[nodiscard]] std::size_t Count() const { return texts_.size(); }
 
 private:
     struct Slot {
-        StringView text;
+        /// Tells most of the texts apart that want the same slot.
         std::uint32_t check = 0;
         Number number = None;
     };
 
     template <class Use>
     void ForEachSlot(std::span<const StringView> texts, Use use) const;
+    void ReadAhead(std::span<const std::uint64_t> hashes) const;
     [[nodiscard]] std::size_t Home(std::uint64_t hash) const { return hash >> shift_; }
     [[nodiscard]] std::size_t SlotOf(StringView text, std::uint64_t hash) const;
 
     int shift_;
     std::vector<Slot> slots_;
-    Number count_ = 0;
+    /// The texts by their numbers.
+    std::vector<StringView> texts_;
 };
