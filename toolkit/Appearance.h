@@ -9,7 +9,7 @@
 class QWidget;
 
 /// The size of the controls' texts in points of the layout, where the platform leaves it to us: the heights of the
-/// windows' tables are made for it.
+/// placements of controls are made for it.
 inline constexpr int ControlFontSize = 12;
 
 /// Brings the controls of a window's content to that size.

@@ -6,12 +6,10 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
-#include <limits>
 
 namespace {
 
@@ -45,23 +43,6 @@ String DesktopButton::Caption() const { return Unmarked(static_cast<QPushButton*
 void DesktopButton::SetCaption(StringView caption)
 {
     SetButtonCaption(*static_cast<QPushButton*>(widget_), caption, Width() - 2 * ButtonMargin, fontSize_);
-}
-
-DesktopTextField::DesktopTextField(DesktopWindow& window, const Placement& placement, StringView text)
-    : DesktopUIControl(window, new QLineEdit, placement)
-{
-    static_cast<QLineEdit*>(widget_)->setMaxLength(std::numeric_limits<int>::max());
-    SetBlackOnWhite(*widget_);
-    SetText(text);
-}
-
-String DesktopTextField::Text() const { return FromQt(static_cast<QLineEdit*>(widget_)->text()); }
-
-void DesktopTextField::SetText(StringView text)
-{
-    auto* field = static_cast<QLineEdit*>(widget_);
-    field->setText(ToQt(text));
-    field->setCursorPosition(0);
 }
 
 DesktopCheckBox::DesktopCheckBox(DesktopWindow& window, const Placement& placement, StringView caption)

@@ -3,6 +3,7 @@
 
 #include "toolkit/Color.h"
 #include "toolkit/DesktopUIControl.h"
+#include "toolkit/core/FolderItem.h"
 
 #include <functional>
 
@@ -21,13 +22,20 @@ private:
     int fontSize_;
 };
 
-/// A field of one line, black on white in every appearance. Line ends in its text stay, though they are not seen.
+/// A field of one line, black on white in every appearance, grey while it is disabled. Line ends in its text stay, though they are not seen.
 class DesktopTextField : public DesktopUIControl {
 public:
     DesktopTextField(DesktopWindow& window, const Placement& placement, StringView text = {});
 
     [[nodiscard]] String Text() const;
     void SetText(StringView text);
+    void SelectAll();
+
+    /// Enter and Esc.
+    std::function<void()> Entered, Escaped;
+    /// An item was dropped on the field, or its native path or "file://" address was pasted there. With a handler the
+    /// field's text stays what it was; without one the field takes no drop, and a pasted path is a text like any other.
+    std::function<void(const FolderItem& item)> ItemGiven;
 };
 
 enum class TextAlignment { Left, Center, Right };

@@ -7,6 +7,8 @@
 
 #include <QMimeData>
 #include <QPlainTextEdit>
+#include <QScrollBar>
+#include <QTextBlock>
 #include <algorithm>
 
 namespace {
@@ -22,14 +24,18 @@ public:
     Editor();
 
     void SetText(StringView text, std::span<const ColorSpan> colors);
+    void ReplaceText(StringView text, std::span<const ColorSpan> colors);
     /// The character that begins at a position of the document.
     [[nodiscard]] Int64 Offset(int position) const;
+    /// The position of the document at which a character begins, or its end for a character behind it.
+    [[nodiscard]] int Position(Int64 offset) const;
 
 protected:
     QMimeData* createMimeDataFromSelection() const override;
     void insertFromMimeData(const QMimeData* source) override;
 
 private:
+    static void InsertRuns(QTextCursor& cursor, StringView text, std::span<const ColorSpan> colors);
     /// Chooses how a text that comes in as a whole is wrapped.
     void WrapFor(StringView text);
     /// Whether a text of the document has characters of two units each.
@@ -75,7 +81,27 @@ void DesktopTextArea::Editor::SetText(StringView text, std::span<const ColorSpan
     WrapFor(text);
     setUndoRedoEnabled(false);
     QTextCursor cursor(document());
+    InsertRuns(cursor, text, colors);
+    setUndoRedoEnabled(true);
+    moveCursor(QTextCursor::Start);
+    setCurrentCharFormat(QTextCharFormat());
+}
+
+void DesktopTextArea::Editor::ReplaceText(StringView text, std::span<const ColorSpan> colors)
+{
+    WrapFor(text);
+    QTextCursor cursor(document());
+    cursor.select(QTextCursor::Document);
+    InsertRuns(cursor, text, colors);
+    moveCursor(QTextCursor::Start);
+    setCurrentCharFormat(QTextCharFormat());
+}
+
+/// Puts the text in the place of what the cursor has selected.
+void DesktopTextArea::Editor::InsertRuns(QTextCursor& cursor, StringView text, std::span<const ColorSpan> colors)
+{
     cursor.beginEditBlock();
+    cursor.removeSelectedText();
     std::size_t done = 0;
     for (const ColorSpan& run : ColorRuns(colors, static_cast<Int64>(text.size()))) {
         const auto start = static_cast<std::size_t>(run.start), length = static_cast<std::size_t>(run.length);
@@ -87,9 +113,6 @@ void DesktopTextArea::Editor::SetText(StringView text, std::span<const ColorSpan
     }
     cursor.insertText(ToDocument(text.substr(done)), QTextCharFormat());
     cursor.endEditBlock();
-    setUndoRedoEnabled(true);
-    moveCursor(QTextCursor::Start);
-    setCurrentCharFormat(QTextCharFormat());
 }
 
 Int64 DesktopTextArea::Editor::Offset(int position) const
@@ -97,6 +120,20 @@ Int64 DesktopTextArea::Editor::Offset(int position) const
     if (!pairs_) return position;
     const QString units = document()->toRawText().left(position);
     return position - std::ranges::count_if(units, [](QChar unit) { return unit.isLowSurrogate(); });
+}
+
+int DesktopTextArea::Editor::Position(Int64 offset) const
+{
+    const int end = document()->characterCount() - 1;
+    if (!pairs_) return static_cast<int>(std::clamp(offset, Int64{0}, Int64{end}));
+    const QString units = document()->toRawText();
+    int position = 0;
+    for (Int64 character = 0; character < offset && position < end; ++character) {
+        ++position;
+        while (position < end && units[position].isLowSurrogate())
+            ++position;
+    }
+    return position;
 }
 
 QMimeData* DesktopTextArea::Editor::createMimeDataFromSelection() const
@@ -109,7 +146,7 @@ QMimeData* DesktopTextArea::Editor::createMimeDataFromSelection() const
 void DesktopTextArea::Editor::insertFromMimeData(const QMimeData* source)
 {
     if (isReadOnly() || !source->hasText()) return;
-    const String text = FromQt(source->text());
+    const String text = ReplaceLineEndings(FromQt(source->text()), EndOfLine::UNIX);
     if (text.size() > longestLineOfWords) WrapFor(text);
     insertPlainText(ToDocument(text));
     ensureCursorVisible();
@@ -139,4 +176,35 @@ Int64 DesktopTextArea::SelectionStart() const { return editor().Offset(editor().
 Int64 DesktopTextArea::SelectionLength() const
 {
     return editor().Offset(editor().textCursor().selectionEnd()) - SelectionStart();
+}
+
+void DesktopTextArea::ReplaceStyledText(StringView text, std::span<const ColorSpan> colors)
+{
+    editor().ReplaceText(text, colors);
+}
+
+String DesktopTextArea::SelectedText() const { return FromDocument(editor().textCursor().selectedText()); }
+
+void DesktopTextArea::Select(Int64 start, Int64 length)
+{
+    QTextCursor cursor = editor().textCursor();
+    cursor.setPosition(editor().Position(start));
+    cursor.setPosition(editor().Position(start + length), QTextCursor::KeepAnchor);
+    editor().setTextCursor(cursor);
+}
+
+Int64 DesktopTextArea::LineNumber(Int64 position) const
+{
+    QTextCursor cursor(editor().document());
+    cursor.setPosition(editor().Position(position));
+    const QTextBlock block = cursor.block();
+    // Asked for its place, the area lays the line out.
+    static_cast<void>(editor().cursorRect(cursor));
+    const QTextLine line = block.layout()->lineForTextPosition(cursor.positionInBlock());
+    return block.firstLineNumber() + (line.isValid() ? line.lineNumber() : 0);
+}
+
+void DesktopTextArea::SetVerticalScrollPosition(Int64 line)
+{
+    editor().verticalScrollBar()->setValue(static_cast<int>(line));
 }

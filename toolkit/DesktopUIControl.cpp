@@ -78,7 +78,7 @@ void DesktopUIControl::SetFocus() { widget_->setFocus(); }
 
 void DesktopUIControl::Apply()
 {
-    // A control that begins in the content is drawn to its end, even where the table gives it a point too many.
+    // A control that begins in the content is drawn to its end, even where its placement is a point too high.
     const auto visible = [](int start, int extent, int room) {
         return std::max(start < room ? std::min(extent, room - start) : extent, 0);
     };

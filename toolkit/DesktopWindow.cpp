@@ -9,6 +9,7 @@
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QPointer>
+#include <QShortcut>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
@@ -74,6 +75,9 @@ DesktopWindow::Shell::Shell(DesktopWindow& owner, const WindowStyle& style)
     content->setMaximumSize(style.resizable ? QSize(style.maximumWidth, style.maximumHeight)
                                             : QSize(style.width, style.height));
     content->installEventFilter(this);
+    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this, [this] {
+        if (owner_.FindRequested) owner_.FindRequested();
+    });
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -173,6 +177,8 @@ void DesktopWindow::Show()
 
 void DesktopWindow::Close()
 {
+    // Asked to close while it opens, a window is never seen, even if the close itself is put off.
+    if (!Visible()) opened_ = false;
     if (CancelClosing && CancelClosing(false)) return;
     opened_ = false;
     shell_->hide();

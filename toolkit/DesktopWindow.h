@@ -60,6 +60,8 @@ public:
     std::function<void()> Opening;
     /// The window becomes the one that the keyboard goes to.
     std::function<void()> Activated;
+    /// The user asked for the search by the platform's keys for it.
+    std::function<void()> FindRequested;
     /// The window is about to close, alone or with the whole program; true keeps it open.
     std::function<bool(bool appQuitting)> CancelClosing;
 

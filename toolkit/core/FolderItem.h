@@ -68,6 +68,10 @@ public:
     void MoveTo(const FolderItem& folder) const;
     /// Gives the item another name in its folder, under the rules of `MoveTo`.
     void Rename(StringView newName) const;
+    /// Copies the content of the file (of an alias: of the file behind it) to a new file, which gets its permissions
+    /// and has reached the file system on return. Raises IOException, also where something is there already: that is
+    /// never replaced. Nothing is left of a copy that failed.
+    void CopyTo(const FolderItem& copy) const;
     /// Removes a file, an alias or an empty folder. Raises IOException, also when there was nothing to remove.
     void Remove() const;
 

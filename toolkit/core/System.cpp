@@ -3,6 +3,7 @@
 #include "toolkit/core/FolderItem.h"
 #include "toolkit/core/QtText.h"
 
+#include <QDateTime>
 #include <QLocale>
 #include <QTranslator>
 #include <chrono>
@@ -62,4 +63,12 @@ String SystemGetLocalizedString(StringView key, StringView defaultText, StringVi
     if (!translation) return String(defaultText);
     const QString text = translation->translate("", ToQt(key).toUtf8().constData());
     return text.isEmpty() ? String(defaultText) : FromQt(text);
+}
+
+DateTime DateTime::Now()
+{
+    const QDateTime now = QDateTime::currentDateTime();
+    const QDate date = now.date();
+    const QTime time = now.time();
+    return {date.year(), date.month(), date.day(), time.hour(), time.minute(), time.second()};
 }

@@ -8,6 +8,12 @@ namespace System {
 Int64 Ticks();
 } // namespace System
 
+/// A moment as the clocks of the user's place show it.
+struct DateTime {
+    int Year, Month, Day, Hour, Minute, Second;
+    static DateTime Now();
+};
+
 /// The text for `key` in `language` ("de", "pt"), where an empty language means that of the user; `defaultText` where
 /// the program has no translation.
 ///

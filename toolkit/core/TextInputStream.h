@@ -23,8 +23,9 @@ public:
     [[nodiscard]] bool EndOfFile();
     void Close();
 
-    /// 1 GiB: far above any text of this kind, and below what would exhaust the memory.
-    static constexpr Int64 MaximumSize = Int64{1} << 30;
+    /// 256 MiB: some ten thousand times a large scenery_packs.ini. As characters they are 1 GiB, which is handled more
+    /// than once.
+    static constexpr Int64 MaximumSize = Int64{256} << 20;
 
 private:
     struct File;

@@ -1,0 +1,118 @@
+#include "toolkit/Appearance.h"
+#include "toolkit/DesktopControls.h"
+#include "toolkit/core/QtText.h"
+
+#include <QDropEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QUrl>
+#include <limits>
+
+namespace {
+
+/// The existing item that a native absolute path or a "file://" address names.
+std::optional<FolderItem> ItemOf(const QString& text)
+{
+    const QUrl url(text);
+    const QString path = url.isLocalFile() ? url.toLocalFile() : text;
+    if (!path.startsWith(u'/') || path.contains(QChar())) return {};
+    auto place = std::filesystem::path(path.toStdString()).lexically_normal();
+    if (!place.has_filename() && place.has_relative_path()) place = place.parent_path();
+    const FolderItem item(std::move(place));
+    return item.Exists() ? std::optional(item) : std::nullopt;
+}
+
+/// What an edit put between the parts that both texts share.
+QString Inserted(const QString& before, const QString& after)
+{
+    const auto shorter = std::min(before.size(), after.size());
+    qsizetype head = 0, tail = 0;
+    while (head < shorter && before[head] == after[head])
+        ++head;
+    while (tail < shorter - head && before[before.size() - 1 - tail] == after[after.size() - 1 - tail])
+        ++tail;
+    return after.mid(head, after.size() - head - tail);
+}
+
+class Field final : public QLineEdit {
+public:
+    explicit Field(DesktopTextField& owner)
+        : owner_(owner)
+    {
+        setMaxLength(std::numeric_limits<int>::max());
+        connect(this, &QLineEdit::textEdited, this, [this](const QString& text) { Edited(text); });
+    }
+
+    void Show(const QString& text)
+    {
+        before_ = text;
+        setText(text);
+        setCursorPosition(0);
+    }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+        if (enter && owner_.Entered) return owner_.Entered();
+        if (event->key() == Qt::Key_Escape && owner_.Escaped) return owner_.Escaped();
+        QLineEdit::keyPressEvent(event);
+    }
+
+    void dragEnterEvent(QDragEnterEvent* event) override
+    {
+        if (DroppedItem(*event->mimeData()))
+            event->acceptProposedAction();
+        else
+            QLineEdit::dragEnterEvent(event);
+    }
+
+    void dropEvent(QDropEvent* event) override
+    {
+        const std::optional<FolderItem> item = DroppedItem(*event->mimeData());
+        if (!item) return QLineEdit::dropEvent(event);
+        event->acceptProposedAction();
+        owner_.ItemGiven(*item);
+    }
+
+private:
+    [[nodiscard]] std::optional<FolderItem> DroppedItem(const QMimeData& dropped) const
+    {
+        if (!owner_.ItemGiven || dropped.urls().size() != 1) return {};
+        return ItemOf(dropped.urls().front().toString());
+    }
+
+    /// A path that came in at once was pasted; one that is typed comes in by single characters.
+    void Edited(const QString& text)
+    {
+        const QString pasted = Inserted(before_, text).trimmed();
+        const std::optional<FolderItem> item =
+            owner_.ItemGiven && pasted.size() > 1 ? ItemOf(pasted) : std::optional<FolderItem>();
+        if (!item) {
+            before_ = text;
+            return;
+        }
+        Show(before_);
+        owner_.ItemGiven(*item);
+    }
+
+    DesktopTextField& owner_;
+    /// The text before the edit that is under way.
+    QString before_;
+};
+
+} // namespace
+
+DesktopTextField::DesktopTextField(DesktopWindow& window, const Placement& placement, StringView text)
+    : DesktopUIControl(window, new Field(*this), placement)
+{
+    SetBlackOnWhite(*widget_);
+    SetText(text);
+}
+
+String DesktopTextField::Text() const { return FromQt(static_cast<QLineEdit*>(widget_)->text()); }
+
+void DesktopTextField::SetText(StringView text) { static_cast<Field*>(widget_)->Show(ToQt(text)); }
+
+void DesktopTextField::SelectAll() { static_cast<QLineEdit*>(widget_)->selectAll(); }

@@ -1,0 +1,10 @@
+/// What the writers of files share: calls of the operating system whose failure is an IOException.
+#pragma once
+
+#include <string_view>
+
+/// Raises the error of the operating system's last call unless it was done.
+void Check(bool done);
+
+/// Writes all bytes to an open file. Raises IOException.
+void WriteAll(int descriptor, std::string_view data);
