@@ -42,26 +42,59 @@ void ReadSourceModel(Preferences& preferences, StringView value)
         preferences.sourceModelRefused = true;
 }
 
+String WriteBoolean(bool value) { return value ? U"True" : U"False"; }
+
+/// A pasted line end would break the file into other lines.
+String WriteLine(const std::optional<String>& text) { return ReplaceLineEndings(text.value_or(String()), U""); }
+
+String WriteList(const std::vector<String>& elements)
+{
+    const std::vector<StringView> views(elements.begin(), elements.end());
+    return Join(views, tab);
+}
+
+String WriteGeometry(const WindowGeometry& geometry)
+{
+    return ToText(geometry.left) + U"," + ToText(geometry.top) + U"," + ToText(geometry.width) + U"," +
+           ToText(geometry.height);
+}
+
 struct Key {
     StringView name;
     void (*read)(Preferences& preferences, StringView value);
+    String (*write)(const Preferences& preferences);
 };
 
+/// In the order in which they are written.
 constexpr std::array keys = {
-    Key{U"Afficher Bouton Special A", [](Preferences& p, StringView value) { p.DrapAffBtnSpecA = ReadBoolean(value); }},
-    Key{U"Volume Sonore", [](Preferences& p, StringView value) { p.volume = ReadInt16(value); }},
-    Key{U"Fenetre WinMain", [](Preferences& p, StringView value) { ReadGeometry(p.geometry, value); }},
-    Key{U"Source Model", [](Preferences& p, StringView value) { ReadSourceModel(p, value); }},
-    Key{U"SourceFile_Path", [](Preferences& p, StringView value) { p.modelFile = value; }},
-    Key{U"SourceUrl", [](Preferences& p, StringView value) { p.modelUrl = value; }},
-    Key{U"Archiv Old File", [](Preferences& p, StringView value) { p.archive = ReadBoolean(value); }},
-    Key{U"ArchivFolder_Path", [](Preferences& p, StringView value) { p.archiveFolder = value; }},
-    Key{U"SceneryPack_Path", [](Preferences& p, StringView value) { p.spackFile = value; }},
-    Key{U"WspecAheight", [](Preferences& p, StringView value) { p.WspecAheight = ReadInt16(value); }},
-    Key{U"PathSpecA", [](Preferences& p, StringView value) { p.PathSpecA = value; }},
-    Key{U"TabSpecAorg", [](Preferences& p, StringView value) { p.TabSpecAorg = ReadList(value); }},
-    Key{U"TabSpecAdest1", [](Preferences& p, StringView value) { p.TabSpecAdest1 = ReadList(value); }},
-    Key{U"TabSpecAdest2", [](Preferences& p, StringView value) { p.TabSpecAdest2 = ReadList(value); }},
+    Key{U"Afficher Bouton Special A", [](Preferences& p, StringView value) { p.DrapAffBtnSpecA = ReadBoolean(value); },
+        [](const Preferences& p) { return WriteBoolean(p.DrapAffBtnSpecA); }},
+    Key{U"Volume Sonore", [](Preferences& p, StringView value) { p.volume = ReadInt16(value); },
+        [](const Preferences& p) { return ToText(p.volume); }},
+    Key{U"Fenetre WinMain", [](Preferences& p, StringView value) { ReadGeometry(p.geometry, value); },
+        [](const Preferences& p) { return WriteGeometry(p.geometry); }},
+    Key{U"Source Model", [](Preferences& p, StringView value) { ReadSourceModel(p, value); },
+        [](const Preferences& p) { return ToText(p.sourceModel.value_or(0)); }},
+    Key{U"SourceFile_Path", [](Preferences& p, StringView value) { p.modelFile = value; },
+        [](const Preferences& p) { return WriteLine(p.modelFile); }},
+    Key{U"SourceUrl", [](Preferences& p, StringView value) { p.modelUrl = value; },
+        [](const Preferences& p) { return WriteLine(p.modelUrl); }},
+    Key{U"Archiv Old File", [](Preferences& p, StringView value) { p.archive = ReadBoolean(value); },
+        [](const Preferences& p) { return WriteBoolean(p.archive.value_or(false)); }},
+    Key{U"ArchivFolder_Path", [](Preferences& p, StringView value) { p.archiveFolder = value; },
+        [](const Preferences& p) { return WriteLine(p.archiveFolder); }},
+    Key{U"SceneryPack_Path", [](Preferences& p, StringView value) { p.spackFile = value; },
+        [](const Preferences& p) { return WriteLine(p.spackFile); }},
+    Key{U"WspecAheight", [](Preferences& p, StringView value) { p.WspecAheight = ReadInt16(value); },
+        [](const Preferences& p) { return ToText(p.WspecAheight); }},
+    Key{U"PathSpecA", [](Preferences& p, StringView value) { p.PathSpecA = value; },
+        [](const Preferences& p) { return p.PathSpecA; }},
+    Key{U"TabSpecAorg", [](Preferences& p, StringView value) { p.TabSpecAorg = ReadList(value); },
+        [](const Preferences& p) { return WriteList(p.TabSpecAorg); }},
+    Key{U"TabSpecAdest1", [](Preferences& p, StringView value) { p.TabSpecAdest1 = ReadList(value); },
+        [](const Preferences& p) { return WriteList(p.TabSpecAdest1); }},
+    Key{U"TabSpecAdest2", [](Preferences& p, StringView value) { p.TabSpecAdest2 = ReadList(value); },
+        [](const Preferences& p) { return WriteList(p.TabSpecAdest2); }},
 };
 
 /// Of this key, which is no longer written, the first line counts.
@@ -91,6 +124,14 @@ Preferences ReadPreferences(std::span<const String> lines)
     for (const String& line : lines)
         ReadLine(preferences, line);
     return preferences;
+}
+
+String WritePreferences(const Preferences& preferences)
+{
+    String text;
+    for (const Key& key : keys)
+        text.append(key.name).append(separator).append(key.write(preferences)).append(EndOfLine::Native);
+    return text;
 }
 
 WindowGeometry FitToScreen(const WindowGeometry& stored, int minimumWidth, int minimumHeight, int screenWidth,

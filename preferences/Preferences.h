@@ -39,6 +39,10 @@ struct Preferences {
 /// The settings of the lines of a preferences file; it never fails.
 Preferences ReadPreferences(std::span<const String> lines);
 
+/// The whole file: a line for each setting, in a fixed order. Line ends inside the four paths and addresses of the main
+/// window are left out; the old key of `AffHelpTag` is not written.
+String WritePreferences(const Preferences& preferences);
+
 /// The stored place if a window of at least that size fits there, and else the whole screen but for a margin: 30 points
 /// from the left, 60 from the top, 60 points less than the screen in width and height.
 ///

@@ -4,6 +4,7 @@
 #include "support/Fncts.h"
 #include "support/TextHelpers.h"
 #include "toolkit/core/TextInputStream.h"
+#include "toolkit/core/TextOutputStream.h"
 
 namespace Fncts {
 
@@ -19,6 +20,19 @@ String LireFichier(const std::optional<FolderItem>& fichier)
         return TextOfBytes(TextInputStream::Open(*fichier).ReadAll());
     } catch (const std::exception&) {
         return {};
+    }
+}
+
+bool SauvFichier(const FolderItem& f, StringView text)
+{
+    try {
+        const Bytes data = DefAppEncod.Encode(text);
+        TextOutputStream stream = TextOutputStream::Create(f, std::ssize(data));
+        stream.Write(data);
+        stream.Close();
+        return true;
+    } catch (const std::exception&) {
+        return false;
     }
 }
 

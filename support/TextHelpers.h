@@ -10,7 +10,7 @@ namespace Fncts {
 String FracTexte(StringView text, Int16 part);
 
 /// What is left of bytes that are no valid text when all that can't stand byte for byte is dropped: in UTF-8 the plain
-/// ASCII, so that valid characters of several bytes go too. Three beeps and "" if nothing valid is left.
+/// ASCII, so that valid characters of several bytes go too. Three beeps and "" for what stays invalid all the same.
 Bytes NettoiBadEncod(std::string_view text, const TextEncoding& encoding);
 
 /// The text as a control's label: with `toLabel` each "&" is doubled, without it each "&&" becomes "&" again. `kind` is
