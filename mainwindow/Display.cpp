@@ -7,8 +7,6 @@
 
 namespace {
 
-constexpr int rowModel = 0, rowSource = 1, rowDest = 2;
-
 String MarkMessage(const BadMark& mark)
 {
     return U"Error ! Please contact the authors.\nAffArea :\njNbre = " + ToText(mark.jNbre) + U"\nkNbre = " +
@@ -43,16 +41,17 @@ void WinMain::PopMenuAff_SelectionChanged()
     TextAreaAff.SetAccessibleName(PopMenuAff.SelectedRowText());
 }
 
-void WinMain::AffArea()
+void WinMain::AffArea() { ShowRow(&DesktopTextArea::SetStyledText); }
+
+void WinMain::ShowRow(Shower shower)
 {
-    const int row = PopMenuAff.SelectedRowIndex();
-    switch (row) {
+    switch (PopMenuAff.SelectedRowIndex()) {
     case rowModel:
-        return ShowText(texts_.TextModel, texts_.CoulModSpack);
+        return ShowText(texts_.TextModel, texts_.CoulModSpack, shower);
     case rowSource:
-        return ShowText(texts_.TextSrcSpack, {});
+        return ShowText(texts_.TextSrcSpack, {}, shower);
     case rowDest:
-        return ShowText(texts_.TextDestSpack, texts_.CoulDestSpack);
+        return ShowText(texts_.TextDestSpack, texts_.CoulDestSpack, shower);
     default:
         TextAreaAff.SetText({});
         Fncts::BeepNbT(3);
@@ -60,10 +59,10 @@ void WinMain::AffArea()
     }
 }
 
-void WinMain::ShowText(StringView text, std::span<const Int64> marks)
+void WinMain::ShowText(StringView text, std::span<const Int64> marks, Shower shower)
 {
     const Colours colours = ColourText(text, marks);
-    TextAreaAff.SetStyledText(text, colours.spans);
+    (TextAreaAff.*shower)(text, colours.spans);
     ReportSeries messages([](const String& message, const String&) {
         Fncts::BeepNbT(3);
         MessageBox(message);

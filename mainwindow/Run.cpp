@@ -40,7 +40,7 @@ void WinMain::BtnRun_Pressed()
         URLCnctLirePage.Disconnect();
         InitVars(true, false);
         AffArea();
-        SetIdle(true);
+        EndRun();
     }
 }
 
@@ -85,7 +85,14 @@ void WinMain::RunSuite()
         Reorder(*spack->Parent());
     }
     AffArea();
+    EndRun();
+}
+
+void WinMain::EndRun()
+{
     SetIdle(true);
+    // A disabled text area has lost the focus that it got when the run began.
+    TextAreaAff.SetFocus();
 }
 
 void WinMain::Reorder(const FolderItem& dossier)

@@ -76,6 +76,7 @@ void WinMain::NameControls()
     PushButtCherch.SetTooltip(Btn_Chercher_HT());
     StaticTextVersion.SetTooltip(Btn_Historic());
 
+    RadGrpSrc.SetAccessibleName(RdButtSourceA() + U" / " + RdButtSourceB());
     TextFieldMod1.SetAccessibleName(RdButtSourceA());
     TextFieldMod2.SetAccessibleName(RdButtSourceB());
     TextFieldArchiv.SetAccessibleName(ChBoxArchive());
@@ -89,10 +90,33 @@ void WinMain::NameControls()
 
 void WinMain::BindHandlers()
 {
-    App::Current().MainWindow.EnableControls = [this](bool idle) { EnableControls(idle); };
+    MainWindowLink& link = App::Current().MainWindow;
+    link.EnableControls = [this](bool idle) { EnableControls(idle); };
+    link.ActSelFichModel = [this](bool reveal) { ActSelFichModel(reveal); };
+    link.ActSelArchivDoss = [this](bool reveal) { ActSelArchivDoss(reveal); };
+    link.ActSelFichSpack = [this](bool reveal) { ActSelFichSpack(reveal); };
+    link.ActSaveFile = [this] { ActSaveFile(); };
     Opening = [this] { Event_Opening(); };
     CancelClosing = [this](bool appQuitting) { return Event_CancelClosing(appQuitting); };
     Activated = [this] { Event_Activated(); };
+    BtnSelFichModel.Pressed = [this] { BtnSelFichModel_Pressed(); };
+    BtnSelFichSpack.Pressed = [this] { BtnSelFichSpack_Pressed(); };
+    BtnSelArchivDoss.Pressed = [this] { BtnSelArchivDoss_Pressed(); };
+    BtnOuvUrlModel.Pressed = [this] { BtnOuvUrlModel_Pressed(); };
+    BtnAffDoss.Pressed = [this] { BtnAffDoss_Pressed(); };
+    BtnSave.Pressed = [this] { BtnSave_Pressed(); };
+    BtnEnabDis.Pressed = [this] { BtnEnabDis_Pressed(); };
+    PushButtCherch.Pressed = [this] { PushButtCherch_Pressed(); };
+    PushButtInitCherch.Pressed = [this] { PushButtInitCherch_Pressed(); };
+    TextFieldMod1.ItemGiven = [this](const FolderItem& item) { TakeModel(item); };
+    TextFieldSpack.ItemGiven = [this](const FolderItem& item) { TakeSpack(item); };
+    TextFieldArchiv.ItemGiven = [this](const FolderItem& item) { TakeArchiveFolder(item); };
+    TextFieldCherch.Entered = [this] { PushButtCherch_Pressed(); };
+    TextFieldCherch.Escaped = [this] { TextAreaAff.SetFocus(); };
+    FindRequested = [this] {
+        TextFieldCherch.SetFocus();
+        TextFieldCherch.SelectAll();
+    };
     BtnRun.Pressed = [this] { BtnRun_Pressed(); };
     TimerDebRun.Action = [this] { TimerDebRun_Action(); };
     URLCnctLirePage.ContentReceived = [this](const String& url, Int64 httpStatus, const Bytes& content) {
@@ -179,6 +203,7 @@ bool WinMain::Event_CancelClosing(bool appQuitting)
         return true;
     }
     if (!appQuitting) {
+        if (Fncts::AinitProg) PrefsSauver();
         App::Current().DrapOkQuit = true;
         Fncts::DrapMenu = false;
     }

@@ -9,6 +9,7 @@
 #include "toolkit/Timer.h"
 #include "toolkit/URLConnection.h"
 #include "toolkit/core/FolderItem.h"
+#include "toolkit/core/System.h"
 
 /// The window on which everything is done: it names the model and the scenery_packs.ini, runs, and shows and edits the
 /// three texts.
@@ -51,6 +52,29 @@ public:
     void URLCnctLirePage_ContentReceived(const String& url, Int64 httpStatus, const Bytes& content);
     void URLCnctLirePage_Error(const RuntimeException& error);
 
+    // Save.cpp
+    void BtnSave_Pressed();
+    /// Writes what the text area shows to the file of its view, after archiving the old one if the user wants that.
+    void ActSaveFile();
+
+    // Toggle.cpp
+    void BtnEnabDis_Pressed();
+
+    // Search.cpp
+    void PushButtCherch_Pressed();
+    void PushButtInitCherch_Pressed();
+
+    // Choose.cpp
+    /// `reveal` shows the present item in the file manager; else the user chooses another.
+    void ActSelFichModel(bool reveal);
+    void ActSelFichSpack(bool reveal);
+    void ActSelArchivDoss(bool reveal);
+    void BtnSelFichModel_Pressed();
+    void BtnSelFichSpack_Pressed();
+    void BtnSelArchivDoss_Pressed();
+    void BtnOuvUrlModel_Pressed() const;
+    void BtnAffDoss_Pressed();
+
     // Display.cpp
     void PopMenuAff_SelectionChanged();
     /// Shows the text of the selected row, coloured, and drops what was edited in the text area.
@@ -76,17 +100,45 @@ private:
     // WinMainPreferences.cpp
     /// Brings the controls, the volume and the window's place in line with the preferences file.
     void PrefsCharger();
+    /// Writes the preferences file from what the controls hold.
+    void PrefsSauver() const;
 
     // Run.cpp
     void InitVars(bool model, bool source) { texts_.InitVars(model, source); }
     /// The second half of a run, wherever the model came from.
     void RunSuite();
     void Reorder(const FolderItem& dossier);
+    void EndRun();
+
+    // Save.cpp
+    enum class SaveStep { Archive, Write, Stop };
+    [[nodiscard]] bool AsksToContinue(StringView message, StringView button);
+    void Tell(StringView message);
+    [[nodiscard]] std::optional<FolderItem> SaveTarget() const;
+    [[nodiscard]] SaveStep DecideOnArchive(const std::optional<FolderItem>& archiveFolder, const FolderItem& target);
+    [[nodiscard]] bool ConfirmsSave(const FolderItem& target);
+    /// The next step after the copy: writing, or what the user answers when it failed.
+    [[nodiscard]] SaveStep Archive(const FolderItem& target, const FolderItem& folder, const DateTime& moment);
+
+    // Toggle.cpp
+    /// Selects the line of the caret.
+    void SelLigneEnt();
+
+    // Choose.cpp
+    using Chooser = std::optional<FolderItem> (*)(const FolderItem& start);
+    std::optional<FolderItem> RevealOrChoose(const DesktopTextField& field, bool reveal, Chooser chooser) const;
+    void TakeModel(const FolderItem& item);
+    void TakeSpack(const FolderItem& item);
+    void TakeArchiveFolder(const FolderItem& item);
 
     // Display.cpp
+    static constexpr int rowModel = 0, rowSource = 1, rowDest = 2;
     /// The working text that a row of the popup shows, or null for another row.
     String* TextOfRow(int row);
-    void ShowText(StringView text, std::span<const Int64> marks);
+    using Shower = void (DesktopTextArea::*)(StringView text, std::span<const ColorSpan> colors);
+    /// `AffArea` with another way for the text area to show a text: `ReplaceStyledText` makes it a step to undo.
+    void ShowRow(Shower shower);
+    void ShowText(StringView text, std::span<const Int64> marks, Shower shower);
 
     SceneryTexts texts_;
     /// The row whose text stands in the text area.

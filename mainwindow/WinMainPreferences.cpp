@@ -1,6 +1,7 @@
 #include "app/App.h"
 #include "mainwindow/WinMain.h"
 #include "preferences/Preferences.h"
+#include "support/FileHelpers.h"
 #include "support/Fncts.h"
 #include "support/Sounds.h"
 #include "support/TextFiles.h"
@@ -67,4 +68,31 @@ void WinMain::PrefsCharger()
     SetTop(geometry.top);
     SetWidth(geometry.width);
     SetHeight(geometry.height);
+}
+
+void WinMain::PrefsSauver() const
+{
+    if (!Fncts::PasNil_Existe_Alias(Fncts::DossierPref, true)) return;
+    App& app = App::Current();
+    const auto points = [](int length) { return static_cast<Int16>(length); };
+    const String text = WritePreferences({
+        .DrapAffBtnSpecA = app.DrapAffBtnSpecA,
+        .volume = app.DefVolSon(-1, false),
+        .geometry = {points(Left()), points(Top()), points(Width()), points(Height())},
+        .sourceModel = RadGrpSrc.SelectedIndex(),
+        .modelFile = TextFieldMod1.Text(),
+        .modelUrl = TextFieldMod2.Text(),
+        .archiveFolder = TextFieldArchiv.Text(),
+        .spackFile = TextFieldSpack.Text(),
+        .archive = ChBoxArchiv.Value(),
+        .WspecAheight = app.WspecAheight,
+        .PathSpecA = app.PathSpecA,
+        .TabSpecAorg = app.TabSpecAorg,
+        .TabSpecAdest1 = app.TabSpecAdest1,
+        .TabSpecAdest2 = app.TabSpecAdest2,
+    });
+    const std::optional<FolderItem> file = Fncts::DossierPref->Child(fileName, true);
+    if (file && Fncts::SauvFichier(*file, text)) return;
+    Fncts::BeepNbT(3);
+    MessageBox(U"Error ! Please contact the authors.\nPrefsSauver, problem while writing file!");
 }

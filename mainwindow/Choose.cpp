@@ -1,0 +1,94 @@
+#include "app/FileTypes.h"
+#include "app/localisation/Localisation.h"
+#include "engine/SceneryText.h"
+#include "mainwindow/WinMain.h"
+#include "support/DialogHelpers.h"
+#include "support/FileHelpers.h"
+#include "support/PathForm.h"
+#include "support/Sounds.h"
+#include "toolkit/Desktop.h"
+
+namespace {
+
+void RevealOrBeep(const std::optional<FolderItem>& item, bool checkAlias)
+{
+    if (Fncts::PasNil_Existe_Alias(item, checkAlias))
+        Fncts::RevealEltFinder(*item);
+    else
+        Fncts::BeepNbT(1);
+}
+
+std::optional<FolderItem> ChooseFile(const FolderItem& start)
+{
+    return Fncts::MyDialogLoad(start, Localisation::Txt_ChoisirUnFich(), FileTypes::TextPlain.Extensions, nullptr,
+                               true);
+}
+
+std::optional<FolderItem> ChooseFolder(const FolderItem& start)
+{
+    return Fncts::MyDialogFolder(start, U"Select the Folder to save old 'scenery_packs.ini':", nullptr, true);
+}
+
+} // namespace
+
+void WinMain::BtnSelFichModel_Pressed() { ActSelFichModel(Keyboard::AsyncShiftKey()); }
+
+void WinMain::BtnSelFichSpack_Pressed() { ActSelFichSpack(Keyboard::AsyncShiftKey()); }
+
+void WinMain::BtnSelArchivDoss_Pressed() { ActSelArchivDoss(Keyboard::AsyncShiftKey()); }
+
+void WinMain::ActSelFichModel(bool reveal)
+{
+    if (const auto chosen = RevealOrChoose(TextFieldMod1, reveal, ChooseFile)) TakeModel(*chosen);
+}
+
+void WinMain::ActSelFichSpack(bool reveal)
+{
+    if (const auto chosen = RevealOrChoose(TextFieldSpack, reveal, ChooseFile)) TakeSpack(*chosen);
+}
+
+void WinMain::ActSelArchivDoss(bool reveal)
+{
+    if (const auto chosen = RevealOrChoose(TextFieldArchiv, reveal, ChooseFolder)) TakeArchiveFolder(*chosen);
+}
+
+/// Shows the field's item in the file manager, or lets the user choose another. The result is the choice.
+std::optional<FolderItem> WinMain::RevealOrChoose(const DesktopTextField& field, bool reveal, Chooser chooser) const
+{
+    const std::optional<FolderItem> present = Fncts::GetFitemAbsPath(field.Text(), false);
+    if (reveal) {
+        RevealOrBeep(present, true);
+        return {};
+    }
+    const std::optional<FolderItem> chosen = chooser(present.value_or(Fncts::RetDossCetApp()));
+    return Fncts::PasNil_Existe_Alias(chosen, true) ? chosen : std::nullopt;
+}
+
+/// A new file: what a run made of the old one goes.
+void WinMain::TakeModel(const FolderItem& item)
+{
+    TextFieldMod1.SetText(Fncts::AbsPath_f(item, true));
+    InitVars(true, false);
+    AffArea();
+}
+
+void WinMain::TakeSpack(const FolderItem& item)
+{
+    TextFieldSpack.SetText(Fncts::AbsPath_f(item, true));
+    InitVars(false, true);
+    AffArea();
+}
+
+void WinMain::TakeArchiveFolder(const FolderItem& item) { TextFieldArchiv.SetText(Fncts::AbsPath_f(item, true)); }
+
+void WinMain::BtnOuvUrlModel_Pressed() const { System::GotoURL(TextFieldMod2.Text()); }
+
+void WinMain::BtnAffDoss_Pressed()
+{
+    if (TextAreaAff.SelectionLength() == 0) SelLigneEnt();
+    const String name(RetScenLigne(TextAreaAff.SelectedText()));
+    if (name.empty()) return Fncts::BeepNbT(1);
+    std::optional<FolderItem> item = Fncts::GetFitemAbsPath(TextFieldSpack.Text(), false);
+    if (Fncts::PasNil_Existe_Alias(item, false)) item = item->Parent()->Child(name, true);
+    RevealOrBeep(item, false);
+}

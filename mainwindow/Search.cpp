@@ -1,0 +1,27 @@
+#include "mainwindow/Searching.h"
+#include "mainwindow/WinMain.h"
+#include "support/Fncts.h"
+#include "support/Sounds.h"
+
+void WinMain::PushButtCherch_Pressed()
+{
+    if (!Fncts::DrapMenu) return;
+    const String word = TextFieldCherch.Text();
+    if (word.empty()) return Fncts::BeepNbT(1);
+    const SearchResult result =
+        SearchNext(TextAreaAff.Text(), word, {TextAreaAff.SelectionStart(), TextAreaAff.SelectionLength()});
+    if (result.outcome == SearchOutcome::NotFound) {
+        TextAreaAff.Select(0, 0);
+        return Fncts::PlayT(Fncts::_x_Glass_t::Glass_t());
+    }
+    Fncts::PlayT(result.outcome == SearchOutcome::SameMatch ? Fncts::_x_Whit::Whit()
+                                                            : Fncts::_x_Agrafeuse_t::Agrafeuse_t());
+    TextAreaAff.SetFocus();
+    TextAreaAff.Select(result.selection.start, result.selection.length);
+    // The match stands a few lines below the top, so that what comes before it is seen too.
+    constexpr Int64 linesAbove = 5;
+    TextAreaAff.SetVerticalScrollPosition(
+        std::max(TextAreaAff.LineNumber(result.selection.start) - linesAbove, Int64{0}));
+}
+
+void WinMain::PushButtInitCherch_Pressed() { TextFieldCherch.SetText({}); }
