@@ -4,6 +4,7 @@
 #include "toolkit/ColorRuns.h"
 #include "toolkit/DocumentText.h"
 #include "toolkit/core/QtText.h"
+#include "toolkit/core/TextEncoding.h"
 
 #include <QMimeData>
 #include <QPlainTextEdit>
@@ -16,6 +17,9 @@ namespace {
 /// Characters of a line up to which it is wrapped between words. Qt's search for the end of a word takes time by the
 /// square of its length.
 constexpr std::size_t longestLineOfWords = 20'000;
+
+/// The form in which a text area puts its characters on the clipboard for another one, every one as it is.
+const QString exactFormat = QStringLiteral("application/x-tarnivel-text");
 
 } // namespace
 
@@ -139,14 +143,18 @@ int DesktopTextArea::Editor::Position(Int64 offset) const
 QMimeData* DesktopTextArea::Editor::createMimeDataFromSelection() const
 {
     auto* selected = new QMimeData;
-    selected->setText(ToQt(FromDocument(textCursor().selectedText())));
+    const QString text = ToQt(FromDocument(textCursor().selectedText()));
+    selected->setText(text);
+    selected->setData(exactFormat, text.toUtf8());
     return selected;
 }
 
 void DesktopTextArea::Editor::insertFromMimeData(const QMimeData* source)
 {
     if (isReadOnly() || !source->hasText()) return;
-    const String text = ReplaceLineEndings(FromQt(source->text()), EndOfLine::UNIX);
+    // What comes from elsewhere may have the line ends of another system.
+    const String text = source->hasFormat(exactFormat) ? Encodings::UTF8.Decode(source->data(exactFormat).toStdString())
+                                                       : ReplaceLineEndings(FromQt(source->text()), EndOfLine::UNIX);
     if (text.size() > longestLineOfWords) WrapFor(text);
     insertPlainText(ToDocument(text));
     ensureCursorVisible();

@@ -72,6 +72,29 @@ TEST(Preferences, NumbersOutOfRangeDoNoHarm)
     EXPECT_EQ(Read({U"Volume Sonore :@: -99999999999999999999"}).volume, 0);
 }
 
+TEST(Preferences, AFileIsWrittenAsItWasRead)
+{
+    const String golden = U"Afficher Bouton Special A :@: True\n"
+                          U"Volume Sonore :@: 35\n"
+                          U"Fenetre WinMain :@: 30,60,760,500\n"
+                          U"Source Model :@: 1\n"
+                          U"SourceFile_Path :@: Linux:a :@: b\n"
+                          U"SourceUrl :@: https://model\n"
+                          U"Archiv Old File :@: False\n"
+                          U"ArchivFolder_Path :@: \n"
+                          U"SceneryPack_Path :@: Linux:é:scenery_packs.ini\n"
+                          U"WspecAheight :@: 420\n"
+                          U"PathSpecA :@: Linux:p\n"
+                          U"TabSpecAorg :@: name\ta\t\n"
+                          U"TabSpecAdest1 :@: \n"
+                          U"TabSpecAdest2 :@: x\n";
+    const std::vector<StringView> lines = Split(golden, U"\n");
+    Preferences preferences = ReadPreferences(std::vector<String>(lines.begin(), lines.end()));
+    EXPECT_EQ(WritePreferences(preferences), golden);
+    preferences.modelUrl = U"https\r\n://\rmodel\n";
+    EXPECT_EQ(WritePreferences(preferences), golden) << "a pasted line end breaks no line";
+}
+
 TEST(Geometry, AWindowThatDoesNotFitTheScreenGetsTheDefaultPlace)
 {
     struct Row {

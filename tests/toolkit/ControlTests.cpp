@@ -2,12 +2,16 @@
 #include "toolkit/DesktopControls.h"
 #include "toolkit/DesktopWindow.h"
 
+#include <QClipboard>
 #include <QComboBox>
+#include <QDropEvent>
 #include <QFontInfo>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QUrl>
 
 namespace {
 
@@ -187,6 +191,45 @@ TEST_F(LinkTest, KeysPressItInItsMiddle)
     DesktopLabel plain(window, {0, 0, 50, 16, Lock::Left | Lock::Top, 1}, U"plain");
     plain.SetName(U"plain");
     EXPECT_EQ(Find<QLabel>("plain").focusPolicy(), Qt::NoFocus);
+}
+
+TEST(TextField, TakesAnItemThatIsPastedOrDroppedAtOnce)
+{
+    DesktopWindow window({.title = U"Items", .width = 300, .height = 100});
+    DesktopTextField field(window, {0, 0, 300, 22}, U"path form");
+    field.SetName(U"items");
+    ShowActive(window);
+    std::vector<String> given;
+    field.ItemGiven = [&given](const FolderItem& item) { given.push_back(item.NativePath()); };
+    auto& line = Find<QLineEdit>("items");
+    struct Row {
+        const char* name;
+        const char* pasted;
+        bool taken;
+    };
+    for (const Row& row : {Row{"a folder", "/usr/", true}, Row{"an address", "file:///usr\n", true},
+                           Row{"nothing there", "/usr/none", false}, Row{"a relative path", "usr", false},
+                           Row{"another address", "http://localhost/usr", false}}) {
+        given.clear();
+        field.SetText(U"path form");
+        QApplication::clipboard()->setText(QString::fromUtf8(row.pasted));
+        line.paste();
+        EXPECT_EQ(given, row.taken ? std::vector<String>{U"/usr"} : std::vector<String>{}) << row.name;
+        EXPECT_EQ(field.Text() == U"path form", row.taken) << row.name;
+    }
+    given.clear();
+    field.SetText(U"");
+    QTest::keyClicks(&line, "/usr");
+    EXPECT_EQ(field.Text(), U"/usr");
+
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile("/usr")});
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&line, &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&line, &drop);
+    EXPECT_EQ(given, std::vector<String>{U"/usr"}) << "typing gave nothing, the drop did";
 }
 
 } // namespace

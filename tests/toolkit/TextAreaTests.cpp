@@ -8,6 +8,7 @@
 #include <QElapsedTimer>
 #include <QMimeData>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 
 namespace {
 
@@ -209,6 +210,53 @@ TEST_F(TextAreaTest, BearsHugeTexts)
     const String longLine(1'000'000, U'x');
     EXPECT_LT(milliseconds([&] { area.SetText(longLine); }), 20000);
     EXPECT_EQ(area.Text().size(), longLine.size());
+}
+
+TEST_F(TextAreaTest, SelectsCharacters)
+{
+    area.SetText(U"a😀\r\né😀b");
+    struct Row {
+        Int64 start, length;
+        std::u32string_view selected;
+    };
+    for (const Row& row : {Row{1, 1, U"😀"}, Row{2, 2, U"\r\n"}, Row{4, 99, U"é😀b"}, Row{99, 1, U""}, Row{0, 0, U""}}) {
+        area.Select(row.start, row.length);
+        EXPECT_EQ(area.SelectedText(), row.selected) << row.start;
+        EXPECT_EQ(area.SelectionStart(), std::min<Int64>(row.start, 7)) << row.start;
+        EXPECT_EQ(area.SelectionLength(), std::ssize(row.selected)) << row.start;
+    }
+}
+
+TEST_F(TextAreaTest, AReplacedTextComesBackWithItsColours)
+{
+    const auto colorAt = [this](int position) {
+        QTextCursor cursor(editor->document());
+        cursor.setPosition(position);
+        return cursor.charFormat().foreground().color();
+    };
+    const ColorSpan before[] = {{2, 3, red}}, after[] = {{0, 1, green}};
+    area.SetStyledText(U"I\nabc\n", before);
+    area.ReplaceStyledText(U"xyz", after);
+    EXPECT_EQ(area.Text(), U"xyz");
+    EXPECT_EQ(colorAt(1), QColor(green.rgb));
+    Press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(area.Text(), U"I\nabc\n");
+    EXPECT_EQ(colorAt(3), QColor(red.rgb));
+    EXPECT_NE(colorAt(1), QColor(green.rgb));
+}
+
+TEST_F(TextAreaTest, ScrollsToALineOnScreen)
+{
+    String text;
+    for (int line = 0; line < 500; ++line)
+        text += line % 2 == 0 ? U"short\n" : String(120, U'w') + U"\n";
+    area.SetText(text);
+    const Int64 last = IndexOf(text, U"short", 498 / 2 * (6 + 121));
+    area.SetVerticalScrollPosition(area.LineNumber(last) - 2);
+    area.Select(last, 5);
+    EXPECT_TRUE(editor->viewport()->rect().contains(editor->cursorRect())) << "the match is to be seen";
+    area.SetVerticalScrollPosition(area.LineNumber(0) - 2);
+    EXPECT_EQ(editor->verticalScrollBar()->value(), 0);
 }
 
 } // namespace
