@@ -3,79 +3,111 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <functional>
 
 namespace {
 
 /// How many texts are under way at the same time.
 constexpr std::size_t blockSize = 32;
 
-/// The same for texts that differ in case only; its high bits are the best mixed.
-std::uint64_t HashOf(StringView text)
+constexpr char32_t firstBeyondAscii = 0x80;
+
+/// Folds a text into as many bytes, which are right only if all its characters are ASCII: whether they are.
+///
+/// Without a branch in the loop, the compiler makes it one for many characters at a time.
+bool FoldAscii(StringView text, std::string& bytes)
 {
-    constexpr std::uint64_t odd = 0x9E3779B97F4A7C15;
-    std::uint64_t hash = text.size() * odd;
-    for (const char32_t character : text)
-        hash = (std::rotl(hash, 5) ^ FoldCase(character)) * odd;
-    return hash ^ (hash >> 32);
+    bytes.resize(text.size());
+    char32_t all = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const char32_t character = text[i];
+        all |= character;
+        const bool isCapital = character - U'A' <= U'Z' - U'A';
+        bytes[i] = static_cast<char>(character + (isCapital ? U'a' - U'A' : 0));
+    }
+    return all < firstBeyondAscii;
 }
 
-std::uint32_t CheckOf(std::uint64_t hash) { return static_cast<std::uint32_t>(hash); }
+/// Folds a text into bytes, seven bits in each and the eighth where a character goes on: no two texts give the same.
+void Fold(StringView text, std::string& bytes)
+{
+    if (FoldAscii(text, bytes)) return;
+    bytes.clear();
+    for (char32_t character : text) {
+        for (character = FoldCase(character); character >= firstBeyondAscii; character >>= 7)
+            bytes.push_back(static_cast<char>(character | firstBeyondAscii));
+        bytes.push_back(static_cast<char>(character));
+    }
+}
 
 } // namespace
+
+void TextNumbers::Key::Set(StringView text)
+{
+    Fold(text, folded);
+    hash = std::hash<std::string_view>{}(folded);
+}
 
 TextNumbers::TextNumbers(std::size_t most)
     : shift_(64 - static_cast<int>(std::bit_width(2 * most + 1)))
     , slots_(std::size_t{1} << (64 - shift_))
 {
-    texts_.reserve(most);
+    begins_.reserve(most + 1);
 }
 
-std::size_t TextNumbers::SlotOf(StringView text, std::uint64_t hash) const
+std::string_view TextNumbers::Folded(Number number) const
+{
+    return std::string_view(folded_).substr(begins_[number], begins_[number + 1] - begins_[number]);
+}
+
+std::size_t TextNumbers::SlotOf(const Key& key) const
 {
     const auto isOther = [&](const Slot& slot) {
-        return slot.number != None && (slot.check != CheckOf(hash) || !SameText(texts_[slot.number], text));
+        return slot.number != None && (slot.check != key.Check() || Folded(slot.number) != key.folded);
     };
-    std::size_t index = Home(hash);
+    std::size_t index = Home(key);
     while (isOther(slots_[index]))
         index = (index + 1) % slots_.size();
     return index;
 }
 
 /// Has the memory brought up that the look-ups will read; each step finds there what the one before has asked for.
-void TextNumbers::ReadAhead(std::span<const std::uint64_t> hashes) const
+void TextNumbers::ReadAhead(std::span<const Key> keys) const
 {
-    for (const std::uint64_t hash : hashes)
-        __builtin_prefetch(&slots_[Home(hash)]);
-    for (const std::uint64_t hash : hashes) {
-        if (const Slot& slot = slots_[Home(hash)]; slot.number != None) __builtin_prefetch(&texts_[slot.number]);
+    for (const Key& key : keys)
+        __builtin_prefetch(&slots_[Home(key)]);
+    for (const Key& key : keys) {
+        if (const Slot& slot = slots_[Home(key)]; slot.number != None) __builtin_prefetch(&begins_[slot.number]);
     }
-    for (const std::uint64_t hash : hashes) {
-        const Slot& slot = slots_[Home(hash)];
-        if (slot.number != None && slot.check == CheckOf(hash)) __builtin_prefetch(texts_[slot.number].data());
+    for (const Key& key : keys) {
+        const Slot& slot = slots_[Home(key)];
+        if (slot.number != None && slot.check == key.Check()) __builtin_prefetch(Folded(slot.number).data());
     }
 }
 
-/// Calls `use` with each text's index, its slot or the free slot where it belongs, and its hash.
+/// Calls `use` with each text's index and key, and its slot or the free slot where it belongs.
 template <class Use>
 void TextNumbers::ForEachSlot(std::span<const StringView> texts, Use use) const
 {
-    std::array<std::uint64_t, blockSize> hashes{};
+    std::array<Key, blockSize> keys;
     for (std::size_t first = 0; first < texts.size(); first += blockSize) {
-        const std::span<const StringView> block = texts.subspan(first, std::min(blockSize, texts.size() - first));
-        std::transform(block.begin(), block.end(), hashes.begin(), HashOf);
-        ReadAhead({hashes.data(), block.size()});
+        const std::span<Key> block(keys.data(), std::min(blockSize, texts.size() - first));
         for (std::size_t i = 0; i < block.size(); ++i)
-            use(first + i, SlotOf(block[i], hashes[i]), hashes[i]);
+            block[i].Set(texts[first + i]);
+        ReadAhead(block);
+        for (std::size_t i = 0; i < block.size(); ++i)
+            use(first + i, block[i], SlotOf(block[i]));
     }
 }
 
 std::vector<TextNumbers::Number> TextNumbers::Add(std::span<const StringView> texts)
 {
     std::vector<Number> numbers(texts.size());
-    ForEachSlot(texts, [&](std::size_t index, std::size_t slot, std::uint64_t hash) {
+    ForEachSlot(texts, [&](std::size_t index, const Key& key, std::size_t slot) {
         if (slots_[slot].number == None) {
-            slots_[slot] = {CheckOf(hash), static_cast<Number>(texts_.size())};
-            texts_.push_back(texts[index]);
+            slots_[slot] = {key.Check(), static_cast<Number>(Count())};
+            folded_ += key.folded;
+            begins_.push_back(folded_.size());
         }
         numbers[index] = slots_[slot].number;
     });
@@ -85,7 +117,6 @@ std::vector<TextNumbers::Number> TextNumbers::Add(std::span<const StringView> te
 std::vector<TextNumbers::Number> TextNumbers::Find(std::span<const StringView> texts) const
 {
     std::vector<Number> numbers(texts.size());
-    ForEachSlot(texts,
-                [&](std::size_t index, std::size_t slot, std::uint64_t) { numbers[index] = slots_[slot].number; });
+    ForEachSlot(texts, [&](std::size_t index, const Key&, std::size_t slot) { numbers[index] = slots_[slot].number; });
     return numbers;
 }

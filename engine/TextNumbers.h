@@ -6,9 +6,9 @@
 /// Gives each text a number, counted from 0 in the order in which they are added. Texts that differ in nothing but case
 /// have the same number.
 ///
-/// An open hash table at most half full. It takes many texts at a time, since it can then ask for memory ahead of its
-/// use: a table of a million texts lies outside the processor's caches, and waiting for each text would cost more than
-/// all else. The characters of added texts must outlive the table.
+/// An open hash table, at most half full, beside a folded copy of each text in few bytes. It takes many texts at a
+/// time, since it can then ask for memory ahead of its use: a table of a million texts lies outside the processor's
+/// caches, and waiting for one text after the other would cost more than all else.
 class TextNumbers {
 public:
     using Number = std::uint32_t;
@@ -23,7 +23,7 @@ public:
     [[nodiscard]] std::vector<Number> Find(std::span<const StringView> texts) const;
 
     /// How many different texts were added; all numbers are below it.
-    [[nodiscard]] std::size_t Count() const { return texts_.size(); }
+    [[nodiscard]] std::size_t Count() const { return begins_.size() - 1; }
 
 private:
     struct Slot {
@@ -31,15 +31,25 @@ private:
         std::uint32_t check = 0;
         Number number = None;
     };
+    /// A text under way.
+    struct Key {
+        std::string folded;
+        std::size_t hash = 0;
+
+        void Set(StringView text);
+        [[nodiscard]] std::uint32_t Check() const { return static_cast<std::uint32_t>(hash); }
+    };
 
     template <class Use>
     void ForEachSlot(std::span<const StringView> texts, Use use) const;
-    void ReadAhead(std::span<const std::uint64_t> hashes) const;
-    [[nodiscard]] std::size_t Home(std::uint64_t hash) const { return hash >> shift_; }
-    [[nodiscard]] std::size_t SlotOf(StringView text, std::uint64_t hash) const;
+    void ReadAhead(std::span<const Key> keys) const;
+    [[nodiscard]] std::size_t Home(const Key& key) const { return key.hash >> shift_; }
+    [[nodiscard]] std::size_t SlotOf(const Key& key) const;
+    [[nodiscard]] std::string_view Folded(Number number) const;
 
     int shift_;
     std::vector<Slot> slots_;
-    /// The texts by their numbers.
-    std::vector<StringView> texts_;
+    /// The folded texts one behind the other, and where each begins, with the end of the last.
+    std::string folded_;
+    std::vector<std::size_t> begins_ = {0};
 };
