@@ -42,7 +42,7 @@ const Awkward awkward[] = {
     {"one line end", U"\n"},
     {"doubled last line ends", U"a\n\n\n"},
     {"line ends of other systems", U"a\rb\r\nc\n\rd"},
-    {"NUL, tab and other controls", std::u32string_view(U"\0a\0\t\u0001\u001b\v\f\u0085", 10)},
+    {"NUL, tab and other controls", std::u32string_view(U"\0a\0\t\u0001\u001b\v\f\u0085", 9)},
     {"separators of Unicode", U"a\u2028b\u2029c"},
     {"characters that bound frames", U"\ufdd0a\ufdd1\ufdcf\ufdd2"},
     {"blanks that don't break", U"\u00a02024\u00a0\u202f"},

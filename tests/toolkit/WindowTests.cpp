@@ -1,9 +1,7 @@
 #include "tests/toolkit/WidgetTest.h"
 #include "toolkit/DesktopControls.h"
 #include "toolkit/DesktopTextArea.h"
-
-#include <QTimer>
-#include <memory>
+#include "toolkit/Timer.h"
 
 namespace {
 
@@ -161,21 +159,25 @@ TEST(Application, QuitEndsTheLoopUnlessAWindowObjects)
     hidden.CancelClosing = [&](bool) { return asked += "3", true; };
     first.Show();
     second.Show();
-    QTimer::singleShot(0, qApp, [&] {
+    Timer timer(0);
+    timer.Action = [&] {
         TestApplication().Quit(3);
         objects = false;
         TestApplication().Quit(4);
-    });
+    };
+    timer.SetRunMode(Timer::RunModes::Single);
     EXPECT_EQ(TestApplication().Run(), 4);
     EXPECT_EQ(asked, "1212");
     EXPECT_EQ(TestApplication().Run(), 4) << "what has ended doesn't begin again";
 }
 
-TEST(Application, YieldingLetsTimersFireAndKeepsTheUsersInput)
+TEST(Application, YieldingLetsTimersFire)
 {
     DesktopWindow window({.title = U"W", .width = 400, .height = 300});
     bool fired = false;
-    QTimer::singleShot(0, qApp, [&] { fired = true; });
+    Timer timer(0);
+    timer.Action = [&] { fired = true; };
+    timer.SetRunMode(Timer::RunModes::Single);
     DesktopApplication::YieldToPlatform();
     EXPECT_TRUE(fired);
 }
