@@ -34,7 +34,8 @@ QByteArray ReadSamples(const char* path, const WavFormat& wav)
 {
     QFile file(QFile::decodeName(path));
     if (!file.open(QIODevice::ReadOnly) || !file.seek(wav.Offset)) return {};
-    return file.read(wav.Length) + QByteArray(wav.Rate * wav.Channels * WavFormat::BytesPerSample, '\0');
+    const qsizetype samplesASecond = qsizetype{wav.Rate} * wav.Channels;
+    return file.read(wav.Length) + QByteArray(samplesASecond * WavFormat::BytesPerSample, '\0');
 }
 
 class SinkVoice final : public SoundVoice {
