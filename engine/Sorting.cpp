@@ -1,10 +1,12 @@
 #include "engine/Sorting.h"
 
+#include "engine/FoldedBytes.h"
+
 #include <algorithm>
 
 namespace {
 
-/// A text to sort, with the two characters that are compared at the moment.
+/// A text to sort, and the piece of it that is compared at the moment.
 struct Item {
     std::uint64_t key;
     std::size_t index;
@@ -12,35 +14,59 @@ struct Item {
     friend auto operator<=>(const Item&, const Item&) = default;
 };
 
-/// The characters at `depth` and behind it, higher than 0, which stands for the end of the text.
-std::uint64_t KeyAt(StringView text, std::size_t depth)
+constexpr std::size_t bytesInKey = 7;
+
+/// The folded texts one behind the other.
+class FoldedTexts {
+public:
+    explicit FoldedTexts(std::span<const StringView> texts)
+    {
+        begins_.reserve(texts.size() + 1);
+        std::string folded;
+        for (const StringView text : texts) {
+            FoldIntoBytes(text, folded);
+            bytes_ += folded;
+            begins_.push_back(bytes_.size());
+        }
+    }
+
+    std::string_view operator[](std::size_t index) const
+    {
+        return {bytes_.data() + begins_[index], begins_[index + 1] - begins_[index]};
+    }
+
+private:
+    std::string bytes_;
+    std::vector<std::size_t> begins_ = {0};
+};
+
+/// The bytes behind `depth` from the highest place down, and in the lowest how many there are: of two texts that are
+/// otherwise the same the shorter one comes first.
+std::uint64_t KeyAt(std::string_view text, std::size_t depth)
 {
-    const auto rank = [&](std::size_t offset) {
-        return offset < text.size() ? std::uint64_t{FoldCase(text[offset])} + 1 : std::uint64_t{0};
-    };
-    return rank(depth) << 32 | rank(depth + 1);
+    text = text.substr(depth, bytesInKey);
+    std::uint64_t key = 0;
+    for (std::size_t i = 0; i < bytesInKey; ++i)
+        key = key << 8 | (i < text.size() ? static_cast<unsigned char>(text[i]) : 0);
+    return key << 8 | text.size();
 }
 
-bool IsEnd(std::uint64_t key) { return static_cast<std::uint32_t>(key) == 0; }
+bool IsEnd(std::uint64_t key) { return (key & 0xFF) < bytesInKey; }
 
-/// How many characters all texts have in common; at least `depth`.
-std::size_t CommonLength(std::span<const StringView> texts, std::span<const Item> items, std::size_t depth)
+/// How many bytes all texts have in common; at least `depth`.
+std::size_t CommonLength(const FoldedTexts& texts, std::span<const Item> items, std::size_t depth)
 {
-    const StringView first = texts[items.front().index];
-    std::size_t length = first.size();
+    std::string_view common = texts[items.front().index];
     for (const Item& item : items) {
-        const StringView text = texts[item.index];
-        length = std::min(length, text.size());
-        std::size_t same = depth;
-        while (same < length && (text[same] == first[same] || FoldCase(text[same]) == FoldCase(first[same])))
-            ++same;
-        length = same;
+        const std::string_view text = texts[item.index].substr(0, common.size());
+        const auto end = std::mismatch(text.begin() + depth, text.end(), common.begin() + depth).first;
+        common = common.substr(0, static_cast<std::size_t>(end - text.begin()));
     }
-    return length;
+    return common.size();
 }
 
 /// Sorts items whose texts are the same before `depth`.
-void SortFrom(std::size_t depth, std::span<const StringView> texts, std::span<Item> items)
+void SortFrom(std::size_t depth, const FoldedTexts& texts, std::span<Item> items)
 {
     if (items.size() < 2) return;
     depth = CommonLength(texts, items, depth);
@@ -51,7 +77,7 @@ void SortFrom(std::size_t depth, std::span<const StringView> texts, std::span<It
         const std::uint64_t key = items[begin].key;
         while (end < items.size() && items[end].key == key)
             ++end;
-        if (!IsEnd(key)) SortFrom(depth + 2, texts, items.subspan(begin, end - begin));
+        if (!IsEnd(key)) SortFrom(depth + bytesInKey, texts, items.subspan(begin, end - begin));
     }
 }
 
@@ -62,7 +88,7 @@ std::vector<std::size_t> SortedOrder(std::span<const StringView> texts)
     std::vector<Item> items(texts.size());
     for (std::size_t i = 0; i < items.size(); ++i)
         items[i].index = i;
-    SortFrom(0, texts, items);
+    SortFrom(0, FoldedTexts(texts), items);
     std::vector<std::size_t> order(items.size());
     std::transform(items.begin(), items.end(), order.begin(), [](const Item& item) { return item.index; });
     return order;

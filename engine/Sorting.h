@@ -5,6 +5,6 @@
 
 /// The indices of the texts in ascending order of their characters, case ignored. Equal texts keep their order.
 ///
-/// It reads a few characters of each text at a time and goes on only where those are equal, so that texts with long
-/// common beginnings cost little more than others: 100,000 lines of packs in a tenth of the time of `std::sort`.
+/// It compares a few characters of each text at a time, kept beside its index, and looks into the texts again only
+/// where those are equal: with the long common beginnings of scenery lines several times faster than `std::sort`.
 std::vector<std::size_t> SortedOrder(std::span<const StringView> texts);

@@ -1,5 +1,7 @@
 #include "engine/TextNumbers.h"
 
+#include "engine/FoldedBytes.h"
+
 #include <algorithm>
 #include <array>
 #include <bit>
@@ -10,41 +12,11 @@ namespace {
 /// How many texts are under way at the same time.
 constexpr std::size_t blockSize = 32;
 
-constexpr char32_t firstBeyondAscii = 0x80;
-
-/// Folds a text into as many bytes, which are right only if all its characters are ASCII: whether they are.
-///
-/// Without a branch in the loop, the compiler makes it one for many characters at a time.
-bool FoldAscii(StringView text, std::string& bytes)
-{
-    bytes.resize(text.size());
-    char32_t all = 0;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const char32_t character = text[i];
-        all |= character;
-        const bool isCapital = character - U'A' <= U'Z' - U'A';
-        bytes[i] = static_cast<char>(character + (isCapital ? U'a' - U'A' : 0));
-    }
-    return all < firstBeyondAscii;
-}
-
-/// Folds a text into bytes, seven bits in each and the eighth where a character goes on: no two texts give the same.
-void Fold(StringView text, std::string& bytes)
-{
-    if (FoldAscii(text, bytes)) return;
-    bytes.clear();
-    for (char32_t character : text) {
-        for (character = FoldCase(character); character >= firstBeyondAscii; character >>= 7)
-            bytes.push_back(static_cast<char>(character | firstBeyondAscii));
-        bytes.push_back(static_cast<char>(character));
-    }
-}
-
 } // namespace
 
 void TextNumbers::Key::Set(StringView text)
 {
-    Fold(text, folded);
+    FoldIntoBytes(text, folded);
     hash = std::hash<std::string_view>{}(folded);
 }
 
