@@ -8,6 +8,7 @@ Needs a screen with a window manager and a session bus, such as tools/screen.sh 
 waits until what it needs is there, at most DEADLINE seconds, and then fails with a picture of what was there instead.
 """
 
+import contextlib
 import os
 import subprocess
 import sys
@@ -177,6 +178,65 @@ class Program:
 
     def set_text(self, node, text):
         assert Atspi.EditableText.set_text_contents(node, text)
+
+    def act(self, node):
+        Atspi.Action.do_action(node, 0)
+
+    def focus(self, node):
+        Atspi.Component.grab_focus(node)
+        self.wait_for("the focus", lambda: has(node, "focused"))
+
+    def select(self, node, start, end):
+        """Selects from an offset to another, or puts the caret where both are the same."""
+        Atspi.Text.set_caret_offset(node, start)
+        if start != end:
+            Atspi.Text.set_selection(node, 0, start, end)
+        self.wait_for("a selection", lambda: self.selection(node) == (start, end))
+
+    def selection(self, node):
+        """The offsets at which the selection starts and ends, both of the caret without one."""
+        if Atspi.Text.get_n_selections(node) == 0:
+            return (Atspi.Text.get_caret_offset(node),) * 2
+        found = Atspi.Text.get_selection(node, 0)
+        return found.start_offset, found.end_offset
+
+    def extents(self, node):
+        """Left, top, width and height on the screen."""
+        box = Atspi.Component.get_extents(node, Atspi.CoordType.SCREEN)
+        return box.x, box.y, box.width, box.height
+
+    def is_inside(self, node, offset):
+        """Whether a character of a text stands within the bounds of its control."""
+        _, top, _, height = self.extents(node)
+        box = Atspi.Text.get_character_extents(node, offset, Atspi.CoordType.SCREEN)
+        return top <= box.y and box.y + box.height <= top + height
+
+    def keys(self, *names):
+        """Presses keys on the active window, such as "ctrl+s"."""
+        self.wait_for("an active window", lambda: any(has(w, "active") for d in (True, False) for w in self.windows(d)))
+        subprocess.run(["xdotool", "key", *names], check=True)
+
+    def type(self, text):
+        subprocess.run(["xdotool", "type", text], check=True)
+
+    @contextlib.contextmanager
+    def held(self, *names):
+        """Holds keys down."""
+        for name in names:
+            subprocess.run(["xdotool", "keydown", name], check=True)
+        try:
+            yield
+        finally:
+            for name in names:
+                subprocess.run(["xdotool", "keyup", name], check=True)
+
+    def move(self, left, top, width, height):
+        """Moves and resizes the main window by way of the window manager."""
+        search = ["xdotool", "search", "--onlyvisible", "--pid", str(self.process.pid), "--name", "."]
+        number = subprocess.check_output(search, text=True).split()[0]
+        subprocess.run(["xdotool", "windowsize", number, str(width), str(height)], check=True)
+        subprocess.run(["xdotool", "windowmove", number, str(left), str(top)], check=True)
+        self.wait_for("the place", lambda: self.extents(self.window()) == (left, top, width, height))
 
     def color_at(self, node, offset):
         """The text colour at an offset, as "red,green,blue"; black where the text has no colour of its own."""

@@ -16,6 +16,7 @@ class Sample:
         self.home = folder / "home"
         self.preferences = next(self.home.rglob("Tarnivel Prefs.txt"))
         self.source_file = next(folder.rglob("scenery_packs.ini"))
+        self.archives = folder / "Archives"
         self.model_file = folder / self._preference("SourceFile_Path").split(f"{folder.name}:")[1].replace(":", "/")
         self.source = self.source_file.read_text("utf-8").rstrip("\n").split("\n")
         self.model = self.model_file.read_text("utf-8").rstrip("\n").split("\n")

@@ -1,0 +1,137 @@
+"""Lines switched on and off with and without keys, taken back, and saved with an archive, by the button and by keys."""
+
+import re
+import sys
+
+from desktop import Program, private_environment
+from sample import DISABLED, ENABLED, pack, sample
+
+TOGGLE, SAVE, CANCEL, CONTINUE = "Activer / Désactiver", "Sauv fichier", "Annuler", "Continuer"
+ARCHIVE = re.compile(r"scenery_packs_\d{4}-\d\d-\d\d_\d\d'\d\d'\d\d\.ini")
+NO_ARCHIVE_FOLDER = "Impossible de localiser le dossier où sauvegarder l'ancien fichier."
+COPY_FAILED = "Erreur pendant la copie de l'ancien (précédent) scenery_packs."
+WRITE_FAILED = "Erreur pendant l'écriture du nouveau scenery_packs."
+
+
+def flipped(line):
+    return (ENABLED if line.startswith(DISABLED) else DISABLED) + pack(line)
+
+
+def enabled(line):
+    return ENABLED + pack(line)
+
+
+def disabled(line):
+    return DISABLED + pack(line)
+
+
+TOGGLES = [  # the keys held, and what becomes of a line
+    ((), flipped),
+    (("shift",), enabled),
+    (("ctrl",), disabled),
+    (("shift", "ctrl"), flipped),
+]
+
+
+def colored(program, area):
+    """The text, and the colours at the first and the last character of each line."""
+    text, offset, colors = program.text(area), 0, []
+    for line in text.split("\n"):
+        colors += [program.color_at(area, offset), program.color_at(area, max(offset, offset + len(line) - 1))]
+        offset += len(line) + 1
+    return text, colors
+
+
+def toggle(program, area, keys, first, count, change):
+    """Toggles lines that are selected, or the one of the caret (a count of 0), then takes it back."""
+    before = colored(program, area)
+    lines = before[0].split("\n")
+    start = sum(len(line) + 1 for line in lines[:first])
+    if count:
+        program.select(area, start, start + len("\n".join(lines[first : first + count])))
+    else:
+        program.select(area, start + 3, start + 3)
+    end = first + max(count, 1)
+    changed = [change(line) for line in lines[first:end]]
+    expected = "\n".join([*lines[:first], *changed, *lines[end:]])
+    with program.held(*keys):
+        program.press(TOGGLE)
+        program.wait_for(f"{changed}", lambda: program.text(area) == expected)
+    assert program.selection(area) == (start, start + len("\n".join(changed))), program.selection(area)
+    after = colored(program, area)[1]
+    for number, line in enumerate(changed):
+        keyword, rest = after[2 * (first + number) :][:2]
+        assert keyword == ("255,0,0" if line.startswith(DISABLED) else "0,200,0"), (line, keyword)
+        assert rest == before[1][2 * (first + number) + 1], (line, rest)
+
+    program.focus(area)
+    program.keys("ctrl+z")
+    program.wait_for("the text before the toggle", lambda: program.text(area) == before[0])
+    assert colored(program, area) == before
+
+
+def check_save(program, files, text, ask):
+    """One save, asked for by `ask`: refused it changes nothing, confirmed it leaves one archive with the old bytes."""
+    old, archives = files.source_file.read_bytes(), files.archives
+    ask()
+    texts = program.answer(CANCEL)
+    assert re.fullmatch("Êtes-vous sûr .* “Spack Après” comme “Linux:.*:Custom Scenery:scenery_packs.ini” ?.*", texts[0]), texts
+    ask()
+    program.answer(CANCEL)
+    assert files.source_file.read_bytes() == old and not list(archives.iterdir())
+    ask()
+    program.answer(SAVE)
+    program.wait_for("the saved text", lambda: files.source_file.read_bytes() == text.encode())
+    (archive,) = archives.iterdir()
+    assert ARCHIVE.fullmatch(archive.name) and archive.read_bytes() == old, archive
+    archive.unlink()
+
+
+def check_faults(program, files, area):
+    """An archive that can't be made is asked about; a file that can't be written is told and stays."""
+    old, text = files.source_file.read_bytes(), "Édité 😀\n" + program.text(area)
+    program.set_text(area, text)
+    folder = program.find("text", "Sauv anc Spack")
+    for place, message in (("Linux:nowhere:", NO_ARCHIVE_FOLDER), ("Linux:proc:", COPY_FAILED)):
+        program.set_text(folder, place)
+        program.press(SAVE)
+        if message == COPY_FAILED:
+            program.answer(SAVE)
+        assert program.answer(CANCEL) == [message]
+        assert files.source_file.read_bytes() == old
+
+    files.source_file.chmod(0o444)
+    for mode, told in ((0o444, [WRITE_FAILED]), (0o640, [])):
+        files.source_file.chmod(mode)
+        program.press(SAVE)
+        program.answer(SAVE)
+        assert program.answer(CONTINUE) == [COPY_FAILED]
+        if told:
+            assert program.answer("Ok") == told
+            assert files.source_file.read_bytes() == old
+    program.wait_for("the saved text", lambda: files.source_file.read_bytes() == text.encode())
+    assert files.source_file.stat().st_mode & 0o777 == 0o640
+    assert not list(files.archives.iterdir())
+
+
+def main(command):
+    with sample() as files, Program([command], private_environment(files.home)) as program:
+        program.press("Générer")
+        program.answer_until("Générer")
+        area = program.find("text", "Spack Après")
+        lines = program.text(area).split("\n")
+        middle = next(number for number, line in enumerate(lines) if line.startswith(DISABLED))
+        for keys, change in TOGGLES:
+            toggle(program, area, keys, middle - 1, 3, change)
+        toggle(program, area, (), middle, 0, flipped)
+
+        check_save(program, files, "\n".join(lines), lambda: program.press(SAVE))
+        edited = "\n".join([*lines[:-1], ENABLED + "Custom Scenery/Ajouté à la main 😀/", ""])
+        program.set_text(area, edited)
+        check_save(program, files, edited, lambda: program.keys("ctrl+s"))
+        check_faults(program, files, area)
+        assert program.close() == 0
+        assert program.stderr() == "", program.stderr()
+
+
+main(*sys.argv[1:])

@@ -1,0 +1,112 @@
+"""Searching with the keyboard, and all that is set by hand there again after a close, a quit and a kill."""
+
+import pathlib
+import sys
+import tempfile
+
+from desktop import Program, has, private_environment
+from sample import sample
+
+MODEL, URL, ARCHIVE, SPACK, SEARCH = "Fichier modèle", "Url modèle", "Sauv anc Spack", "scenery_packs.ini", "Chercher"
+
+
+def path_form(path):
+    return "Linux" + str(path).replace("/", ":")
+
+
+def paste(program, field, text):
+    """By way of the search field, from which it is copied."""
+    program.set_text(program.find("text", SEARCH), text)
+    program.keys("ctrl+f", "ctrl+c")
+    program.focus(field)
+    program.keys("ctrl+a", "ctrl+v")
+
+
+def set_by_hand(program, files):
+    for name, item in ((MODEL, files.model_file), (SPACK, files.source_file)):
+        field = program.find("text", name)
+        paste(program, field, str(item))
+        program.wait_for(f"{path_form(item)}", lambda: program.text(field) == path_form(item))
+    typed = program.find("text", ARCHIVE)
+    program.focus(typed)
+    program.keys("ctrl+a")
+    program.type(str(files.archives))
+    program.wait_for("the typed path as it was typed", lambda: program.text(typed) == str(files.archives))
+
+
+def search(program, area, word):
+    """Ctrl+F, the word, Enter; the selection when the focus is back in the text."""
+    program.keys("ctrl+f")
+    field = program.find("text", SEARCH)
+    program.wait_for("the search field", lambda: has(field, "focused") and not has(area, "focused"))
+    program.type(word)
+    program.wait_for(f"{word} in the field", lambda: program.text(field) == word)
+    program.keys("Return")
+
+
+def check_search(program, area):
+    text, word = program.text(area), "bretagne"
+    places = [at for at in range(len(text)) if text[at : at + len(word)].lower() == word]
+    assert len(places) > 2, places
+    for place in [*places, places[0]]:
+        search(program, area, word)
+        expected = (place, place + len(word))
+        program.wait_for(f"the match at {expected}", lambda: program.selection(area) == expected)
+        program.wait_for("the focus in the text", lambda: has(area, "focused"))
+        assert program.is_inside(area, place), f"the match at {place} is hidden"
+    program.keys("ctrl+f")
+    program.wait_for("the focus in the field", lambda: not has(area, "focused"))
+    assert program.selection(area) == expected
+    program.keys("Escape")
+    program.wait_for("the focus in the text", lambda: has(area, "focused"))
+    search(program, area, "nowhere")
+    program.wait_for("no selection", lambda: program.selection(area) == (0, 0))
+    assert program.text(area) == text
+
+
+def state(program):
+    """All that a restart brings back."""
+    fields = {name: program.text(program.find("text", name)) for name in (MODEL, URL, ARCHIVE, SPACK)}
+    buttons = {
+        name: has(program.find(role, name), "checked")
+        for role, name in (("radio button", MODEL), ("radio button", URL), ("check box", ARCHIVE))
+    }
+    return fields, buttons, program.extents(program.window())
+
+
+def main(command):
+    with sample() as files, tempfile.TemporaryDirectory() as home:
+        preferences = lambda: next(pathlib.Path(home).rglob("Tarnivel Prefs.txt")).read_bytes()  # noqa: E731
+        with Program([command], private_environment(home)) as program:
+            set_by_hand(program, files)
+            program.press("Générer")
+            program.answer_until("Générer")
+            check_search(program, program.find("text", "Spack Après"))
+            program.press(URL, "radio button")
+            program.press(ARCHIVE, "check box")
+            program.set_text(program.find("text", URL), "http://127.0.0.1:9/a :@: b")
+            program.move(140, 90, 812, 533)
+            kept = state(program)
+            bar = program.extents(program.find("menu bar"))[3]
+            assert program.close() == 0
+        # Counted is what stands below the menu bar.
+        assert f"Fenetre WinMain :@: 140,{90 + bar},812,{533 - bar}\n".encode() in preferences(), preferences()
+
+        with Program([command], private_environment(home)) as program:
+            program.wait_for(f"{kept}", lambda: state(program) == kept)
+            program.press(MODEL, "radio button")
+            program.move(33, 120, 730, 600)
+            kept = state(program)
+            program.keys("ctrl+q")
+            assert program.wait_for_end() == 0
+
+        saved = preferences()
+        with Program([command], private_environment(home)) as program:
+            program.wait_for(f"{kept}", lambda: state(program) == kept)
+            program.press(URL, "radio button")
+            program.process.kill()
+            program.wait_for_end()
+        assert preferences() == saved
+
+
+main(*sys.argv[1:])
