@@ -5,6 +5,7 @@
 #include "toolkit/core/QtText.h"
 
 #include <QAbstractButton>
+#include <QAccessibleWidget>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenuBar>
@@ -35,6 +36,9 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    /// To a screen reader a plain widget is none of the windows that it announces.
+    static QAccessibleInterface* Announce(const QString& className, QObject* object);
+
     DesktopWindow& owner_;
     QMenuBar* const menuBar_;
 };
@@ -68,6 +72,7 @@ DesktopWindow::Shell::Shell(DesktopWindow& owner, const WindowStyle& style)
     , owner_(owner)
     , menuBar_(style.hasMenuBar ? DesktopApplication::MakeMenuBar(this) : nullptr)
 {
+    QAccessible::installFactory(&Announce);
     setWindowTitle(ToQt(style.title));
     SetControlFont(*content);
     content->setMinimumSize(style.resizable ? QSize(style.minimumWidth, style.minimumHeight)
@@ -85,6 +90,12 @@ DesktopWindow::Shell::Shell(DesktopWindow& owner, const WindowStyle& style)
     layout->setMenuBar(menuBar_);
     layout->addWidget(content);
     resize(style.width, style.height + MenuHeight());
+}
+
+QAccessibleInterface* DesktopWindow::Shell::Announce(const QString& /*className*/, QObject* object)
+{
+    auto* const shell = dynamic_cast<Shell*>(object);
+    return shell ? new QAccessibleWidget(shell, QAccessible::Window) : nullptr;
 }
 
 int DesktopWindow::Shell::MenuHeight() const { return menuBar_ ? menuBar_->heightForWidth(width()) : 0; }

@@ -9,6 +9,7 @@ BLACK, GREEN, RED, ORANGE = "0,0,0", "0,200,0", "255,0,0", "255,127,0"
 FOLDERS = "Ces dossiers sont dans le dossier “Custom Scenery” mais pas dans “scenery_packs.ini” :"
 SCENERIES = "Ces Sceneries sont dans “scenery_packs.ini” mais pas dans le dossier “Custom Scenery” :"
 CONTROLS = {
+    "frame": ["Tarnivel"],
     "push button": ["Générer", "Sélect fichier", "Ouvrir Url", "Sélect dossier", "Sauv fichier", "Activer / Désactiver",
                     "Affich Dossier", "Aide", "Chercher", "Effacer"],
     "text": ["Fichier modèle", "Url modèle", "Sauv anc Spack", "scenery_packs.ini", "Chercher", "Spack Après"],
