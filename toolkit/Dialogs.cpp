@@ -5,9 +5,12 @@
 #include "toolkit/Probe.h"
 #include "toolkit/core/QtText.h"
 
+#include <QApplication>
 #include <QFile>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QPointer>
+#include <QTreeView>
 #include <memory>
 
 /// The layer's own door to what hangs a dialog on a window.
@@ -68,7 +71,11 @@ template <typename Dialog>
 std::unique_ptr<Dialog> Finished(Dialog* dialog)
 {
     const QPointer<Dialog> watched(dialog);
-    if (dialog->parentWidget()) dialog->setWindowModality(Qt::WindowModal);
+    if (dialog->parentWidget())
+        dialog->setWindowModality(Qt::WindowModal);
+    else if (QWidget* const inUse = QApplication::activeWindow())
+        // A dialog of no window stops all of them, and must not get lost behind the one that is in use.
+        dialog->setParent(inUse, dialog->windowFlags());
     dialog->exec();
     return std::unique_ptr<Dialog>(watched.data());
 }
@@ -77,6 +84,12 @@ std::optional<FolderItem> Choose(std::unique_ptr<QFileDialog> chooser, const std
 {
     // An alias is an item of its own; the program follows it where it wants to.
     chooser->setOptions(chooser->options() | QFileDialog::DontUseNativeDialog | QFileDialog::DontResolveSymlinks);
+    chooser->resize(chooser->sizeHint().expandedTo({820, 480}));
+    if (auto* const list = chooser->findChild<QTreeView*>()) {
+        // By itself each column but the first has the same width, and cuts dates off.
+        list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+        list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    }
     if (initialFolder) chooser->setDirectory(QFile::decodeName(initialFolder->Path().c_str()));
     const auto finished = Finished(chooser.release());
     if (!finished || finished->result() != QDialog::Accepted || finished->selectedFiles().isEmpty()) return {};

@@ -17,6 +17,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <memory>
 
 namespace {
 
@@ -117,17 +118,20 @@ void MessageWindow::FitToScreen(QTextEdit& text, int heightOfTheRest) const
     constexpr int percentOfScreen = 60;
     const int mostHeight = screen()->availableGeometry().height() * percentOfScreen / 100 - heightOfTheRest;
 
-    QTextDocument& document = *text.document();
+    const QTextDocument& document = *text.document();
     QSize size(widest, mostHeight);
     // Measuring a report of thousands of lines takes a second, and their number alone says that it scrolls.
     bool fits = document.blockCount() * text.fontMetrics().height() <= mostHeight;
     if (fits) {
-        document.setTextWidth(widest);
-        size.setWidth(std::clamp(static_cast<int>(std::ceil(document.idealWidth())), narrowest, widest));
-        document.setTextWidth(size.width());
-        fits = document.size().height() <= mostHeight;
+        // The control lays its own document out anew, for its present width, whenever a scroll bar comes or goes.
+        const std::unique_ptr<QTextDocument> measured(document.clone());
+        measured->setTextWidth(widest);
+        size.setWidth(std::clamp(static_cast<int>(std::ceil(measured->idealWidth())), narrowest, widest));
+        measured->setTextWidth(size.width());
+        const int height = static_cast<int>(std::ceil(measured->size().height()));
+        fits = height <= mostHeight;
+        if (fits) size.setHeight(height);
     }
-    if (fits) size.setHeight(static_cast<int>(std::ceil(document.size().height())));
     text.setVerticalScrollBarPolicy(fits ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAlwaysOn);
     // What scrolls can be reached with the Tab key, and is moved with the arrows.
     text.setFocusPolicy(fits ? Qt::ClickFocus : Qt::StrongFocus);

@@ -8,6 +8,7 @@ from sample import DISABLED, ENABLED, pack, sample
 
 TOGGLE, SAVE, CANCEL, CONTINUE = "Activer / Désactiver", "Sauv fichier", "Annuler", "Continuer"
 ARCHIVE = re.compile(r"scenery_packs_\d{4}-\d\d-\d\d_\d\d'\d\d'\d\d\.ini")
+QUESTION = re.compile(r"Êtes-vous sûr de vouloir enregistrer “Spack Après” comme “Linux:.*:scenery_packs\.ini” \?")
 NO_ARCHIVE_FOLDER = "Impossible de localiser le dossier où sauvegarder l'ancien fichier."
 COPY_FAILED = "Erreur pendant la copie de l'ancien (précédent) scenery_packs."
 WRITE_FAILED = "Erreur pendant l'écriture du nouveau scenery_packs."
@@ -74,8 +75,8 @@ def check_save(program, files, text, ask):
     """One save, asked for by `ask`: refused it changes nothing, confirmed it leaves one archive with the old bytes."""
     old, archives = files.source_file.read_bytes(), files.archives
     ask()
-    texts = program.answer(CANCEL)
-    assert re.fullmatch("Êtes-vous sûr .* “Spack Après” comme “Linux:.*:Custom Scenery:scenery_packs.ini” ?.*", texts[0]), texts
+    (question,) = program.answer(CANCEL)
+    assert QUESTION.fullmatch(question), question
     ask()
     program.answer(CANCEL)
     assert files.source_file.read_bytes() == old and not list(archives.iterdir())
