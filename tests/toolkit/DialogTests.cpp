@@ -90,7 +90,7 @@ TEST(MessageDialog, ShowsAnyTextInFull)
         QString message, explanation, shown;
         bool scrolls;
     } rows[] = {
-        {"a short text", "Really?", "", "Really?", false},
+        {"a text of one line", "The file could not be written here.", "", "The file could not be written here.", false},
         {"what looks like markup", "<b>a</b> &amp; <br>", "<h1>\t%1</h1>", "<b>a</b> &amp; <br>\n<h1>\t%1</h1>", false},
         {"a path without a blank", longWord, longWord, longWord + "\n" + longWord, false},
         {"a report of ten thousand lines", "Not found", manyLines, "Not found\n" + manyLines, true},
