@@ -12,6 +12,9 @@ namespace {
 constexpr auto headerLines =
     1 + static_cast<std::size_t>(std::count(TxtDebSpack.begin(), TxtDebSpack.end(), TxtEoF.front()));
 
+/// How far ahead of its use memory is asked for.
+constexpr std::size_t linesAhead = 16;
+
 std::vector<SceneryLine> LinesWithoutBlankEnd(StringView text)
 {
     std::vector<SceneryLine> lines = LinesOf(text);
@@ -60,6 +63,8 @@ std::vector<PlacedLine> PlaceInModelOrder(std::span<const SceneryLine> model, Le
     const std::vector<Entry*> entries = ledger.Find(model);
     Int64 offset = LongTxtTab(model, LgTxtEoF, headerLines - 1);
     for (std::size_t i = headerLines; i < model.size(); offset += std::ssize(model[i++].text) + LgTxtEoF) {
+        // The entries of a long text lie outside the processor's caches.
+        __builtin_prefetch(entries[std::min(i + linesAhead, model.size() - 1)]);
         const SceneryLine& line = model[i];
         Entry& entry = *entries[i];
         const bool blank = line.text.empty();
