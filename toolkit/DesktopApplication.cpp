@@ -1,5 +1,6 @@
 #include "toolkit/DesktopApplication.h"
 
+#include "toolkit/Dialogs.h"
 #include "toolkit/MenuBar.h"
 #include "toolkit/core/QtText.h"
 
@@ -8,6 +9,7 @@
 #include <QLocale>
 #include <QTranslator>
 #include <algorithm>
+#include <cstdio>
 #include <utility>
 
 namespace {
@@ -23,6 +25,39 @@ int& WithStyle(int& argc)
     return argc;
 }
 
+/// Tells the user of an exception that nothing else has caught, one at a time; it never throws.
+void TellOfException(const char* what) noexcept
+{
+    static bool telling = false;
+    std::fprintf(stderr, "%s\n", what);
+    if (telling) return;
+    telling = true;
+    try {
+        MessageBox(U"Error ! Please contact the authors.\n" + FromQt(QString::fromUtf8(what)));
+    } catch (...) {
+        std::fputs("There was no way to show this error.\n", stderr);
+    }
+    telling = false;
+}
+
+/// Ends an exception at the event that raised it, so that the program goes on with the next one.
+class GuardedApplication final : public QApplication {
+public:
+    using QApplication::QApplication;
+
+    bool notify(QObject* receiver, QEvent* event) override
+    {
+        try {
+            return QApplication::notify(receiver, event);
+        } catch (const std::exception& error) {
+            TellOfException(error.what());
+        } catch (...) {
+            TellOfException("Unknown exception");
+        }
+        return false;
+    }
+};
+
 } // namespace
 
 struct DesktopApplication::Private {
@@ -31,7 +66,7 @@ struct DesktopApplication::Private {
     {
     }
 
-    QApplication application;
+    GuardedApplication application;
     QTranslator platformTexts;
     DesktopMenuBar menuBar;
     std::optional<int> exitCode;
@@ -83,14 +118,16 @@ void DesktopApplication::WindowClosed()
     if (!HasVisibleWindow()) QApplication::exit(0);
 }
 
-QMenuBar* DesktopApplication::MakeMenuBar(QWidget* window)
+QMenuBar* DesktopApplication::MakeMenuBar(const DesktopWindow& window, QWidget* parent)
 {
     if (!current || current->private_->menuBar.empty()) return nullptr;
     DesktopApplication& application = *current;
     const auto validate = [&application] {
         if (application.MenuBarSelected) application.MenuBarSelected();
     };
-    return ::MakeMenuBar(window, application.private_->menuBar, {validate, [&application] { application.Quit(0); }});
+    return ::MakeMenuBar(
+        parent, application.private_->menuBar,
+        {[&window] { return window.TakesInput(); }, validate, [&application] { application.Quit(0); }});
 }
 
 Int64 DesktopApplication::WindowCount() { return static_cast<Int64>(DesktopWindow::All().size()); }
@@ -102,6 +139,8 @@ DesktopWindow* DesktopApplication::WindowAt(Int64 index)
 
 void DesktopApplication::YieldToPlatform()
 {
-    if (QApplication::instance())
-        QApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::ExcludeSocketNotifiers);
+    if (!QApplication::instance()) return;
+    ++yields_;
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::ExcludeSocketNotifiers);
+    --yields_;
 }

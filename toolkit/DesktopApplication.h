@@ -24,7 +24,8 @@ public:
     void SetMenuBar(DesktopMenuBar menuBar);
     std::function<void()> MenuBarSelected;
 
-    /// Runs the event loop until the program quits; the result is the program's exit code.
+    /// Runs the event loop until the program quits; the result is the program's exit code. An exception that leaves an
+    /// event's handler is shown to the user, and the loop goes on.
     int Run();
     /// Asks every open window (`CancelClosing` with true); if none objects, the event loop ends with `exitCode`.
     void Quit(int exitCode);
@@ -33,16 +34,20 @@ public:
     /// Windows that exist, hidden ones included, in the order of their creation.
     static DesktopWindow* WindowAt(Int64 index);
 
-    /// Lets the platform repaint and its timers fire, without serving the user's mouse and keyboard.
+    /// Lets the platform repaint and timers fire. Mouse, keyboard, the closing of windows and answers from the network
+    /// wait until the program is idle again; what a screen reader presses meanwhile is dropped.
     static void YieldToPlatform();
 
 private:
     friend class DesktopWindow;
     /// The menu bar for one window, or null when the application has none.
-    static QMenuBar* MakeMenuBar(QWidget* window);
+    static QMenuBar* MakeMenuBar(const DesktopWindow& window, QWidget* parent);
     /// Ends the event loop when no window is left.
     static void WindowClosed();
     static bool HasVisibleWindow();
+
+    /// Calls of `YieldToPlatform` under way.
+    static inline int yields_ = 0;
 
     struct Private;
     std::unique_ptr<Private> private_;

@@ -34,7 +34,7 @@ DesktopButton::DesktopButton(DesktopWindow& window, const Placement& placement, 
     SetCaption(caption);
     auto* button = static_cast<QPushButton*>(widget_);
     QObject::connect(button, &QPushButton::clicked, button, [this] {
-        if (Pressed) Pressed();
+        if (Pressed && TakesInput()) Pressed();
     });
 }
 
@@ -113,13 +113,16 @@ void DesktopRadioGroup::SetSelectedIndex(int index) { static_cast<Choices*>(widg
 
 DesktopPopupMenu::DesktopPopupMenu(DesktopWindow& window, const Placement& placement, StringView rows, int selectedRow)
     : DesktopUIControl(window, new QComboBox, placement)
+    , row_(selectedRow)
 {
     auto* popup = static_cast<QComboBox*>(widget_);
     for (StringView row : Split(rows, EndOfLine::Native))
         popup->addItem(ToQt(row));
     FitFont(*popup, ToQt(rows), Width() - ArrowWidth);
     popup->setCurrentIndex(selectedRow);
-    QObject::connect(popup, &QComboBox::currentIndexChanged, popup, [this] {
+    QObject::connect(popup, &QComboBox::currentIndexChanged, popup, [this](int row) {
+        if (!TakesInput()) return SetSelectedRowIndex(row_);
+        row_ = row;
         if (SelectionChanged) SelectionChanged();
     });
 }
@@ -130,6 +133,7 @@ void DesktopPopupMenu::SetSelectedRowIndex(int row)
 {
     const QSignalBlocker silence(widget_);
     static_cast<QComboBox*>(widget_)->setCurrentIndex(row);
+    row_ = SelectedRowIndex();
 }
 
 String DesktopPopupMenu::SelectedRowText() const { return FromQt(static_cast<QComboBox*>(widget_)->currentText()); }
@@ -140,7 +144,8 @@ DesktopSegmentedButton::DesktopSegmentedButton(DesktopWindow& window, const Plac
     auto* segment = static_cast<QPushButton*>(widget_);
     segment->setCheckable(true);
     SetButtonCaption(*segment, caption, Width() - 2 * ButtonMargin);
-    QObject::connect(segment, &QPushButton::clicked, segment, [this] {
+    QObject::connect(segment, &QPushButton::clicked, segment, [this, segment] {
+        if (!TakesInput()) return segment->toggle();
         if (Pressed) Pressed(0);
     });
 }

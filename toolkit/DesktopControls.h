@@ -22,7 +22,8 @@ private:
     int fontSize_;
 };
 
-/// A field of one line, black on white in every appearance, grey while it is disabled. Line ends in its text stay, though they are not seen.
+/// A field of one line, black on white in every appearance, grey while it is disabled. Line ends in its text stay,
+/// though they are not seen.
 class DesktopTextField : public DesktopUIControl {
 public:
     DesktopTextField(DesktopWindow& window, const Placement& placement, StringView text = {});
@@ -98,6 +99,10 @@ public:
     [[nodiscard]] String SelectedRowText() const;
 
     std::function<void()> SelectionChanged;
+
+private:
+    /// The row after the last change that counted.
+    int row_;
 };
 
 /// A button of one segment that stays down when it is pressed and comes up when it is pressed again.

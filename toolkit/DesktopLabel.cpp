@@ -43,11 +43,12 @@ protected:
 
     void enterEvent(QEnterEvent*) override
     {
-        if (owner && owner->MouseEnter) owner->MouseEnter();
+        if (owner && owner->MouseEnter && owner->TakesInput()) owner->MouseEnter();
     }
 
     void leaveEvent(QEvent*) override
     {
+        // In every case: what the pointer's entering has changed must not stay.
         if (owner && owner->MouseExit) owner->MouseExit();
     }
 
@@ -63,14 +64,14 @@ protected:
 private:
     bool Press(QPoint point)
     {
-        pressed_ = owner->MouseDown && owner->MouseDown(point.x(), point.y());
+        pressed_ = owner->MouseDown && owner->TakesInput() && owner->MouseDown(point.x(), point.y());
         return pressed_;
     }
 
     void Release(QPoint point)
     {
         const bool pressed = std::exchange(pressed_, false);
-        if (pressed && owner->MouseUp) owner->MouseUp(point.x(), point.y());
+        if (pressed && owner->MouseUp && owner->TakesInput()) owner->MouseUp(point.x(), point.y());
     }
 
     bool pressed_ = false;

@@ -86,7 +86,8 @@ private:
 
     [[nodiscard]] bool Usable(const DesktopMenuItem& item) const
     {
-        return item.Enabled && (item.Edit == EditCommand::None || CanEdit(item.Edit, textControl_));
+        return services_.takesInput() && item.Enabled &&
+               (item.Edit == EditCommand::None || CanEdit(item.Edit, textControl_));
     }
 
     void Trigger(DesktopMenuItem& item)

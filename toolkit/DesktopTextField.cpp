@@ -55,8 +55,10 @@ protected:
     void keyPressEvent(QKeyEvent* event) override
     {
         const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+        const bool escape = event->key() == Qt::Key_Escape;
+        if ((enter || escape) && !owner_.TakesInput()) return;
         if (enter && owner_.Entered) return owner_.Entered();
-        if (event->key() == Qt::Key_Escape && owner_.Escaped) return owner_.Escaped();
+        if (escape && owner_.Escaped) return owner_.Escaped();
         QLineEdit::keyPressEvent(event);
     }
 
@@ -79,7 +81,7 @@ protected:
 private:
     [[nodiscard]] std::optional<FolderItem> DroppedItem(const QMimeData& dropped) const
     {
-        if (!owner_.ItemGiven || dropped.urls().size() != 1) return {};
+        if (!owner_.ItemGiven || !owner_.TakesInput() || dropped.urls().size() != 1) return {};
         return ItemOf(dropped.urls().front().toString());
     }
 
@@ -88,7 +90,7 @@ private:
     {
         const QString pasted = Inserted(before_, text).trimmed();
         const std::optional<FolderItem> item =
-            owner_.ItemGiven && pasted.size() > 1 ? ItemOf(pasted) : std::optional<FolderItem>();
+            owner_.ItemGiven && owner_.TakesInput() && pasted.size() > 1 ? ItemOf(pasted) : std::optional<FolderItem>();
         if (!item) {
             before_ = text;
             return;

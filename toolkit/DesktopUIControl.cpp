@@ -74,6 +74,8 @@ String DesktopUIControl::AccessibleName() const
 
 void DesktopUIControl::SetAccessibleName(StringView name) { widget_->setAccessibleName(ToQt(name)); }
 
+bool DesktopUIControl::TakesInput() const { return window_.TakesInput(); }
+
 void DesktopUIControl::SetFocus() { widget_->setFocus(); }
 
 void DesktopUIControl::Apply()

@@ -49,6 +49,8 @@ public:
 
     void SetFocus();
     [[nodiscard]] DesktopWindow& Parent() const { return window_; }
+    /// Whether an act of the user counts; see `DesktopWindow::TakesInput`.
+    [[nodiscard]] bool TakesInput() const;
 
 protected:
     DesktopUIControl(DesktopWindow& window, QWidget* widget, const Placement& placement);

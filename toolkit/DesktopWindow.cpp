@@ -10,6 +10,7 @@
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QPointer>
+#include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -21,7 +22,10 @@ public:
     Shell(DesktopWindow& owner, const WindowStyle& style);
 
     void ResizeContent(int width, int height);
+    /// From the main screen's top left corner, as the two positions that follow.
     void MoveContent(int left, int top);
+    [[nodiscard]] int Left() const { return geometry().x() - MainScreen().x(); }
+    [[nodiscard]] int Top() const { return geometry().y() + MenuHeight() - MainScreen().y(); }
     /// How far the content lies below the top edge.
     [[nodiscard]] int MenuHeight() const;
 
@@ -38,6 +42,12 @@ protected:
 private:
     /// To a screen reader a plain widget is none of the windows that it announces.
     static QAccessibleInterface* Announce(const QString& className, QObject* object);
+    /// Where the main screen begins among several.
+    static QPoint MainScreen()
+    {
+        const QScreen* const screen = QGuiApplication::screens().value(0);
+        return screen ? screen->geometry().topLeft() : QPoint();
+    }
 
     DesktopWindow& owner_;
     QMenuBar* const menuBar_;
@@ -64,13 +74,24 @@ QWidgetList TabStops(QWidget* control)
     return stops;
 }
 
+/// Whether a dialog keeps the user from a window that is no dialog itself.
+bool Blocks(const QWidget& dialog, const QWidget& window)
+{
+    if (!dialog.isVisible() || &dialog == &window) return false;
+    if (dialog.windowModality() != Qt::WindowModal) return dialog.isModal();
+    const QWidget* parent = dialog.parentWidget();
+    while (parent && parent != &window)
+        parent = parent->parentWidget();
+    return parent != nullptr;
+}
+
 } // namespace
 
 DesktopWindow::Shell::Shell(DesktopWindow& owner, const WindowStyle& style)
     : QWidget(nullptr, FlagsOf(style))
     , content(new QWidget(this))
     , owner_(owner)
-    , menuBar_(style.hasMenuBar ? DesktopApplication::MakeMenuBar(this) : nullptr)
+    , menuBar_(style.hasMenuBar ? DesktopApplication::MakeMenuBar(owner, this) : nullptr)
 {
     QAccessible::installFactory(&Announce);
     setWindowTitle(ToQt(style.title));
@@ -81,7 +102,7 @@ DesktopWindow::Shell::Shell(DesktopWindow& owner, const WindowStyle& style)
                                             : QSize(style.width, style.height));
     content->installEventFilter(this);
     connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this, [this] {
-        if (owner_.FindRequested) owner_.FindRequested();
+        if (owner_.FindRequested && owner_.TakesInput()) owner_.FindRequested();
     });
 
     auto* layout = new QVBoxLayout(this);
@@ -111,7 +132,8 @@ void DesktopWindow::Shell::ResizeContent(int width, int height)
 void DesktopWindow::Shell::MoveContent(int left, int top)
 {
     // Not move(), which places the frame.
-    setGeometry(left, top - MenuHeight(), width(), height());
+    const QPoint corner = MainScreen() + QPoint(left, top - MenuHeight());
+    setGeometry(QRect(corner, size()));
 }
 
 bool DesktopWindow::Shell::event(QEvent* event)
@@ -156,9 +178,9 @@ int DesktopWindow::MinimumWidth() const { return shell_->content->minimumWidth()
 
 int DesktopWindow::MinimumHeight() const { return shell_->content->minimumHeight(); }
 
-int DesktopWindow::Left() const { return shell_->geometry().x(); }
+int DesktopWindow::Left() const { return shell_->Left(); }
 
-int DesktopWindow::Top() const { return shell_->geometry().y() + shell_->MenuHeight(); }
+int DesktopWindow::Top() const { return shell_->Top(); }
 
 void DesktopWindow::SetLeft(int points) { shell_->MoveContent(points, Top()); }
 
@@ -215,6 +237,13 @@ void DesktopWindow::BlockKeyboard(bool blocked)
         SetFocus();
     } else if (shell_->focusBefore)
         shell_->focusBefore->setFocus();
+}
+
+bool DesktopWindow::TakesInput() const
+{
+    if (shell_->keyboardIsBlocked || DesktopApplication::yields_ > 0) return false;
+    return std::ranges::none_of(QApplication::topLevelWidgets(),
+                                [this](const QWidget* other) { return Blocks(*other, *shell_); });
 }
 
 QWidget* DesktopWindow::Content() const { return shell_->content; }

@@ -30,7 +30,7 @@ public:
     [[nodiscard]] int MinimumWidth() const;
     [[nodiscard]] int MinimumHeight() const;
 
-    /// The content's place on the screen, in points; the frame and the menu bar lie outside.
+    /// The content's place in points from the main screen's top left corner; the frame and the menu bar lie outside.
     [[nodiscard]] int Left() const;
     [[nodiscard]] int Top() const;
     [[nodiscard]] int Width() const { return width_; }
@@ -41,6 +41,8 @@ public:
     void SetHeight(int points);
 
     [[nodiscard]] bool Visible() const;
+    /// Whether the window was shown and not closed since; true while it opens, before anything is seen.
+    [[nodiscard]] bool IsOpen() const { return opened_; }
     /// Shows the window and brings it to the front. The first call, and the first after a close, fires `Opening` before
     /// anything is seen.
     void Show();
@@ -54,6 +56,11 @@ public:
     /// Keeps the keyboard from the controls: the focus leaves them, and the Tab key doesn't bring it back. Afterwards
     /// the control that had it has it again.
     void BlockKeyboard(bool blocked);
+
+    /// Whether the user's acts reach the window's controls and menus, from wherever they come. They are dropped while a
+    /// dialog blocks the window, while the keyboard is kept from it, and while the program only yields to the platform:
+    /// a screen reader, unlike mouse and keyboard, knows nothing of that.
+    [[nodiscard]] bool TakesInput() const;
 
     [[nodiscard]] const std::vector<DesktopUIControl*>& Controls() const { return controls_; }
 

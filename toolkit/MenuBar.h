@@ -8,6 +8,8 @@
 
 /// What a menu bar needs of the application.
 struct MenuServices {
+    /// Whether the window's menus are open to the user at present.
+    std::function<bool()> takesInput;
     /// Brings `Enabled` of all items up to date.
     std::function<void()> validate;
     std::function<void()> quit;

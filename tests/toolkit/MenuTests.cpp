@@ -2,10 +2,16 @@
 #include "tests/toolkit/WidgetTest.h"
 #include "toolkit/DesktopControls.h"
 #include "toolkit/DesktopTextArea.h"
+#include "toolkit/Dialogs.h"
 
+#include <QAccessible>
 #include <QClipboard>
+#include <QComboBox>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPushButton>
+#include <QTimer>
 
 namespace {
 
@@ -122,6 +128,57 @@ TEST_F(MenuTest, OpenedByKeyTheMenuServesTheControlThatHadTheFocus)
     auto* bar = QApplication::activeWindow()->findChild<QMenuBar*>();
     bar->setFocus(Qt::MenuBarFocusReason);
     EXPECT_EQ(Enabled("Edit", {"Undo", "Paste", "SelectAll"}), "Paste SelectAll");
+}
+
+TEST_F(MenuTest, ABlockedWindowDropsWhatAScreenReaderDoes)
+{
+    DesktopPopupMenu popup(window, {100, 150, 100, 20}, U"one\ntwo", 0);
+    DesktopSegmentedButton segment(window, {200, 150, 100, 20}, U"Segment");
+    button.SetName(U"button"), popup.SetName(U"popup"), segment.SetName(U"segment");
+    std::string events;
+    button.Pressed = [&] { events += "button "; };
+    segment.Pressed = [&](int) { events += "segment "; };
+    popup.SelectionChanged = [&] { events += "popup "; };
+    TestMenus::Current().open.Action = [&] { return events += "menu ", true; };
+    field.SetFocus();
+
+    const auto press = [](QAccessibleInterface* shown) {
+        shown->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    };
+    auto &run = Find<QPushButton>("button"), &part = Find<QPushButton>("segment");
+    const auto act = [&] {
+        QAccessibleInterface* const edit = QAccessible::queryAccessibleInterface(&Find<QMenu>("Edit"));
+        press(edit->child(edit->childCount() - 2)); // Select all.
+        press(QAccessible::queryAccessibleInterface(&Find<QMenu>("File"))->child(0));
+        Find<QComboBox>("popup").setCurrentIndex(1);
+        for (QPushButton* pressed : {&run, &part}) {
+            press(QAccessible::queryAccessibleInterface(pressed));
+            EXPECT_TRUE(QTest::qWaitFor([&] { return !pressed->isDown(); }));
+        }
+    };
+    const auto during = [&](const std::function<void()>& block) {
+        QTimer::singleShot(0, qApp, [&] {
+            act();
+            if (QWidget* dialog = QApplication::activeModalWidget()) dialog->close();
+        });
+        block();
+    };
+    const std::pair<const char*, std::function<void()>> rows[] = {
+        {"a dialog that hangs on the window", [&] { static_cast<void>(MessageDialog{}.ShowModal(&window)); }},
+        {"a dialog that hangs on nothing", [] { MessageBox(U"Note"); }},
+        {"a cover", [&] { window.BlockKeyboard(true), QApplication::processEvents(), window.BlockKeyboard(false); }},
+        {"a long walk", [] { DesktopApplication::YieldToPlatform(); }},
+    };
+    for (const auto& [name, block] : rows) {
+        during(block);
+        EXPECT_EQ(events, "") << name;
+        EXPECT_EQ(popup.SelectedRowIndex(), 0) << name;
+        EXPECT_FALSE(segment.Selected(0)) << name;
+        EXPECT_FALSE(Find<QLineEdit>("field").hasSelectedText()) << name;
+    }
+    act();
+    EXPECT_EQ(events, "menu popup button segment ") << "free again, it serves everybody";
+    EXPECT_TRUE(Find<QLineEdit>("field").hasSelectedText());
 }
 
 TEST_F(MenuTest, QuitAsksTheWindows)

@@ -1,7 +1,10 @@
 #include "tests/toolkit/WidgetTest.h"
 #include "toolkit/DesktopControls.h"
 #include "toolkit/DesktopTextArea.h"
+#include "toolkit/Probe.h"
 #include "toolkit/Timer.h"
+
+#include <QTimer>
 
 namespace {
 
@@ -169,6 +172,21 @@ TEST(Application, QuitEndsTheLoopUnlessAWindowObjects)
     EXPECT_EQ(TestApplication().Run(), 4);
     EXPECT_EQ(asked, "1212");
     EXPECT_EQ(TestApplication().Run(), 4) << "what has ended doesn't begin again";
+}
+
+TEST(Application, AnExceptionOfAHandlerIsToldAndTheLoopGoesOn)
+{
+    const Probe probe;
+    const auto raise = [](const auto& exception) { QTimer::singleShot(0, qApp, [exception] { throw exception; }); };
+    raise(std::bad_alloc());
+    raise(std::runtime_error("no \xE2\x98\x9E"));
+    raise(7);
+    bool reached = false;
+    QTimer::singleShot(0, qApp, [&] { reached = true; });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return reached; }));
+    const String start = U"Error ! Please contact the authors.\n";
+    EXPECT_EQ(probe.Asked,
+              (std::vector{start + U"std::bad_alloc", start + U"no \u261E", start + U"Unknown exception"}));
 }
 
 TEST(Application, YieldingLetsTimersFire)
