@@ -14,10 +14,6 @@
 
 namespace {
 
-/// Characters of a line up to which it is wrapped between words. Qt's search for the end of a word takes time by the
-/// square of its length.
-constexpr std::size_t longestLineOfWords = 20'000;
-
 /// The form in which a text area puts its characters on the clipboard for another one, every one as it is.
 const QString exactFormat = QStringLiteral("application/x-tarnivel-text");
 
@@ -66,16 +62,7 @@ DesktopTextArea::Editor::Editor()
     });
 }
 
-void DesktopTextArea::Editor::WrapFor(StringView text)
-{
-    bool words = true;
-    for (std::size_t start = 0; words && text.size() - start > longestLineOfWords;) {
-        const std::size_t end = std::min(text.find(U'\n', start), text.size());
-        words = end - start <= longestLineOfWords;
-        start = std::min(end + 1, text.size());
-    }
-    setWordWrapMode(words ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::WrapAnywhere);
-}
+void DesktopTextArea::Editor::WrapFor(StringView text) { setWordWrapMode(WrapModeFor(text)); }
 
 void DesktopTextArea::Editor::SetText(StringView text, std::span<const ColorSpan> colors)
 {
@@ -155,7 +142,7 @@ void DesktopTextArea::Editor::insertFromMimeData(const QMimeData* source)
     // What comes from elsewhere may have the line ends of another system.
     const String text = source->hasFormat(exactFormat) ? Encodings::UTF8.Decode(source->data(exactFormat).toStdString())
                                                        : ReplaceLineEndings(FromQt(source->text()), EndOfLine::UNIX);
-    if (text.size() > longestLineOfWords) WrapFor(text);
+    if (WrapModeFor(text) == QTextOption::WrapAnywhere) WrapFor(text);
     insertPlainText(ToDocument(text));
     ensureCursorVisible();
 }

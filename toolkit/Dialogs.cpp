@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QHeaderView>
+#include <QOperatingSystemVersion>
 #include <QPointer>
 #include <QTreeView>
 #include <memory>
@@ -83,7 +84,9 @@ std::unique_ptr<Dialog> Finished(Dialog* dialog)
 std::optional<FolderItem> Choose(std::unique_ptr<QFileDialog> chooser, const std::optional<FolderItem>& initialFolder)
 {
     // An alias is an item of its own; the program follows it where it wants to.
-    chooser->setOptions(chooser->options() | QFileDialog::DontUseNativeDialog | QFileDialog::DontResolveSymlinks);
+    chooser->setOption(QFileDialog::DontResolveSymlinks);
+    const bool isMac = QOperatingSystemVersion::currentType() == QOperatingSystemVersion::MacOS;
+    chooser->setOption(QFileDialog::DontUseNativeDialog, !isMac);
     chooser->resize(chooser->sizeHint().expandedTo({820, 480}));
     if (auto* const list = chooser->findChild<QTreeView*>()) {
         // By itself each column but the first has the same width, and cuts dates off.

@@ -43,3 +43,14 @@ String FromDocument(QStringView units)
     }
     return text;
 }
+
+QTextOption::WrapMode WrapModeFor(StringView text)
+{
+    constexpr std::size_t longestLineOfWords = 20'000;
+    for (std::size_t start = 0; start + longestLineOfWords < text.size();) {
+        const std::size_t end = std::min(text.find(U'\n', start), text.size());
+        if (end - start > longestLineOfWords) return QTextOption::WrapAnywhere;
+        start = end + 1;
+    }
+    return QTextOption::WrapAtWordBoundaryOrAnywhere;
+}

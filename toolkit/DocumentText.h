@@ -4,6 +4,7 @@
 #include "toolkit/core/Text.h"
 
 #include <QString>
+#include <QTextOption>
 
 /// A text for insertion into a document. LF stands for itself and begins a new block. The other characters that Qt
 /// takes for the end of a block or a line become halves of pairs that can't stand in a valid text; Qt shows such a half
@@ -12,3 +13,7 @@ QString ToDocument(StringView text);
 
 /// The text that a document, or a selection of it, stands for.
 String FromDocument(QStringView units);
+
+/// How a text is to be wrapped: anywhere if it has a line of more than 20,000 characters. Qt's search for the end of a
+/// word takes time by the square of its length.
+QTextOption::WrapMode WrapModeFor(StringView text);

@@ -1,5 +1,6 @@
 #include "toolkit/MessageWindow.h"
 
+#include "toolkit/DocumentText.h"
 #include "toolkit/core/QtText.h"
 
 #include <QDialogButtonBox>
@@ -77,6 +78,7 @@ MessageWindow::MessageWindow(const MessageDialog& content, QWidget* parent)
 
 void MessageWindow::AddText(QTextEdit& text, const MessageDialog& content) const
 {
+    text.setWordWrapMode(WrapModeFor(content.Message + U'\n' + content.Explanation));
     QTextCursor writer(text.document());
     writer.beginEditBlock();
     QTextCharFormat strong;
@@ -120,8 +122,10 @@ void MessageWindow::FitToScreen(QTextEdit& text, int heightOfTheRest) const
 
     const QTextDocument& document = *text.document();
     QSize size(widest, mostHeight);
-    // Measuring a report of thousands of lines takes a second, and their number alone says that it scrolls.
-    bool fits = document.blockCount() * text.fontMetrics().height() <= mostHeight;
+    // Measuring a long report takes a second, and the number of its lines or characters alone says that it scrolls.
+    constexpr int mostCharacters = 20'000;
+    bool fits = document.characterCount() <= mostCharacters &&
+                document.blockCount() * text.fontMetrics().height() <= mostHeight;
     if (fits) {
         // The control lays its own document out anew, for its present width, whenever a scroll bar comes or goes.
         const std::unique_ptr<QTextDocument> measured(document.clone());

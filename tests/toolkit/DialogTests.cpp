@@ -84,7 +84,7 @@ TEST(MessageDialog, AnswersByButtonOrKey)
 TEST(MessageDialog, ShowsAnyTextInFull)
 {
     const QString manyLines = QStringLiteral("SCENERY_PACK Custom Scenery/Alpes/\n").repeated(10'000);
-    const QString longWord(400, 'x');
+    const QString longWord(400, 'x'), line(1'000'000, 'x');
     const struct {
         const char* name;
         QString message, explanation, shown;
@@ -95,6 +95,7 @@ TEST(MessageDialog, ShowsAnyTextInFull)
         {"a path without a blank", longWord, longWord, longWord + "\n" + longWord, false},
         {"a report of ten thousand lines", "Not found", manyLines, "Not found\n" + manyLines, true},
         {"a message of ten thousand lines", manyLines, "", manyLines, true},
+        {"a line of a million characters", line, "", line, true},
     };
     const int mostHeight = QGuiApplication::primaryScreen()->availableGeometry().height() * 6 / 10;
     const String caption = U"A rather long caption of the action button";
