@@ -146,7 +146,7 @@ void CtrlFenetrOuv(const std::vector<DesktopWindow*>& known)
 {
     String titles;
     for (DesktopWindow* const window : WindowsFromLastToFirst())
-        if (std::ranges::find(known, window) == known.end())
+        if (window->IsOpen() && std::ranges::find(known, window) == known.end())
             titles.insert(0, String(EndOfLine::Native) + U" • '" + window->Title() + U"'");
     if (titles.empty()) return;
     MessageBox(U"Error ! Please contact the authors, PrefsCharger, Windows launched before read AffHelpTag !" + titles);

@@ -2,31 +2,45 @@
 #include "support/FileHelpers.h"
 #include "support/Fncts.h"
 #include "support/Sounds.h"
+#include "toolkit/core/Exceptions.h"
 
 namespace {
 
-constexpr StringView olderFolder = U"Tarnivel", oldestFile = U"Tarnivel Prefs.txt";
+constexpr StringView folderName = U"fr.Kavesti.Tarnivel Datas", olderFolder = U"Tarnivel",
+                     oldestFile = U"Tarnivel Prefs.txt";
 
 bool IsThere(const std::optional<FolderItem>& item) { return item && item->Exists(); }
+
+/// Brings an item of an older version to its new place, or leaves it where it is if it can't be moved: to another file
+/// system, or to where a name is taken. The program can start without it.
+void MoveIfPossible(const FolderItem& item, const FolderItem& folder)
+{
+    try {
+        item.MoveTo(folder);
+    } catch (const IOException&) {
+        return;
+    }
+}
 
 /// Makes the data folder from what older versions kept among the preferences, or empty if they kept nothing.
 void MakeDataFolder(const FolderItem& dataFolder, const FolderItem& applicationData, const FolderItem& preferences)
 {
     if (const auto older = preferences.Child(olderFolder); IsThere(older)) {
-        older->MoveTo(applicationData);
-        if (const auto moved = applicationData.Child(olderFolder); IsThere(moved)) moved->MoveTo(dataFolder);
+        MoveIfPossible(*older, applicationData);
+        if (const auto moved = applicationData.Child(olderFolder); IsThere(moved)) moved->Rename(folderName);
         if (!dataFolder.Exists()) dataFolder.CreateFolder();
         return;
     }
     dataFolder.CreateFolder();
-    if (const auto file = preferences.Child(oldestFile); IsThere(file) && dataFolder.Exists()) file->MoveTo(dataFolder);
+    if (const auto file = preferences.Child(oldestFile); IsThere(file) && dataFolder.Exists())
+        MoveIfPossible(*file, dataFolder);
 }
 
 std::optional<FolderItem> FindDataFolder()
 {
     const auto applicationData = SpecialFolder::ApplicationData();
     if (!Fncts::PasNil_Existe_Alias(applicationData, true)) return std::nullopt;
-    auto dataFolder = applicationData->Child(U"fr.Kavesti.Tarnivel Datas");
+    auto dataFolder = applicationData->Child(folderName);
     if (!dataFolder || dataFolder->Exists()) return dataFolder;
 
     const auto preferences = SpecialFolder::Preferences();

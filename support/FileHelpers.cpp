@@ -3,8 +3,31 @@
 #include "support/Fncts.h"
 #include "toolkit/Desktop.h"
 #include "toolkit/DesktopApplication.h"
+#include "toolkit/core/Exceptions.h"
 
 namespace {
+
+/// Removes an item; one that has vanished meanwhile is as good as removed.
+void RemoveOne(const FolderItem& item)
+{
+    try {
+        item.Remove();
+    } catch (const IOException&) {
+        if (item.Exists()) throw;
+    }
+}
+
+/// Whether a file is left over, which doesn't keep its neighbours from being removed.
+bool RemoveFile(const FolderItem& file, bool watchStop)
+{
+    try {
+        RemoveOne(file);
+        return file.Exists();
+    } catch (const std::exception&) {
+        if (watchStop) Fncts::ArretUrg = true;
+        return true;
+    }
+}
 
 /// Removes what is in a folder; whether anything is left of it.
 bool EmptyFolder(const FolderItem& folder, bool watchStop)
@@ -17,8 +40,7 @@ bool EmptyFolder(const FolderItem& folder, bool watchStop)
     bool failed = false;
     for (const FolderItem& file : files) {
         DesktopApplication::YieldToPlatform();
-        file.Remove();
-        failed = failed || file.Exists();
+        failed = RemoveFile(file, watchStop) || failed;
     }
     files.clear();
     for (const FolderItem& subfolder : folders) {
@@ -34,9 +56,11 @@ namespace Fncts {
 
 std::optional<FolderItem> GetItemMoT_f(const std::optional<FolderItem>& item, bool followAlias)
 {
-    if (!item || !followAlias || !item->IsAlias()) return item;
+    if (!item) return item;
     const auto parent = item->Parent();
-    const auto target = parent ? parent->Child(item->Name(), true) : std::nullopt;
+    if (!parent) return item->Exists() ? item : std::nullopt;
+    if (!followAlias || !item->IsAlias()) return item;
+    const auto target = parent->Child(item->Name(), true);
     const bool leadsSomewhere = target && target->Exists() && target->URLPath() != item->URLPath();
     return leadsSomewhere ? target : std::nullopt;
 }
@@ -52,7 +76,7 @@ bool RemoveFileOrFolder(const FolderItem& item, bool watchStop)
     if (watchStop && ArretUrg) return true;
     try {
         const bool failed = item.IsFolder() && EmptyFolder(item, watchStop);
-        item.Remove();
+        RemoveOne(item);
         return failed || item.Exists();
     } catch (const std::exception&) {
         if (watchStop) ArretUrg = true;

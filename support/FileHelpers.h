@@ -6,16 +6,16 @@
 namespace Fncts {
 
 /// The item at the same place, with an alias resolved if `followAlias` is set; nothing for an alias that leads nowhere
-/// or to itself.
+/// or to itself, and for a volume that doesn't exist.
 std::optional<FolderItem> GetItemMoT_f(const std::optional<FolderItem>& item, bool followAlias);
 
 /// Whether there is an item and it exists; with `checkAlias`, an alias must also lead to something that exists.
 bool PasNil_Existe_Alias(const std::optional<FolderItem>& item, bool checkAlias);
 
 /// Removes a file, or a folder with all that is in it; aliases inside go, what they lead to stays. The result is true
-/// when anything is left over.
+/// when anything is left over; what can't be removed doesn't keep the files beside it.
 ///
-/// With `watchStop` a failure also sets `ArretUrg`, and nothing is removed while that is set.
+/// With `watchStop` a failure also sets `ArretUrg`, and no further folder is begun while that is set.
 bool RemoveFileOrFolder(const FolderItem& item, bool watchStop);
 
 /// A package is a folder that the platform shows as one file.

@@ -28,20 +28,18 @@ std::vector<String> NamesOfPath(StringView path)
     return names;
 }
 
-/// The visible and readable drives of that name, those that have it letter for letter before those in other letters.
+/// The visible and readable drives of that name.
 std::vector<FolderItem> DrivesNamed(const String& name)
 {
     std::vector<FolderItem> drives;
-    for (Int64 index = 0; index <= FolderItem::LastDriveIndex(); ++index) {
-        const FolderItem drive = FolderItem::DriveAt(index);
+    for (Int64 index = 0; const FolderItem& drive : FolderItem::Drives()) {
+        DesktopApplication::YieldToPlatform();
         const String driveName = CanonicalForm(drive.Name());
         // macOS keeps its swap files on a drive of its own, which is no place for files.
-        const bool holdsSwapFiles = index == 1 && SameText(driveName, U"vm");
+        const bool holdsSwapFiles = index++ == 1 && SameText(driveName, U"vm");
         if (SameText(driveName, name) && drive.Visible() && drive.IsReadable() && !holdsSwapFiles)
             drives.push_back(drive);
     }
-    std::stable_partition(drives.begin(), drives.end(),
-                          [&](const FolderItem& drive) { return CanonicalForm(drive.Name()) == name; });
     return drives;
 }
 
@@ -62,6 +60,7 @@ std::optional<FolderItem> ChooseDrive(const String& volume, std::span<const Stri
 {
     std::optional<FolderItem> chosen;
     for (const FolderItem& drive : DrivesNamed(volume)) {
+        DesktopApplication::YieldToPlatform();
         const FolderItem folder = Walk(drive, folders);
         if (!folder.Exists()) continue;
         if (leaf == nullptr) return drive;
@@ -98,6 +97,7 @@ std::optional<FolderItem> GetFitemAbsPath(StringView path, bool followAlias)
 
     std::optional<FolderItem> item = ChooseDrive(names.front(), folders, leaf);
     for (const String& name : folders) {
+        DesktopApplication::YieldToPlatform();
         if (!item) return std::nullopt;
         item = item->Child(name, false);
     }

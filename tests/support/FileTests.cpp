@@ -18,18 +18,23 @@ TEST(Alias, IsResolvedOnlyWhereItLeadsSomewhere)
         return FolderItem(disk.Path() / name);
     };
     const std::pair<std::optional<FolderItem>, fs::path> rows[] = {
-        {std::nullopt, ""},         {FolderItem(file), file},
-        {FolderItem("/"), "/"},     {link("second", link("alias", "file").Path()), file},
-        {link("dead", "gone"), ""}, {link("circle", "circle"), ""},
+        {std::nullopt, ""},
+        {FolderItem(file), file},
+        {FolderItem("/"), "/"},
+        {link("second", link("alias", "file").Path()), file},
+        {link("dead", "gone"), ""},
+        {link("circle", "circle"), ""},
+        {FolderItem(disk.Path() / "new"), disk.Path() / "new"},
     };
     for (const auto& [item, target] : rows) {
         const fs::path place = item ? item->Path() : fs::path();
         EXPECT_EQ(Fncts::GetItemMoT_f(item, true).value_or(FolderItem("")).Path(), target) << place;
         EXPECT_EQ(Fncts::GetItemMoT_f(item, false).value_or(FolderItem("")).Path(), place);
-        EXPECT_EQ(Fncts::PasNil_Existe_Alias(item, true), !target.empty()) << place;
-        EXPECT_EQ(Fncts::PasNil_Existe_Alias(item, false), item.has_value()) << place;
+        const bool exists = item && item->Exists();
+        EXPECT_EQ(Fncts::PasNil_Existe_Alias(item, true), exists && !target.empty()) << place;
+        EXPECT_EQ(Fncts::PasNil_Existe_Alias(item, false), exists) << place;
     }
-    EXPECT_FALSE(Fncts::PasNil_Existe_Alias(FolderItem(disk.Path() / "missing"), false));
+    EXPECT_FALSE(Fncts::GetItemMoT_f(FolderItem(""), false)) << "a volume that doesn't exist";
 }
 
 TEST(Removal, LeavesWhatAliasesLeadToAndAFailureStopsTheWatchedOnes)
@@ -43,9 +48,12 @@ TEST(Removal, LeavesWhatAliasesLeadToAndAFailureStopsTheWatchedOnes)
     EXPECT_FALSE(fs::exists(disk.Path() / "tree"));
 
     const FolderItem file(disk.Path() / "outside/kept"), missing(disk.Path() / "tree");
-    EXPECT_TRUE(Fncts::RemoveFileOrFolder(missing, false));
+    EXPECT_FALSE(Fncts::RemoveFileOrFolder(missing, true)) << "what has gone is removed";
     EXPECT_FALSE(Fncts::ArretUrg);
-    EXPECT_TRUE(Fncts::RemoveFileOrFolder(missing, true));
+    const FolderItem fixed("/proc/self/status"); // Not even the superuser removes it.
+    EXPECT_TRUE(Fncts::RemoveFileOrFolder(fixed, false));
+    EXPECT_FALSE(Fncts::ArretUrg);
+    EXPECT_TRUE(Fncts::RemoveFileOrFolder(fixed, true));
     EXPECT_TRUE(Fncts::RemoveFileOrFolder(file, true));
     EXPECT_EQ(disk.Content("outside/kept"), "x");
     EXPECT_FALSE(Fncts::RemoveFileOrFolder(file, false));
@@ -90,6 +98,7 @@ TEST_F(DataFolder, IsMadeAndFilledWithWhatOlderVersionsKept)
         {"config/Tarnivel Prefs.txt", "Tarnivel Prefs.txt"},
         {"data/fr.Kavesti.Tarnivel Datas/mine", "mine"},
         {"config/Other Prefs.txt", "../../config/Other Prefs.txt"},
+        {"data/Tarnivel/Tarnivel Prefs.txt", "../../data/Tarnivel/Tarnivel Prefs.txt"},
     };
     for (const auto& [before, after] : rows) {
         home_.File(before, before);
@@ -103,22 +112,29 @@ TEST_F(DataFolder, IsMadeAndFilledWithWhatOlderVersionsKept)
     EXPECT_TRUE(Fncts::DefDossAppDataPref()) << "no folder of preferences";
 }
 
-TEST_F(DataFolder, AFailureIsToldAndLosesNothing)
+TEST_F(DataFolder, OlderDataThatCannotBeMovedStayAndTheProgramStarts)
 {
     home_.File("config/Tarnivel/Tarnivel Prefs.txt", "old");
     home_.File("data/Tarnivel/other", "x");
-    EXPECT_FALSE(Fncts::DefDossAppDataPref());
-    EXPECT_EQ(probe_.Asked, std::vector<String>{U"Error ! Please contact the authors.\nDefDossAppDataPref, problem "
-                                                U"while creating Preferences folder!"});
-    EXPECT_EQ(probe_.Beeps, 3);
+    EXPECT_TRUE(Fncts::DefDossAppDataPref()) << "the name is taken";
+    EXPECT_EQ(home_.Content(folder_ / "other"), "x");
     EXPECT_EQ(home_.Content("config/Tarnivel/Tarnivel Prefs.txt"), "old");
 
+    fs::remove_all(folder_);
+    home_.File("data/Tarnivel/Tarnivel Prefs.txt", "same");
+    ::setenv("XDG_CONFIG_HOME", (home_.Path() / "data").c_str(), 1);
+    EXPECT_TRUE(Fncts::DefDossAppDataPref()) << "both folders are one";
+    EXPECT_EQ(home_.Content(folder_ / "Tarnivel Prefs.txt"), "same");
+    EXPECT_TRUE(probe_.Asked.empty());
+}
+
+TEST_F(DataFolder, WithNoPlaceForItThereIsNone)
+{
     ::setenv("XDG_DATA_HOME", home_.File("file").c_str(), 1);
     EXPECT_FALSE(Fncts::DefDossAppDataPref()) << "a file is in the place of the folder";
     ::unsetenv("HOME");
     EXPECT_FALSE(Fncts::DefDossAppDataPref());
     EXPECT_FALSE(Fncts::DossierPref);
-    EXPECT_EQ(probe_.Asked.size(), 1U);
 }
 
 } // namespace

@@ -42,17 +42,17 @@ TEST(Drives, AreTheRootAndTheVolumes)
     (void)folder.Folder("Volumes/vm");
     (void)folder.Folder("Volumes/Data");
     FolderItem::SetVolumesFolder(folder.Path() / "Volumes");
-    EXPECT_EQ(FolderItem::LastDriveIndex(), 2);
-    EXPECT_EQ(FolderItem::DriveAt(0).Name(), U"Linux");
-    EXPECT_EQ(FolderItem::DriveAt(1).Path(), folder.Path() / "Volumes/Data");
-    EXPECT_EQ(FolderItem::DriveAt(1).Parent()->Name(), U"Volumes");
-    EXPECT_EQ(FolderItem::DriveAt(2).Name(), U"vm");
-    EXPECT_FALSE(FolderItem::DriveAt(3).Exists()) << "a volume may go at any time";
-    EXPECT_FALSE(FolderItem::DriveAt(0).Parent());
+    const std::vector<FolderItem> drives = FolderItem::Drives();
+    ASSERT_EQ(drives.size(), 3U);
+    EXPECT_EQ(drives[0].Name(), U"Linux");
+    EXPECT_EQ(drives[1].Path(), folder.Path() / "Volumes/Data");
+    EXPECT_EQ(drives[1].Parent()->Name(), U"Volumes");
+    EXPECT_EQ(drives[2].Name(), U"vm");
+    EXPECT_FALSE(drives[0].Parent());
 
     FolderItem::SetVolumesFolder(folder.Path() / "missing");
     EXPECT_FALSE(FolderItem::VolumesFolder());
-    EXPECT_EQ(FolderItem::LastDriveIndex(), 0);
+    EXPECT_EQ(FolderItem::Drives().size(), 1U);
     FolderItem::SetVolumesFolder(std::nullopt);
 }
 

@@ -10,18 +10,17 @@
 /// A value: copying it copies the place, never the file.
 ///
 /// An item stands for the name itself: for an alias (a symbolic link) `Exists`, `IsFolder` and `Name` speak of the
-/// link, not of what it leads to. Folders above the item are followed by the operating system as usual. Nothing here
-/// throws, and a question that the file system doesn't answer (no permission, a name that is too long) is answered with
-/// no.
+/// link, not of what it leads to. Folders above the item are followed by the operating system as usual. A
+/// question that the file system doesn't answer (no permission, a name that is too long) is answered with no; acts on a
+/// file raise IOException where they say so.
 class FolderItem {
 public:
     /// A slash at the end is dropped.
     explicit FolderItem(std::filesystem::path absolutePath);
 
     /// Drive 0 is the root of the file system, drives 1 and up are the children of the folder of volumes in the order
-    /// of `Children`. Above `LastDriveIndex` it is an item that doesn't exist.
-    static FolderItem DriveAt(Int64 index);
-    static Int64 LastDriveIndex();
+    /// of `Children`, read anew at each call.
+    static std::vector<FolderItem> Drives();
 
     /// The folder in which the platform shows further volumes ("/Volumes"), or nothing where it doesn't exist.
     static std::optional<FolderItem> VolumesFolder();

@@ -42,19 +42,12 @@ std::optional<FolderItem> Place(QStandardPaths::StandardLocation location)
 
 } // namespace
 
-FolderItem FolderItem::DriveAt(Int64 index)
-{
-    if (index == 0) return FolderItem("/");
-    const std::optional<FolderItem> volumes = VolumesFolder();
-    const std::vector<FolderItem> drives = volumes ? volumes->Children() : std::vector<FolderItem>();
-    if (index < 0 || std::cmp_greater(index, drives.size())) return FolderItem(fs::path());
-    return drives[static_cast<std::size_t>(index - 1)];
-}
-
-Int64 FolderItem::LastDriveIndex()
+std::vector<FolderItem> FolderItem::Drives()
 {
     const std::optional<FolderItem> volumes = VolumesFolder();
-    return volumes ? static_cast<Int64>(volumes->Children().size()) : 0;
+    std::vector<FolderItem> drives = volumes ? volumes->Children() : std::vector<FolderItem>();
+    drives.insert(drives.begin(), FolderItem("/"));
+    return drives;
 }
 
 std::optional<FolderItem> FolderItem::VolumesFolder()
