@@ -81,8 +81,6 @@ DesktopDisplay DesktopDisplay::DisplayAt(int index)
 
 void Clipboard::SetText(StringView text) { QGuiApplication::clipboard()->setText(ToQt(text)); }
 
-String Clipboard::Text() { return FromQt(QGuiApplication::clipboard()->text()); }
-
 void OpenItem(const FolderItem& item)
 {
     if (Probe* const probe = Probe::Current())

@@ -29,7 +29,6 @@ struct DesktopDisplay {
 
 namespace Clipboard {
 void SetText(StringView text);
-String Text();
 } // namespace Clipboard
 
 /// Opens the item with the desktop's program for it: a folder in the file manager.

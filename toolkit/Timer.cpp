@@ -21,9 +21,3 @@ void Timer::SetRunMode(RunModes mode)
     else
         timer_->start();
 }
-
-Timer::RunModes Timer::RunMode() const
-{
-    if (!timer_->isActive()) return RunModes::Off;
-    return timer_->isSingleShot() ? RunModes::Single : RunModes::Multiple;
-}

@@ -17,7 +17,6 @@ public:
 
     /// Off stops it; Single and Multiple start the period anew. A single shot is Off again before `Action` runs.
     void SetRunMode(RunModes mode);
-    [[nodiscard]] RunModes RunMode() const;
 
     std::function<void()> Action;
 

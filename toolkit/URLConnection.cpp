@@ -3,7 +3,6 @@
 #include "toolkit/core/QtText.h"
 
 #include <QNetworkAccessManager>
-#include <QNetworkCookieJar>
 #include <QNetworkReply>
 #include <QPointer>
 #include <QSslConfiguration>
@@ -158,10 +157,3 @@ void URLConnection::Send(StringView method, StringView url, int timeout)
 }
 
 void URLConnection::Disconnect() { private_->Clear(); }
-
-void URLConnection::ClearRequestHeaders()
-{
-    if (!private_->manager) return;
-    private_->manager->setCookieJar(new QNetworkCookieJar);
-    private_->manager->clearAccessCache();
-}

@@ -21,8 +21,6 @@ public:
     void Send(StringView method, StringView url, int timeout);
     /// Ends a request under way without an event.
     void Disconnect();
-    /// The next request goes out as the first one did: without cookies or log-ins from earlier answers.
-    void ClearRequestHeaders();
 
     /// The answer of the server, an error page included; the bytes as they came. One that was sent without its length
     /// ends where the connection does.

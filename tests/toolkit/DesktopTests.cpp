@@ -107,20 +107,26 @@ TEST(Timer, FiresOnceOrAgainUntilItIsOff)
 {
     using enum Timer::RunModes;
     Timer timer(1), later(20);
-    std::vector<Timer::RunModes> seen;
+    int shots = 0;
+    bool isLater = false;
     timer.Action = [&] {
-        seen.push_back(timer.RunMode());
-        if (seen.size() == 3) timer.SetRunMode(Off);
-        if (seen.size() == 1) timer.SetRunMode(Multiple);
+        if (++shots == 3) timer.SetRunMode(Off);
+    };
+    later.Action = [&] { isLater = true; };
+    const auto shotsLater = [&] {
+        isLater = false;
+        later.SetRunMode(Single);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return isLater; }));
+        return shots;
     };
     timer.SetRunMode(Single);
-    EXPECT_TRUE(seen.empty());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return seen.size() == 3; }));
+    EXPECT_EQ(shots, 0);
+    EXPECT_EQ(shotsLater(), 1);
+    timer.SetRunMode(Multiple);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shots == 3; }));
     timer.SetRunMode(Single);
     timer.SetRunMode(Off);
-    later.SetRunMode(Single);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return later.RunMode() == Off; }));
-    EXPECT_EQ(seen, (std::vector{Off, Multiple, Multiple}));
+    EXPECT_EQ(shotsLater(), 3);
 }
 
 /// A WAV file of some samples; `format` 1 is plain samples.
