@@ -25,6 +25,8 @@ std::vector<String> ReadLines(const FolderItem& file)
         Fncts::BeepNbT(3);
         MessageBox(U"Error ! Please contact the authors.\nPrefsCharger, problem while reading file!");
     }
+    // An editor may have left the mark of UTF-8 at the start.
+    if (!lines.empty() && lines.front().starts_with(U'\uFEFF')) lines.front().erase(0, 1);
     return lines;
 }
 

@@ -56,7 +56,7 @@ TEST_F(MainWindow, ARefusedTextStandsWhereItsViewIs)
 
 TEST_F(MainWindow, AModelAddressThatIsNoneIsTold)
 {
-    Open("Source Model :@: 1\nSourceUrl :@: ftp://server/model\n");
+    Open("\xEF\xBB\xBFSource Model :@: 1\nSourceUrl :@: ftp://server/model\n");
     Run();
     EXPECT_EQ(probe.Asked, std::vector<String>{U"L'url devrait commencer avec 'http://' o 'https://'.[Ok]"});
     EXPECT_EQ(View(0), U"### Error ###  empty");
