@@ -23,6 +23,28 @@ function(house_library name)
   endif()
 endfunction()
 
+# house_bundle(name): makes the program a macOS bundle, with the resources and the module for sounds inside. The file
+# types are those of app/FileTypes.h.
+function(house_bundle name)
+  file(STRINGS ${PROJECT_SOURCE_DIR}/app/FileTypes.h line REGEX "\\.Extensions = ")
+  string(REGEX MATCHALL "\\.[a-z0-9]+" extensions "${line}")
+  set(HOUSE_DOCUMENT_EXTENSIONS "")
+  foreach(extension IN LISTS extensions)
+    string(SUBSTRING ${extension} 1 -1 extension)
+    string(APPEND HOUSE_DOCUMENT_EXTENSIONS "        <string>${extension}</string>\n")
+  endforeach()
+  string(STRIP "${HOUSE_DOCUMENT_EXTENSIONS}" HOUSE_DOCUMENT_EXTENSIONS)
+  # The name of the executable is filled in by CMake itself, later.
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/Info.plist.in ${PROJECT_BINARY_DIR}/Info.plist @ONLY)
+  set_target_properties(${name} PROPERTIES
+    MACOSX_BUNDLE ON
+    MACOSX_BUNDLE_INFO_PLIST ${PROJECT_BINARY_DIR}/Info.plist)
+  add_custom_command(TARGET ${name} POST_BUILD
+    COMMAND ${CMAKE_COMMAND} -E copy_directory ${PROJECT_BINARY_DIR}/resources $<TARGET_BUNDLE_CONTENT_DIR:${name}>/Resources
+    COMMAND ${CMAKE_COMMAND} -E copy $<TARGET_FILE:tarnivel_sound> $<TARGET_FILE_DIR:${name}>
+    VERBATIM)
+endfunction()
+
 # house_program(name SOURCES ... LINKS rooms...): the program itself, at the top of the build folder.
 function(house_program name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
@@ -32,6 +54,9 @@ function(house_program name)
     add_dependencies(${name} resources)
   endif()
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR})
+  if(APPLE)
+    house_bundle(${name})
+  endif()
 endfunction()
 
 # house_test(name SOURCES ... LINKS rooms... [QT modules...]): a GoogleTest program, each of its tests known to ctest.
