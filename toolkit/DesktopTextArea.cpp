@@ -81,11 +81,16 @@ void DesktopTextArea::Editor::SetText(StringView text, std::span<const ColorSpan
 void DesktopTextArea::Editor::ReplaceText(StringView text, std::span<const ColorSpan> colors)
 {
     WrapFor(text);
-    QTextCursor cursor(document());
+    const int scrolled = verticalScrollBar()->value();
+    // Begun where the caret stands, the step that is undone brings the caret back there.
+    QTextCursor cursor = textCursor();
+    cursor.beginEditBlock();
     cursor.select(QTextCursor::Document);
     InsertRuns(cursor, text, colors);
+    cursor.endEditBlock();
     moveCursor(QTextCursor::Start);
     setCurrentCharFormat(QTextCharFormat());
+    verticalScrollBar()->setValue(scrolled);
 }
 
 /// Puts the text in the place of what the cursor has selected.

@@ -21,7 +21,8 @@ public:
     /// Shows a text with colours: of spans that overlap the later one wins, what none covers is black. The caret goes
     /// to offset 0, with nothing selected, and what is typed next is black.
     void SetStyledText(StringView text, std::span<const ColorSpan> colors);
-    /// The same as a step that the user can undo, which brings back the former text with its colours.
+    /// The same as a step that the user can undo, which brings back the former text with its colours and the caret.
+    /// What is scrolled stays so.
     void ReplaceStyledText(StringView text, std::span<const ColorSpan> colors);
 
     [[nodiscard]] Int64 SelectionStart() const;

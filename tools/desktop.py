@@ -205,12 +205,6 @@ class Program:
         box = Atspi.Component.get_extents(node, Atspi.CoordType.SCREEN)
         return box.x, box.y, box.width, box.height
 
-    def is_inside(self, node, offset):
-        """Whether a character of a text stands within the bounds of its control."""
-        _, top, _, height = self.extents(node)
-        box = Atspi.Text.get_character_extents(node, offset, Atspi.CoordType.SCREEN)
-        return top <= box.y and box.y + box.height <= top + height
-
     def keys(self, *names):
         """Presses keys on the active window, such as "ctrl+s"."""
         self.wait_for("an active window", lambda: any(has(w, "active") for d in (True, False) for w in self.windows(d)))

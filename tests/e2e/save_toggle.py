@@ -69,6 +69,7 @@ def toggle(program, area, keys, first, count, change):
     program.keys("ctrl+z")
     program.wait_for("the text before the toggle", lambda: program.text(area) == before[0])
     assert colored(program, area) == before
+    assert start <= program.selection(area)[0] <= start + len("\n".join(lines[first:end])), "the caret went elsewhere"
 
 
 def check_save(program, files, text, ask):

@@ -236,6 +236,7 @@ TEST_F(TextAreaTest, AReplacedTextComesBackWithItsColours)
     };
     const ColorSpan before[] = {{2, 3, red}}, after[] = {{0, 1, green}};
     area.SetStyledText(U"I\nabc\n", before);
+    area.Select(2, 1);
     area.ReplaceStyledText(U"xyz", after);
     EXPECT_EQ(area.Text(), U"xyz");
     EXPECT_EQ(colorAt(1), QColor(green.rgb));
@@ -243,6 +244,23 @@ TEST_F(TextAreaTest, AReplacedTextComesBackWithItsColours)
     EXPECT_EQ(area.Text(), U"I\nabc\n");
     EXPECT_EQ(colorAt(3), QColor(red.rgb));
     EXPECT_NE(colorAt(1), QColor(green.rgb));
+    EXPECT_EQ(area.SelectionStart(), 3);
+}
+
+TEST_F(TextAreaTest, AReplacedTextStaysScrolled)
+{
+    String text;
+    for (int line = 0; line < 500; ++line)
+        text += U"abc\n";
+    area.SetText(text);
+    area.Select(800, 0);
+    area.SetVerticalScrollPosition(195);
+    const int scrolled = editor->verticalScrollBar()->value();
+    area.ReplaceStyledText(U"I\n" + text, {});
+    EXPECT_EQ(editor->verticalScrollBar()->value(), scrolled);
+    area.Select(802, 3);
+    Press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(editor->verticalScrollBar()->value(), scrolled);
 }
 
 TEST_F(TextAreaTest, ScrollsToALineOnScreen)
