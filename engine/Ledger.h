@@ -25,7 +25,7 @@ private:
 
 /// Counts the lines of the source and of the result, so that one look-up tells all about a line and its twin.
 ///
-/// The result begins with the header. The source's lines must outlive the ledger.
+/// The result begins with the header.
 class Ledger {
 public:
     explicit Ledger(std::span<const SceneryLine> source);

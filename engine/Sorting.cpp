@@ -11,7 +11,10 @@ struct Item {
     std::uint64_t key;
     std::size_t index;
 
-    friend auto operator<=>(const Item&, const Item&) = default;
+    friend bool operator<(const Item& left, const Item& right)
+    {
+        return left.key != right.key ? left.key < right.key : left.index < right.index;
+    }
 };
 
 constexpr std::size_t bytesInKey = 7;

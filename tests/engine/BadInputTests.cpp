@@ -11,8 +11,8 @@ TEST(CreerSpack, TakesBadTexts)
         const char* name;
         String model, source;
     };
-    const String longPath = U"\nSCENERY_PACK " + String(1'000'000, U's');
-    const String oneLine = U"SCENERY_PACK " + String(10'000'000, U'x');
+    const String longPath = String(U"\nSCENERY_PACK ").append(1'000'000, U's');
+    const String oneLine = String(U"SCENERY_PACK ").append(10'000'000, U'x');
     const Row rows[] = {
         {"no text at all", U"", U""},
         {"less than a header", U"I\n1000 version", U"I"},

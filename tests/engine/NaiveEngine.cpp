@@ -114,7 +114,8 @@ Lines PlaceModel(const Lines& model, const Lines& source, Outcome& outcome)
             if (twinFound >= 0 && Search(source, twin, twinFound + 1) >= 0)
                 outcome.reports.emplace_back(Localisation::Txt_ProbLignPresDxFois(), twin);
             if (found >= 0 && twinFound >= 0)
-                outcome.reports.emplace_back(Localisation::Txt_ProbLignEquiv(), line + U"\n" + twin);
+                outcome.reports.emplace_back(Localisation::Txt_ProbLignEquiv(),
+                                             String(line).append(U"\n").append(twin));
             if (found < 0) {
                 line = twin;
                 found = twinFound;

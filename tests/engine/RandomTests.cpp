@@ -21,6 +21,15 @@ public:
         return text.append(Roll(3), U'\n');
     }
 
+    /// A text of many sceneries, about half of which are in any other such text.
+    String LongText(std::size_t lines)
+    {
+        String text = U"I\n1000 version\nSCENERY";
+        for (Int64 number = 0; lines > 0; --lines, number += 1 + static_cast<Int64>(Roll(2)))
+            text += U"\nSCENERY_PACK Custom Scenery/Région " + ToText(number) + U"/";
+        return Variant(text);
+    }
+
     /// The lines of a text in another order, some in another state or case.
     String Variant(StringView text)
     {
@@ -82,9 +91,12 @@ TEST(CreerSpack, DoesWhatTheNaiveEngineDoes)
     Dice dice;
     std::map<String, int> messages;
     for (int run = 0; run < 6000; ++run) {
+        const bool isLong = run % 500 == 0;
         const std::size_t mostLines = 1 + dice.Roll(12);
-        const String model = dice.Text(mostLines);
-        const String source = dice.Roll(2) == 0 ? dice.Variant(model) : dice.Text(mostLines);
+        const String model = isLong ? dice.LongText(300) : dice.Text(mostLines);
+        const String source = isLong              ? dice.LongText(300)
+                              : dice.Roll(2) == 0 ? dice.Variant(model)
+                                                  : dice.Text(mostLines);
         const Outcome expected = RunNaively(model, source, folders);
         ASSERT_EQ(RunEngine(model, source, dossier), expected)
             << "run " << run << "\nmodel " << testing::PrintToString(model) << "\nsource "
