@@ -41,6 +41,10 @@ processes+=($!)
 await bus
 export DBUS_SESSION_BUS_ADDRESS=$answer
 
+# The first made-up key makes the server tell all that there is another keyboard; a window manager that takes its keys
+# anew just then misses those that are pressed.
+xdotool key Shift_L
+
 openbox --startup "sh -c 'echo up >\"$state/manager\"'" >"$state/manager.log" 2>&1 &
 processes+=($!)
 await manager
