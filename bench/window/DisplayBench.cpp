@@ -27,27 +27,30 @@ Scenery MakeScenery(Int64 lines)
 
 class Area : public benchmark::Fixture {
 public:
-    DesktopWindow window{{.title = U"Bench", .width = 760, .height = 500}};
-    DesktopTextArea area{window, {20, 20, 720, 460}};
+    std::optional<DesktopWindow> window;
+    std::optional<DesktopTextArea> area;
     Scenery scenery;
 
     void SetUp(benchmark::State& state) override
     {
         scenery = MakeScenery(state.range(0));
-        window.Show();
+        window.emplace(WindowStyle{.title = U"Bench", .width = 760, .height = 500});
+        area.emplace(*window, Placement{20, 20, 720, 460});
+        window->Show();
         DesktopApplication::YieldToPlatform();
     }
     void TearDown(benchmark::State& state) override
     {
         state.SetComplexityN(state.range(0));
-        window.Close();
+        area.reset();
+        window.reset();
     }
 };
 
 BENCHMARK_DEFINE_F(Area, Plain)(benchmark::State& state)
 {
     for (auto _ : state) {
-        area.SetText(scenery.text);
+        area->SetText(scenery.text);
         DesktopApplication::YieldToPlatform();
     }
 }
@@ -55,7 +58,7 @@ BENCHMARK_DEFINE_F(Area, Plain)(benchmark::State& state)
 BENCHMARK_DEFINE_F(Area, Coloured)(benchmark::State& state)
 {
     for (auto _ : state) {
-        area.SetStyledText(scenery.text, ColourText(scenery.text, scenery.marks).spans);
+        area->SetStyledText(scenery.text, ColourText(scenery.text, scenery.marks).spans);
         DesktopApplication::YieldToPlatform();
     }
 }
