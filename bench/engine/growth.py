@@ -13,7 +13,7 @@ SHAPES = ("Shuffled", "Inverted", "FirstHalfUnknown", "NothingKnown", "EveryLine
 
 def measure(program, name, sizes):
     """Nanoseconds for a line at each size, and the peak of memory in bytes."""
-    command = [program, f"--benchmark_filter=^{name}/", "--benchmark_format=json", "--benchmark_repetitions=3",
+    command = [program, f"--benchmark_filter=^{name}/", "--benchmark_format=json", "--benchmark_repetitions=5",
                "--benchmark_min_time=0.1"]
     runs = json.loads(subprocess.run(command, check=True, capture_output=True).stdout)["benchmarks"]
     costs = [min(run["perLine"] for run in runs if run["run_type"] == "iteration"
