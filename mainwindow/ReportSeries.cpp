@@ -6,9 +6,11 @@ void ReportSeries::Add(const String& message, const String& explanation)
         ++shown_;
         return show_(message, explanation);
     }
+    if (std::ssize(gathered_) > MostGathered) return;
     for (const StringView piece : {StringView(message), StringView(explanation)})
         if (!piece.empty()) gathered_.append(piece).append(EndOfLine::Native);
     gathered_.append(EndOfLine::Native);
+    if (std::ssize(gathered_) > MostGathered) gathered_.append(U"…");
 }
 
 void ReportSeries::Finish()

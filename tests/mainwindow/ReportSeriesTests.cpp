@@ -18,6 +18,17 @@ TEST(ReportSeries, ManyReportsEndInOneThatHoldsTheRest)
     EXPECT_EQ(shown.back(), U"20\nline\n\n21\nline\n\n|");
 }
 
+TEST(ReportSeries, WhatNobodyCouldReadIsCut)
+{
+    String last;
+    ReportSeries series([&last](const String& message, const String&) { last = message; });
+    for (int i = 0; i < 50'000; ++i)
+        series.Add(U"a report of thirty characters…");
+    series.Finish();
+    EXPECT_TRUE(last.ends_with(U"…\n\n…"));
+    EXPECT_LT(std::ssize(last), ReportSeries::MostGathered + 50);
+}
+
 TEST(ReportSeries, FewReportsHaveNoEnd)
 {
     int shown = 0;

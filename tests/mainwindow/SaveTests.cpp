@@ -1,6 +1,7 @@
 #include "mainwindow/ArchiveName.h"
 #include "tests/mainwindow/MainWindowTest.h"
 
+#include <algorithm>
 #include <sys/mount.h>
 
 namespace {
@@ -38,9 +39,8 @@ protected:
         probe.Sounds.clear();
         probe.Beeps = 0;
         window->BtnSave_Pressed();
-        std::vector<String> wanted;
-        for (const String& question : asked)
-            wanted.push_back(question == sure ? Question() : question);
+        std::vector<String> wanted = asked;
+        std::ranges::replace(wanted, sure, Question());
         EXPECT_EQ(probe.Asked, wanted);
         EXPECT_EQ(probe.Beeps, std::ssize(wanted)) << "each question beeps once";
         EXPECT_EQ(folder.Content(target), content);

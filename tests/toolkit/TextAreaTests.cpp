@@ -269,7 +269,7 @@ TEST_F(TextAreaTest, ScrollsToALineOnScreen)
     for (int line = 0; line < 500; ++line)
         text += line % 2 == 0 ? U"short\n" : String(120, U'w') + U"\n";
     area.SetText(text);
-    const Int64 last = IndexOf(text, U"short", 498 / 2 * (6 + 121));
+    const Int64 last = IndexOf(text, U"short", Int64{498} / 2 * (6 + 121));
     area.SetVerticalScrollPosition(area.LineNumber(last) - 2);
     area.Select(last, 5);
     EXPECT_TRUE(editor->viewport()->rect().contains(editor->cursorRect())) << "the match is to be seen";
