@@ -5,8 +5,8 @@
 
 namespace Fncts {
 
-/// Piece number `part`, counted from 1, of a text that is cut at its placeholders "¿%": part 2 of "“¿%” ?" is "” ?".
-/// A part that the text doesn't have gives "" and a message for the authors.
+/// Piece number `part`, counted from 1, of a text that is cut at its placeholders "¿%": the second of "“¿%” ?" is "”
+/// ?". A part that the text doesn't have gives "" and a message for the authors.
 String FracTexte(StringView text, Int16 part);
 
 /// What is left of bytes that are no valid text when all that can't stand byte for byte is dropped: in UTF-8 the plain
