@@ -22,8 +22,6 @@ public:
 
     /// How many reports are shown one by one.
     static constexpr int Single = 20;
-    /// Characters after which no more is gathered; "…" then ends the last report.
-    static constexpr Int64 MostGathered = 100'000;
 
 private:
     Show show_;

@@ -5,8 +5,11 @@
 
 class DesktopWindow;
 
-/// A question or a notice with up to three buttons. Texts are literal, of any length: what doesn't fit scrolls.
+/// A question or a notice with up to three buttons. Texts are literal; what doesn't fit scrolls.
 struct MessageDialog {
+    /// Characters of a message or an explanation that are shown; of a longer one the whole lines before that, and "…".
+    static constexpr Int64 MostShown = 1'000'000;
+
     /// The icons by their numbers: -1 none, 0 note, 1 caution, 2 stop, 3 question.
     int IconType = -1;
     String Message, Explanation;

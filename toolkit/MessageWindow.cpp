@@ -33,6 +33,14 @@ QIcon IconOf(const QWidget& window, int type)
 /// A caption as it stands: Qt would take a "&" for the mark of a shortcut.
 QString CaptionOf(StringView text) { return ToQt(ReplaceAll(text, U"&", U"&&")); }
 
+/// What a dialog shows of a text: all of it, or whole lines as far as anyone can be asked to read, and "…".
+String Shown(const String& text)
+{
+    if (std::ssize(text) <= MessageDialog::MostShown) return text;
+    const std::size_t cut = text.rfind(U'\n', static_cast<std::size_t>(MessageDialog::MostShown));
+    return text.substr(0, cut == String::npos ? static_cast<std::size_t>(MessageDialog::MostShown) : cut + 1) + U"…";
+}
+
 /// A text that can be read and copied, wraps anywhere where it must, and looks like the window around it.
 QTextEdit* MakeText(QWidget* parent)
 {
@@ -55,7 +63,9 @@ MessageWindow::MessageWindow(const MessageDialog& content, QWidget* parent)
     : QDialog(parent)
 {
     auto* const text = MakeText(this);
-    AddText(*text, content);
+    const String message = Shown(content.Message);
+    AddText(*text, message, Shown(content.Explanation));
+    text->setAccessibleName(ToQt(NthField(message, U"\n", 1)));
     auto* const buttons = new QDialogButtonBox(this);
     AddButtons(*buttons, content);
 
@@ -73,21 +83,21 @@ MessageWindow::MessageWindow(const MessageDialog& content, QWidget* parent)
 
     const QMargins margins = rows->contentsMargins();
     FitToScreen(*text, buttons->sizeHint().height() + rows->spacing() + margins.top() + margins.bottom());
-    setAccessibleName(ToQt(content.Message));
+    setAccessibleName(ToQt(message));
 }
 
-void MessageWindow::AddText(QTextEdit& text, const MessageDialog& content) const
+void MessageWindow::AddText(QTextEdit& text, const String& message, const String& explanation)
 {
-    text.setWordWrapMode(WrapModeFor(content.Message + U'\n' + content.Explanation));
+    text.setWordWrapMode(WrapModeFor(message + U'\n' + explanation));
     QTextCursor writer(text.document());
     writer.beginEditBlock();
     QTextCharFormat strong;
     strong.setFontWeight(QFont::Bold);
-    writer.insertText(ToQt(content.Message), strong);
-    if (!content.Explanation.empty()) {
+    writer.insertText(ToDocument(message), strong);
+    if (!explanation.empty()) {
         writer.insertBlock(QTextBlockFormat(), QTextCharFormat());
         const QTextBlock firstLine = writer.block();
-        writer.insertText(ToQt(content.Explanation), QTextCharFormat());
+        writer.insertText(ToDocument(explanation), QTextCharFormat());
         QTextBlockFormat apart;
         apart.setTopMargin(text.fontMetrics().height() / 2.0);
         QTextCursor(firstLine).setBlockFormat(apart);

@@ -22,7 +22,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void AddText(QTextEdit& text, const MessageDialog& content) const;
+    static void AddText(QTextEdit& text, const String& message, const String& explanation);
     void AddButtons(QDialogButtonBox& box, const MessageDialog& content);
     void FitToScreen(QTextEdit& text, int heightOfTheRest) const;
     void Answer(MessageDialog::Button button);

@@ -81,7 +81,7 @@ TEST(MessageDialog, AnswersByButtonOrKey)
     }
 }
 
-TEST(MessageDialog, ShowsAnyTextInFull)
+TEST(MessageDialog, ShowsTextsAsTheyAre)
 {
     const QString manyLines = QStringLiteral("SCENERY_PACK Custom Scenery/Alpes/\n").repeated(10'000);
     const QString longWord(400, 'x'), line(1'000'000, 'x');
@@ -96,6 +96,7 @@ TEST(MessageDialog, ShowsAnyTextInFull)
         {"a report of ten thousand lines", "Not found", manyLines, "Not found\n" + manyLines, true},
         {"a message of ten thousand lines", manyLines, "", manyLines, true},
         {"a line of a million characters", line, "", line, true},
+        {"of a longer text whole lines", "a\n" + line, line + "\nb", "a\n…\n" + line + "\n…", true},
     };
     const int mostHeight = QGuiApplication::primaryScreen()->availableGeometry().height() * 6 / 10;
     const String caption = U"A rather long caption of the action button";
