@@ -1,4 +1,4 @@
-"""Time from exec to the painted window, and memory, of the program beside an empty window and two small editors.
+"""Time from exec to the painted window, and memory, of the program beside nearly empty windows and two small editors.
 
 Usage: tools/screen.sh /usr/bin/python3 bench/start/start.py PROGRAM EMPTY_WINDOW [RUNS]
 Needs the Debian package python3-xlib, and measures featherpad and mousepad where they are installed.
@@ -32,6 +32,11 @@ class Screen:
     def _property(self, window, atom):
         found = window.get_full_property(atom, X.AnyPropertyType)
         return found.value if found else []
+
+    def first_size(self):
+        """Width and height of the program's window at its first start."""
+        whole = self.display.screen()
+        return max(720, whole.width_in_pixels - 60), max(400, whole.height_in_pixels - 60)
 
     def shows(self, pid):
         """Whether a window of the process is on the screen and painted."""
@@ -75,13 +80,18 @@ def measure(screen, command, home):
 
 
 def main(program, empty, runs="15"):
-    commands = {"tarnivel": [program], "empty window": [empty]}
+    screen = Screen()
+    size = [str(points) for points in screen.first_size()]
+    commands = {
+        "tarnivel": [program],
+        "empty window": [empty],
+        f"window of {'x'.join(size)} with one label": [empty, *size, "Tarnivel"],
+    }
     commands |= {
         name: [name, option]
         for name, option in (("featherpad", "--standalone"), ("mousepad", "--disable-server"))
         if shutil.which(name)
     }
-    screen = Screen()
     results = {name: [] for name in commands}
     with tempfile.TemporaryDirectory() as home:
         os.makedirs(f"{home}/.local/share")
