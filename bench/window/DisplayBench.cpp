@@ -1,5 +1,7 @@
-/// What it costs to show a scenery text in colours, beside showing the same text without them.
+/// What it costs to show a scenery text in colours, beside showing the same text without them; and to change the state
+/// of all its packs, which can be undone.
 #include "mainwindow/Colouring.h"
+#include "mainwindow/Toggling.h"
 #include "toolkit/DesktopApplication.h"
 #include "toolkit/DesktopTextArea.h"
 
@@ -63,6 +65,22 @@ BENCHMARK_DEFINE_F(Area, Coloured)(benchmark::State& state)
     }
 }
 
+BENCHMARK_DEFINE_F(Area, Toggled)(benchmark::State& state)
+{
+    for (auto _ : state) {
+        state.PauseTiming();
+        area->SetStyledText(scenery.text, ColourText(scenery.text, {}).spans);
+        area->Select(0, std::ssize(scenery.text));
+        DesktopApplication::YieldToPlatform();
+        state.ResumeTiming();
+        const Selection selection{area->SelectionStart(), area->SelectionLength()};
+        const std::optional<Toggled> toggled = ToggleLines(area->Text(), selection, ToggleMode::Invert);
+        area->ReplaceStyledText(toggled->text, ColourText(toggled->text, {}).spans);
+        area->Select(toggled->selection.start, toggled->selection.length);
+        DesktopApplication::YieldToPlatform();
+    }
+}
+
 BENCHMARK_REGISTER_F(Area, Plain)->Unit(benchmark::kMillisecond)->Arg(1000)->Arg(10'000)->Arg(100'000)->Arg(1'000'000);
 BENCHMARK_REGISTER_F(Area, Coloured)
     ->Unit(benchmark::kMillisecond)
@@ -71,6 +89,7 @@ BENCHMARK_REGISTER_F(Area, Coloured)
     ->Arg(100'000)
     ->Arg(1'000'000)
     ->Complexity(benchmark::oN);
+BENCHMARK_REGISTER_F(Area, Toggled)->Unit(benchmark::kMillisecond)->Arg(10'000)->Arg(100'000);
 
 } // namespace
 
