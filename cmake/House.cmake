@@ -5,6 +5,13 @@ target_include_directories(house_flags INTERFACE ${PROJECT_SOURCE_DIR})
 target_compile_options(house_flags INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
 # g++ 12 sees an overlap where a literal stands in front of a string in a sum, and there is none.
 target_compile_options(house_flags INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
+# What Debian builds its own packages with. Fortified functions want an optimised build.
+target_compile_options(house_flags INTERFACE -fstack-protector-strong -fstack-clash-protection -Wformat
+  -Werror=format-security $<$<AND:$<CONFIG:Release>,$<NOT:$<BOOL:${TARNIVEL_SANITIZE}>>>:-D_FORTIFY_SOURCE=2>)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+if(NOT APPLE)
+  target_link_options(house_flags INTERFACE -Wl,-z,relro,-z,now)
+endif()
 if(TARNIVEL_SANITIZE)
   target_compile_options(house_flags INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(house_flags INTERFACE -fsanitize=address,undefined)

@@ -14,7 +14,7 @@ namespace {
 SoundVoiceMaker* LoadMaker()
 {
     const QString programs = QCoreApplication::applicationDirPath();
-    for (const char* const place : {"/", "/../lib/tarnivel/", "/../PlugIns/"}) {
+    for (const char* const place : {"/", "/../lib/tarnivel/modules/", "/../PlugIns/"}) {
         const QString module = programs + QLatin1String(place) + QStringLiteral("libtarnivel_sound");
         if (const auto found = QLibrary::resolve(module, "MakeSoundVoice"))
             return reinterpret_cast<SoundVoiceMaker*>(found);
