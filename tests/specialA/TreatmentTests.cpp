@@ -1,0 +1,135 @@
+#include "specialA/Treatment.h"
+
+#include <gtest/gtest.h>
+#include <random>
+
+namespace {
+
+using Rows = std::vector<ReplacementRow>;
+
+TEST(Treatment, AppliesTheTable)
+{
+    const struct {
+        const char* name;
+        String original;
+        Rows rows;
+        String report, dest1, dest2;
+    } cases[] = {
+        {"an empty table leaves copies", U"text", {}, U"", U"text", U"text"},
+        {"an empty text is treated", U"", {{U"a", U"b", U"c"}}, U"\n • 0 x “a”", U"", U""},
+        {"a row that searches for nothing has no line", U"a", {{U"", U"x", U"y"}}, U"", U"a", U"a"},
+        {"two variants, and what is missing counts 0",
+         U"winter and WINTER\n",
+         {{U"Winter", U"été", U""}, {U"spring", U"a", U"b"}},
+         U"\n • 2 x “Winter”\n • 0 x “spring”",
+         U"été and été\n",
+         U" and \n"},
+        {"matches overlap where they are counted, not where they are replaced",
+         U"aaa",
+         {{U"aa", U"b", U"aaaa"}},
+         U"\n • 2 x “aa”",
+         U"ba",
+         U"aaaaa"},
+        {"a row sees what the rows before it put in, the report doesn't",
+         U"a-b",
+         {{U"a", U"b", U"xb"}, {U"b", U"c", U""}},
+         U"\n • 1 x “a”\n • 1 x “b”",
+         U"c-c",
+         U"x-"},
+        {"a match may begin in one replacement and end behind it",
+         U"1 of 3",
+         {{U"1", U"the ro", U"x"}, {U"the row", U"no", U"no"}, {U"rO OF", U"M", U"M"}},
+         U"\n • 1 x “1”\n • 0 x “the row”\n • 0 x “rO OF”",
+         U"the M 3",
+         U"x of 3"},
+        {"case is ignored in any script, and \U0001F600 is one character",
+         U"ÉTÉ ΣΑΣ ЖЖ \U0001F600\U00010400",
+         {{U"été", U"e", U"e"}, {U"σας", U"s", U"s"}, {U"ж", U"z", U"z"}, {U"\U0001F600\U00010428", U"!", U"!"}},
+         U"\n • 1 x “été”\n • 1 x “σας”\n • 2 x “ж”\n • 1 x “\U0001F600\U00010428”",
+         U"e s zz !",
+         U"e s zz !"},
+        {"line ends are characters like any other",
+         U"a\nb\r\nc",
+         {{U"\n", U"", U"\n\n"}},
+         U"\n • 2 x “\n”",
+         U"ab\rc",
+         U"a\n\nb\r\n\nc"},
+    };
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.name);
+        const std::optional<Treatment> treated = Treat(row.original, row.rows);
+        ASSERT_TRUE(treated);
+        EXPECT_EQ(treated->report, row.report);
+        EXPECT_EQ(treated->dest1, row.dest1);
+        EXPECT_EQ(treated->dest2, row.dest2);
+    }
+}
+
+TEST(Treatment, StaysWithinItsMeans)
+{
+    EXPECT_FALSE(Treat(String(100, U'a'), Rows{{U"a", U"b", String(1'000'000, U'x')}})) << "a variant of 100,000,000";
+    const String periodic(200'000, U'a');
+    const std::optional<Treatment> treated = Treat(periodic, Rows{{String(100'000, U'A') + U"b", U"", U""}});
+    EXPECT_EQ(treated->dest1, periodic) << "found missing without a look at each pair of places";
+}
+
+/// The rules once more, as plainly as they can be written.
+String Replaced(String text, StringView searched, StringView replacement)
+{
+    for (std::size_t at = 0; at + searched.size() <= text.size();) {
+        if (!SameText(StringView(text).substr(at, searched.size()), searched)) {
+            ++at;
+            continue;
+        }
+        text.replace(at, searched.size(), replacement);
+        at += replacement.size();
+    }
+    return text;
+}
+
+String Report(StringView original, const Rows& rows)
+{
+    String report;
+    for (const auto& row : rows) {
+        if (row.searched.empty()) continue;
+        Int64 count = 0;
+        for (std::size_t at = 0; at + row.searched.size() <= original.size(); ++at)
+            count += SameText(original.substr(at, row.searched.size()), row.searched) ? 1 : 0;
+        report += U"\n • " + ToText(count) + U" x “" + row.searched + U"”";
+    }
+    return report;
+}
+
+TEST(Treatment, RandomTextsAsTheNaiveWay)
+{
+    std::mt19937 engine(20240225); // NOLINT(cert-msc51-cpp): a failure must come again
+    const auto roll = [&engine](std::size_t sides) { return engine() % sides; };
+    const auto text = [&](std::size_t mostCharacters) {
+        // Few letters, so that matches are many; the last ones seldom, so that texts can be cut between them.
+        static constexpr StringView letters = U"aAabBbéÉßσς\n z";
+        String made;
+        for (std::size_t length = roll(mostCharacters + 1); length > 0; --length)
+            made += letters[roll(roll(4) == 0 ? letters.size() : 6)];
+        return made;
+    };
+    for (int round = 0; round < 400; ++round) {
+        SCOPED_TRACE(round);
+        const String original = text(round % 100 == 0 ? 30'000 : 60);
+        Rows rows;
+        for (std::size_t count = roll(6); count > 0; --count)
+            rows.push_back({text(4), text(3), text(5)});
+        String dest1 = original, dest2 = original;
+        for (const auto& row : rows) {
+            if (row.searched.empty()) continue;
+            dest1 = Replaced(std::move(dest1), row.searched, row.replacement1);
+            dest2 = Replaced(std::move(dest2), row.searched, row.replacement2);
+        }
+        const std::optional<Treatment> treated = Treat(original, rows);
+        ASSERT_TRUE(treated);
+        EXPECT_EQ(treated->report, Report(original, rows));
+        ASSERT_EQ(treated->dest1, dest1);
+        ASSERT_EQ(treated->dest2, dest2);
+    }
+}
+
+} // namespace
