@@ -87,7 +87,11 @@ bool App::FichSelFichModel_Action() const
 
 bool App::ApplePrefs_Action() const
 {
-    if (!menuBar_.ApplePrefs.Enabled || !Keyboard::AsyncShiftKey() || !Keyboard::AsyncAltKey()) return true;
+    if (!menuBar_.ApplePrefs.Enabled) return true;
+    if (!Keyboard::AsyncShiftKey() || !Keyboard::AsyncAltKey()) {
+        MainWindow.ShowPreferences();
+        return true;
+    }
     if (Fncts::PasNil_Existe_Alias(Fncts::DossierPref, true))
         OpenItem(*Fncts::DossierPref);
     else

@@ -15,6 +15,7 @@ struct MainWindowLink {
     /// The acts behind the menu items; `reveal` shows the present item in the file manager instead of a chooser.
     std::function<void(bool reveal)> ActSelFichModel, ActSelArchivDoss, ActSelFichSpack;
     std::function<void()> ActSaveFile;
+    std::function<void()> ShowPreferences;
 };
 
 class App final : public DesktopApplication {

@@ -96,6 +96,7 @@ void WinMain::BindHandlers()
     link.ActSelArchivDoss = [this](bool reveal) { ActSelArchivDoss(reveal); };
     link.ActSelFichSpack = [this](bool reveal) { ActSelFichSpack(reveal); };
     link.ActSaveFile = [this] { ActSaveFile(); };
+    link.ShowPreferences = [this] { ShowPreferences(); };
     Opening = [this] { Event_Opening(); };
     CancelClosing = [this](bool appQuitting) { return Event_CancelClosing(appQuitting); };
     Activated = [this] { Event_Activated(); };
@@ -128,6 +129,8 @@ void WinMain::BindHandlers()
     StaticTextVersion.MouseUp = [this](int x, int y) { StaticTextVersion_MouseUp(x, y); };
     StaticTextVersion.MouseEnter = [this] { StaticTextVersion_MouseEnter(); };
     StaticTextVersion.MouseExit = [this] { StaticTextVersion_MouseExit(); };
+    BtnAide.Pressed = [this] { BtnAide_Pressed(); };
+    SegButtSpecA.Pressed = [this](int) { SegButtSpecA_Pressed(); };
     PushButtDebug.Pressed = [this] { PushButtDebug_Pressed(); };
     TimerQuit.Action = [this] { TimerQuit_Action(); };
 }
@@ -203,6 +206,7 @@ bool WinMain::Event_CancelClosing(bool appQuitting)
         return true;
     }
     if (!appQuitting) {
+        if (SegButtSpecA.Selected(0) && winSpecA_) winSpecA_->Close();
         if (Fncts::AinitProg) PrefsSauver();
         App::Current().DrapOkQuit = true;
         Fncts::DrapMenu = false;
@@ -246,6 +250,19 @@ void WinMain::StaticTextVersion_MouseEnter() const
 }
 
 void WinMain::StaticTextVersion_MouseExit() const { SetMouseCursor(Cursor::StandardPointer); }
+
+void WinMain::BtnAide_Pressed() { winAide_.emplace().Show(); }
+
+void WinMain::ShowPreferences() { winPrefs_.emplace(*this, SegButtSpecA).Show(); }
+
+void WinMain::SegButtSpecA_Pressed()
+{
+    if (SegButtSpecA.Selected(0))
+        winSpecA_.emplace(*this, SegButtSpecA, TimerQuit).Show();
+    else if (winSpecA_)
+        winSpecA_->Close();
+    Fncts::WrkArrSegButBugF(*this);
+}
 
 /// The button is never seen; a debugger can press it to free or to lock the interface.
 void WinMain::PushButtDebug_Pressed() const

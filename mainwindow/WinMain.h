@@ -1,7 +1,10 @@
 /// The main window.
 #pragma once
 
+#include "app/WinAide.h"
 #include "engine/SceneryTexts.h"
+#include "preferences/WinPrefs.h"
+#include "specialA/WinSpecA.h"
 #include "support/Covers.h"
 #include "toolkit/DesktopControls.h"
 #include "toolkit/DesktopTextArea.h"
@@ -94,6 +97,9 @@ private:
     void StaticTextVersion_MouseUp(int x, int y);
     void StaticTextVersion_MouseEnter() const;
     void StaticTextVersion_MouseExit() const;
+    void BtnAide_Pressed();
+    void SegButtSpecA_Pressed();
+    void ShowPreferences();
     void PushButtDebug_Pressed() const;
     void TimerQuit_Action();
 
@@ -141,6 +147,10 @@ private:
     void ShowText(StringView text, std::span<const Int64> marks, Shower shower);
 
     SceneryTexts texts_;
+    // The other windows, from an opening to the next.
+    std::optional<WinAide> winAide_;
+    std::optional<WinPrefs> winPrefs_;
+    std::optional<WinSpecA> winSpecA_;
     /// The row whose text stands in the text area.
     Int64 MemPopMaff = -1;
     /// The mouse went down on the version label and hasn't come up yet.

@@ -3,6 +3,7 @@
 #include "support/Diagnostics.h"
 #include "toolkit/Desktop.h"
 #include "toolkit/DesktopApplication.h"
+#include "toolkit/DesktopSlider.h"
 #include "toolkit/Dialogs.h"
 #include "toolkit/core/System.h"
 
@@ -139,7 +140,10 @@ bool CmLabBlockUI(Int16 action, DesktopWindow* win, DesktopLabel* first, Desktop
 void DecPosCtrl(DesktopWindow& win)
 {
     for (DesktopUIControl* const control : win.Controls())
-        if (dynamic_cast<DesktopTextField*>(control) != nullptr) control->SetTop(control->Top() - 1);
+        if (dynamic_cast<DesktopTextField*>(control) != nullptr)
+            control->SetTop(control->Top() - 1);
+        else if (dynamic_cast<DesktopSlider*>(control) != nullptr)
+            control->SetTop(control->Top() + 2);
 }
 
 void CtrlFenetrOuv(const std::vector<DesktopWindow*>& known)

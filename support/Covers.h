@@ -35,7 +35,8 @@ bool CtrlDsFenetrDiag(DesktopWindow* win, bool opening);
 /// window is remembered.
 bool CmLabBlockUI(Int16 action, DesktopWindow* win, DesktopLabel* first, DesktopLabel* clone);
 
-/// Moves each control to where its class looks best beside the others: text fields one point up. Once for each window.
+/// Moves each control to where its class looks best beside the others: text fields one point up, sliders two down. Once
+/// for each window.
 void DecPosCtrl(DesktopWindow& win);
 
 /// Tells the authors of windows that are open too early, that is, all but the `known` ones.

@@ -31,6 +31,9 @@ namespace Clipboard {
 void SetText(StringView text);
 } // namespace Clipboard
 
+/// Whether the desktop's windows are dark.
+bool IsDarkMode();
+
 /// Opens the item with the desktop's program for it: a folder in the file manager.
 void OpenItem(const FolderItem& item);
 /// Shows the item selected in the file manager.

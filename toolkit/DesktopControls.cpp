@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
@@ -43,6 +44,23 @@ String DesktopButton::Caption() const { return Unmarked(static_cast<QPushButton*
 void DesktopButton::SetCaption(StringView caption)
 {
     SetButtonCaption(*static_cast<QPushButton*>(widget_), caption, Width() - 2 * ButtonMargin, fontSize_);
+}
+
+void DesktopButton::SetDefault()
+{
+    auto* const button = static_cast<QPushButton*>(widget_);
+    button->setDefault(true);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter})
+        QObject::connect(new QShortcut(key, button), &QShortcut::activated, button, [button] {
+            auto* const focused = qobject_cast<QPushButton*>(button->window()->focusWidget());
+            (focused ? focused : button)->click();
+        });
+}
+
+void DesktopButton::SetCancel()
+{
+    auto* const button = static_cast<QPushButton*>(widget_);
+    QObject::connect(new QShortcut(Qt::Key_Escape, button), &QShortcut::activated, button, &QPushButton::click);
 }
 
 DesktopCheckBox::DesktopCheckBox(DesktopWindow& window, const Placement& placement, StringView caption)

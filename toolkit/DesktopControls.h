@@ -15,6 +15,9 @@ public:
 
     [[nodiscard]] String Caption() const;
     void SetCaption(StringView caption);
+    /// Enter presses the default button of its window, unless another button has the focus; Esc the cancel button.
+    void SetDefault();
+    void SetCancel();
 
     std::function<void()> Pressed;
 
@@ -22,11 +25,19 @@ private:
     int fontSize_;
 };
 
+struct FieldStyle {
+    bool readOnly = false;
+    ColorGroup color{};
+    /// A tab or a line end that comes in becomes a blank.
+    bool oneLine = false;
+};
+
 /// A field of one line, black on white in every appearance, grey while it is disabled. Line ends in its text stay,
 /// though they are not seen.
 class DesktopTextField : public DesktopUIControl {
 public:
-    DesktopTextField(DesktopWindow& window, const Placement& placement, StringView text = {});
+    DesktopTextField(DesktopWindow& window, const Placement& placement, StringView text = {},
+                     const FieldStyle& style = {});
 
     [[nodiscard]] String Text() const;
     void SetText(StringView text);
@@ -45,8 +56,11 @@ struct LabelStyle {
     ColorGroup color{};
     TextAlignment alignment = TextAlignment::Left;
     bool bold = false;
+    bool underline = false;
     /// Points of the layout, 0 for the system's size.
     int fontSize = 0;
+    /// Wraps where it must, and can be selected and copied; what has no room scrolls.
+    bool multiline = false;
 };
 
 /// A text that the user can't change. One with a `MouseUp` handler is a link: it can take the focus, and Enter or the

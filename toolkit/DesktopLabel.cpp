@@ -1,10 +1,12 @@
 #include "toolkit/Appearance.h"
 #include "toolkit/DesktopControls.h"
+#include "toolkit/DocumentText.h"
 #include "toolkit/core/QtText.h"
 
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPlainTextEdit>
 #include <QStyleOptionFocusRect>
 #include <QStylePainter>
 
@@ -90,28 +92,59 @@ Qt::AlignmentFlag AlignmentOf(TextAlignment alignment)
     return Qt::AlignLeft;
 }
 
+/// A text of several lines, which a QLabel would break at blanks alone.
+QWidget* MakeMultiline(const LabelStyle& style)
+{
+    auto* const text = new QPlainTextEdit;
+    text->setReadOnly(true);
+    text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    text->setAcceptDrops(false);
+    text->setFrameShape(QFrame::NoFrame);
+    text->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    text->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    text->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    text->document()->setDocumentMargin(0);
+    text->setTabChangesFocus(true);
+    QPalette colours = text->palette();
+    colours.setColor(QPalette::Base, Qt::transparent);
+    text->setPalette(colours);
+    SetTextColor(*text, QPalette::Text, style.color);
+    return text;
+}
+
 } // namespace
 
 DesktopLabel::DesktopLabel(DesktopWindow& window, const Placement& placement, StringView text, const LabelStyle& style)
-    : DesktopUIControl(window, new LabelWidget, placement)
+    : DesktopUIControl(window, style.multiline ? MakeMultiline(style) : new LabelWidget, placement)
     , fontSize_(style.fontSize)
 {
-    auto* label = static_cast<LabelWidget*>(widget_);
+    auto* const label = dynamic_cast<LabelWidget*>(widget_);
+    if (!label) {
+        SetText(text);
+        return;
+    }
     label->owner = this;
     label->setTextFormat(Qt::PlainText);
     label->setAlignment(AlignmentOf(style.alignment) | Qt::AlignVCenter);
     QFont font = label->font();
     font.setBold(style.bold);
+    font.setUnderline(style.underline);
     label->setFont(font);
     SetTextColor(*label, QPalette::WindowText, style.color);
     SetText(text);
 }
 
-String DesktopLabel::Text() const { return FromQt(static_cast<LabelWidget*>(widget_)->text()); }
+String DesktopLabel::Text() const
+{
+    if (const auto* const lines = qobject_cast<QPlainTextEdit*>(widget_))
+        return FromDocument(lines->document()->toRawText());
+    return FromQt(static_cast<QLabel*>(widget_)->text());
+}
 
 void DesktopLabel::SetText(StringView text)
 {
-    auto* label = static_cast<LabelWidget*>(widget_);
+    if (auto* const lines = qobject_cast<QPlainTextEdit*>(widget_)) return lines->setPlainText(ToDocument(text));
+    auto* const label = static_cast<QLabel*>(widget_);
     label->setText(ToQt(text));
     FitFont(*label, label->text(), Width(), fontSize_);
 }

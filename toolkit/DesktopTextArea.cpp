@@ -152,10 +152,11 @@ void DesktopTextArea::Editor::insertFromMimeData(const QMimeData* source)
     ensureCursorVisible();
 }
 
-DesktopTextArea::DesktopTextArea(DesktopWindow& window, const Placement& placement)
+DesktopTextArea::DesktopTextArea(DesktopWindow& window, const Placement& placement, int fontSize)
     : DesktopUIControl(window, new Editor, placement)
 {
     SetBlackOnWhite(*widget_);
+    if (fontSize > 0) FitFont(*widget_, {}, 0, fontSize);
 }
 
 DesktopTextArea::~DesktopTextArea() = default;
@@ -170,6 +171,8 @@ void DesktopTextArea::SetStyledText(StringView text, std::span<const ColorSpan> 
 {
     editor().SetText(text, colors);
 }
+
+void DesktopTextArea::SetReadOnly(bool readOnly) { editor().setReadOnly(readOnly); }
 
 Int64 DesktopTextArea::SelectionStart() const { return editor().Offset(editor().textCursor().selectionStart()); }
 

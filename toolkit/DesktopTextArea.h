@@ -12,7 +12,8 @@
 /// place where they meet the 16-bit units of Qt is inside this class.
 class DesktopTextArea : public DesktopUIControl {
 public:
-    DesktopTextArea(DesktopWindow& window, const Placement& placement);
+    /// `fontSize` in points of the layout, 0 for the system's size.
+    DesktopTextArea(DesktopWindow& window, const Placement& placement, int fontSize = 0);
     ~DesktopTextArea() override;
 
     [[nodiscard]] String Text() const;
@@ -24,6 +25,9 @@ public:
     /// The same as a step that the user can undo, which brings back the former text with its colours and the caret.
     /// What is scrolled stays so.
     void ReplaceStyledText(StringView text, std::span<const ColorSpan> colors);
+
+    /// A text that can only be read has no caret, and the mouse wheel and the keys scroll it.
+    void SetReadOnly(bool readOnly);
 
     [[nodiscard]] Int64 SelectionStart() const;
     [[nodiscard]] Int64 SelectionLength() const;

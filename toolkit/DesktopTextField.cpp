@@ -1,5 +1,6 @@
 #include "toolkit/Appearance.h"
 #include "toolkit/DesktopControls.h"
+#include "toolkit/DocumentText.h"
 #include "toolkit/core/QtText.h"
 
 #include <QDropEvent>
@@ -37,9 +38,11 @@ QString Inserted(const QString& before, const QString& after)
 
 class Field final : public QLineEdit {
 public:
-    explicit Field(DesktopTextField& owner)
+    Field(DesktopTextField& owner, const FieldStyle& style)
         : owner_(owner)
+        , oneLine_(style.oneLine)
     {
+        setReadOnly(style.readOnly);
         setMaxLength(std::numeric_limits<int>::max());
         connect(this, &QLineEdit::textEdited, this, [this](const QString& text) { Edited(text); });
     }
@@ -88,6 +91,11 @@ private:
     /// A path that came in at once was pasted; one that is typed comes in by single characters.
     void Edited(const QString& text)
     {
+        if (oneLine_) {
+            const int caret = cursorPosition();
+            setText(OneLine(text));
+            setCursorPosition(caret);
+        }
         const QString pasted = Inserted(before_, text).trimmed();
         const std::optional<FolderItem> item =
             owner_.ItemGiven && owner_.TakesInput() && pasted.size() > 1 ? ItemOf(pasted) : std::optional<FolderItem>();
@@ -100,16 +108,19 @@ private:
     }
 
     DesktopTextField& owner_;
+    const bool oneLine_;
     /// The text before the edit that is under way.
     QString before_;
 };
 
 } // namespace
 
-DesktopTextField::DesktopTextField(DesktopWindow& window, const Placement& placement, StringView text)
-    : DesktopUIControl(window, new Field(*this), placement)
+DesktopTextField::DesktopTextField(DesktopWindow& window, const Placement& placement, StringView text,
+                                   const FieldStyle& style)
+    : DesktopUIControl(window, new Field(*this, style), placement)
 {
     SetBlackOnWhite(*widget_);
+    SetTextColor(*widget_, QPalette::Text, style.color);
     SetText(text);
 }
 

@@ -13,6 +13,7 @@
 #include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
+#include <QWindow>
 #include <algorithm>
 #include <utility>
 
@@ -32,6 +33,13 @@ public:
     QWidget* const content;
     bool keyboardIsBlocked = false;
     QPointer<QWidget> focusBefore;
+
+    /// The window manager keeps this window above that one.
+    void StandAbove(const DesktopWindow* other)
+    {
+        winId();
+        windowHandle()->setTransientParent(other ? other->shell_->windowHandle() : nullptr);
+    }
 
 protected:
     bool focusNextPrevChild(bool next) override { return !keyboardIsBlocked && QWidget::focusNextPrevChild(next); }
@@ -57,7 +65,8 @@ namespace {
 
 Qt::WindowFlags FlagsOf(const WindowStyle& style)
 {
-    Qt::WindowFlags flags = Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
+    Qt::WindowFlags flags = (style.movableModal ? Qt::Dialog : Qt::Window) | Qt::CustomizeWindowHint |
+                            Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
     flags.setFlag(Qt::WindowCloseButtonHint, style.hasCloseButton);
     flags.setFlag(Qt::WindowMaximizeButtonHint, style.hasMaximizeButton);
     flags.setFlag(Qt::WindowMinimizeButtonHint, style.hasMinimizeButton);
@@ -95,6 +104,7 @@ DesktopWindow::Shell::Shell(DesktopWindow& owner, const WindowStyle& style)
 {
     QAccessible::installFactory(&Announce);
     setWindowTitle(ToQt(style.title));
+    if (style.movableModal) setWindowModality(Qt::ApplicationModal);
     SetControlFont(*content);
     content->setMinimumSize(style.resizable ? QSize(style.minimumWidth, style.minimumHeight)
                                             : QSize(style.width, style.height));
@@ -172,6 +182,15 @@ std::vector<DesktopWindow*>& DesktopWindow::All()
     return windows;
 }
 
+DesktopWindow* DesktopWindow::Front()
+{
+    const auto active =
+        std::ranges::find_if(All(), [](const auto* window) { return window->shell_->isActiveWindow(); });
+    if (active != All().end()) return *active;
+    const auto visible = std::ranges::find_if(All(), &DesktopWindow::Visible);
+    return visible != All().end() ? *visible : nullptr;
+}
+
 String DesktopWindow::Title() const { return FromQt(shell_->windowTitle()); }
 
 int DesktopWindow::MinimumWidth() const { return shell_->content->minimumWidth(); }
@@ -197,6 +216,7 @@ void DesktopWindow::Show()
     const bool opens = !std::exchange(opened_, true);
     if (opens && Opening) Opening();
     if (!opened_) return;
+    if (opens && shell_->isModal()) shell_->StandAbove(Front());
     shell_->setWindowState(shell_->windowState() & ~Qt::WindowMinimized);
     shell_->show();
     // Labels know only when they are shown whether they are links, which can take the focus.

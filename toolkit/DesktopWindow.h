@@ -15,6 +15,8 @@ struct WindowStyle {
     int maximumWidth = 32000, maximumHeight = 32000;
     bool hasMenuBar = false;
     bool resizable = true;
+    /// Keeps the user from all other windows while it is open.
+    bool movableModal = false;
     bool hasCloseButton = true, hasMaximizeButton = true, hasMinimizeButton = true;
 };
 
@@ -84,6 +86,8 @@ private:
     /// Brings the Tab key's order in line with the controls' tab indices.
     void ApplyTabOrder();
     void ContentResized(int width, int height);
+    /// The active window, else one that is visible, or null.
+    static DesktopWindow* Front();
     /// All windows that exist, in the order of their creation.
     static std::vector<DesktopWindow*>& All();
 

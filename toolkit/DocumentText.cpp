@@ -54,3 +54,13 @@ QTextOption::WrapMode WrapModeFor(StringView text)
     }
     return QTextOption::WrapAtWordBoundaryOrAnywhere;
 }
+
+QString OneLine(QString text)
+{
+    const auto separates = [](QChar unit) {
+        return unit == u'\t' || unit == u'\n' || unit == u'\r' || unit == QChar::LineSeparator ||
+               unit == QChar::ParagraphSeparator;
+    };
+    std::replace_if(text.begin(), text.end(), separates, QChar(u' '));
+    return text;
+}

@@ -14,6 +14,9 @@ QString ToDocument(StringView text);
 /// The text that a document, or a selection of it, stands for.
 String FromDocument(QStringView units);
 
+/// The text with each tab and each end of a line as a blank, character for character.
+QString OneLine(QString text);
+
 /// How a text is to be wrapped: anywhere if it has a line of more than 20,000 characters. Qt's search for the end of a
 /// word takes time by the square of its length.
 QTextOption::WrapMode WrapModeFor(StringView text);

@@ -4,6 +4,7 @@
 
 #include <QByteArrayView>
 #include <QStringDecoder>
+#include <QUrl>
 #include <algorithm>
 
 namespace {
@@ -54,3 +55,5 @@ Bytes TextEncoding::Encode(StringView text) const
     }
     return bytes;
 }
+
+String EncodeURLComponent(StringView text) { return FromQt(QString::fromLatin1(QUrl::toPercentEncoding(ToQt(text)))); }

@@ -22,3 +22,7 @@ public:
 namespace Encodings {
 inline constexpr TextEncoding UTF8{};
 }
+
+/// The text as a part of an address: its UTF-8 bytes, all but letters, digits and "-._~" as "%" and two hexadecimal
+/// digits.
+String EncodeURLComponent(StringView text);

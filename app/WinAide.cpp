@@ -1,0 +1,105 @@
+#include "app/WinAide.h"
+
+#include "app/Addresses.h"
+#include "app/App.h"
+#include "app/Build.h"
+#include "app/localisation/Localisation.h"
+#include "support/Fncts.h"
+#include "support/Sounds.h"
+#include "support/TextHelpers.h"
+#include "toolkit/Desktop.h"
+
+#include <utility>
+
+using namespace Localisation;
+
+namespace {
+
+constexpr unsigned L = Lock::Left, T = Lock::Top, R = Lock::Right, B = Lock::Bottom;
+constexpr ColorGroup blue{0x0000FF};
+constexpr LabelStyle programName{.alignment = TextAlignment::Center, .bold = true, .fontSize = 16};
+constexpr LabelStyle linkStyle{.color = blue, .underline = true, .fontSize = 10};
+
+} // namespace
+
+WinAide::WinAide()
+    : DesktopWindow({.title = WinAide_Title(),
+                     .width = 400,
+                     .height = 480,
+                     .minimumWidth = 300,
+                     .minimumHeight = 300,
+                     .movableModal = true,
+                     .hasCloseButton = false,
+                     .hasMaximizeButton = false,
+                     .hasMinimizeButton = false})
+    // clang-format off
+    //                        left  top width height  locks      tab
+    , TexteInfo         (*this, {  20,  48, 360, 380, L | T | R | B, 2}, 11)
+    , BoutonOk          (*this, { 306, 440,  74,  20, R | B,         3}, Btn_Fermer())
+    , StaticTextNomProg (*this, { 111,   0, 178,  36, L | T | R,     4}, U"Tarnivel", programName)
+    , LabBlockUI        (*this, 5)
+    , Web2              (*this, {  20, 440, 190,  12, L | B,         6}, Addresses::WebSite, linkStyle)
+    , Email2            (*this, {  20, 455, 160,  12, L | B,         7}, Addresses::Mail, linkStyle)
+// clang-format on
+{
+    TexteInfo.SetReadOnly(true);
+    TexteInfo.SetText(Infos_Texte());
+    TexteInfo.SetAccessibleName(WinAide_Title());
+    BoutonOk.SetDefault();
+    Opening = [this] { Event_Opening(); };
+    CancelClosing = [this](bool) { return Event_CancelClosing(); };
+    Activated = [this] { Fncts::CmLabBlockUI(2, this, nullptr, nullptr); };
+    BoutonOk.Pressed = [this] { BoutonOk_Pressed(); };
+    MakeLink(Web2, OnWeb2, [this] { System::GotoURL(Web2.Text()); });
+    MakeLink(Email2, OnEmail2, [this] { FollowEmail2(); });
+}
+
+void WinAide::Event_Opening()
+{
+    LabBlockUI.Opening();
+    Fncts::DecPosCtrl(*this);
+    DrapMovableModal = true;
+    DrapMenuTemp = std::exchange(Fncts::DrapMenu, false);
+    BoutonOk.SetFocus();
+}
+
+bool WinAide::Event_CancelClosing()
+{
+    if (DrapMovableModal)
+        Fncts::BeepNbT(1);
+    else
+        Fncts::DrapMenu = DrapMenuTemp;
+    return DrapMovableModal;
+}
+
+void WinAide::BoutonOk_Pressed() { FermeFentr(); }
+
+void WinAide::FermeFentr()
+{
+    DrapMovableModal = false;
+    Close();
+}
+
+void WinAide::MakeLink(DesktopLabel& label, bool& on, std::function<void()> follow)
+{
+    label.MouseEnter = [&label] {
+        if (label.Enabled()) SetMouseCursor(Cursor::FingerPointer);
+    };
+    label.MouseExit = [] { SetMouseCursor(Cursor::StandardPointer); };
+    label.MouseDown = [&on](int, int) {
+        on = true;
+        return true;
+    };
+    label.MouseUp = [&label, &on, follow = std::move(follow)](int x, int y) {
+        if (!std::exchange(on, false)) return;
+        SetMouseCursor(Cursor::StandardPointer);
+        if (x >= 0 && x <= label.Width() && y >= 0 && y <= label.Height()) follow();
+    };
+}
+
+void WinAide::FollowEmail2() const
+{
+    const String subject = U"A propos de Tarnivel v." + App::Current().Version + U" " + Fncts::TypeCompil() + U" - " +
+                           ReplaceAll(Build::Stamp, U"\u00A0", U" ");
+    System::GotoURL(U"mailto:" + EncodeURLComponent(Email2.Text()) + U"?Subject=" + EncodeURLComponent(subject));
+}

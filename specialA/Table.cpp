@@ -1,0 +1,85 @@
+#include "app/App.h"
+#include "specialA/WinSpecA.h"
+#include "support/Sounds.h"
+#include "support/TextHelpers.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr StringView tab = U"\t";
+
+String ElementOf(const std::vector<String>& list, std::size_t index)
+{
+    return index < list.size() ? list[index] : String();
+}
+
+} // namespace
+
+void WinSpecA::ShowTable()
+{
+    const App& app = App::Current();
+    if (!app.TabSpecAorg.empty()) TextFieldOrg.SetText(app.TabSpecAorg.front());
+    if (!app.TabSpecAdest1.empty()) TextFieldDest1.SetText(app.TabSpecAdest1.front());
+    if (!app.TabSpecAdest2.empty()) TextFieldDest2.SetText(app.TabSpecAdest2.front());
+    const std::size_t longest = std::max({app.TabSpecAorg.size(), app.TabSpecAdest1.size(), app.TabSpecAdest2.size()});
+    for (std::size_t i = 1; i < longest; ++i)
+        ListboxRR.AddRow(
+            {ElementOf(app.TabSpecAorg, i), ElementOf(app.TabSpecAdest1, i), ElementOf(app.TabSpecAdest2, i)});
+}
+
+Int16 WinSpecA::FaireTab()
+{
+    App& app = App::Current();
+    app.TabSpecAorg = {TextFieldOrg.Text()};
+    app.TabSpecAdest1 = {TextFieldDest1.Text()};
+    app.TabSpecAdest2 = {TextFieldDest2.Text()};
+    for (int row = 0; row <= ListboxRR.LastRowIndex(); ++row) {
+        app.TabSpecAorg.push_back(ListboxRR.CellTextAt(row, 0));
+        app.TabSpecAdest1.push_back(ListboxRR.CellTextAt(row, 1));
+        app.TabSpecAdest2.push_back(ListboxRR.CellTextAt(row, 2));
+    }
+    return static_cast<Int16>(ListboxRR.LastRowIndex() + 1);
+}
+
+void WinSpecA::PushButtAdd_Pressed()
+{
+    if (ListboxRR.LastRowIndex() + 1 >= MostRows) return Fncts::BeepNbT(1);
+    ListboxRR.AddRow({});
+}
+
+void WinSpecA::PushButtSupp_Pressed()
+{
+    const int last = ListboxRR.LastRowIndex(), selected = ListboxRR.SelectedRowIndex();
+    if (selected >= 0) return ListboxRR.RemoveRowAt(selected);
+    const auto isEmpty = [&](int column) { return ListboxRR.CellTextAt(last, column).empty(); };
+    if (last >= 0 && isEmpty(0) && isEmpty(1) && isEmpty(2)) return ListboxRR.RemoveRowAt(last);
+    Fncts::BeepNbT(1);
+}
+
+void WinSpecA::PushButtCopiList_Pressed()
+{
+    String text = Join({{TextFieldOrg.Text(), TextFieldDest1.Text(), TextFieldDest2.Text()}}, tab) + U"\n\n";
+    for (int row = 0; row <= ListboxRR.LastRowIndex(); ++row)
+        text += ListboxRR.CellTextAt(row, 0) + U"\t" + ListboxRR.CellTextAt(row, 1) + U"\t" +
+                ListboxRR.CellTextAt(row, 2) + U"\n";
+    Fncts::PlayT(Fncts::_x_Bip::Bip());
+    Fncts::PressPapTxt(text);
+}
+
+void WinSpecA::ListboxRR_TextPasted(const String& text)
+{
+    const String lined = ReplaceLineEndings(text, EndOfLine::UNIX);
+    std::vector<StringView> lines = Split(lined, EndOfLine::UNIX);
+    if (lines.back().empty()) lines.pop_back();
+    if (lines.size() >= 2 && lines[1].empty() && CountFields(lines[0], tab) == 3)
+        lines.erase(lines.begin(), lines.begin() + 2);
+
+    const int selected = ListboxRR.SelectedRowIndex();
+    int before = selected >= 0 ? selected + 1 : ListboxRR.LastRowIndex() + 1;
+    for (const StringView line : lines) {
+        if (ListboxRR.LastRowIndex() + 1 >= MostRows) return Fncts::BeepNbT(1);
+        ListboxRR.AddRowAt(
+            before++, {String(NthField(line, tab, 1)), String(NthField(line, tab, 2)), String(NthField(line, tab, 3))});
+    }
+}

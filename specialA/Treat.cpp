@@ -1,0 +1,107 @@
+#include "app/App.h"
+#include "app/localisation/Localisation.h"
+#include "specialA/WinSpecA.h"
+#include "support/DialogHelpers.h"
+#include "support/FileHelpers.h"
+#include "support/Fncts.h"
+#include "support/Sounds.h"
+#include "support/TextFiles.h"
+#include "support/TextHelpers.h"
+#include "toolkit/core/System.h"
+
+using namespace Localisation;
+
+namespace {
+
+void SetIdle(bool idle)
+{
+    Fncts::DrapMenu = idle;
+    App::Current().EnableMenuBoutons();
+}
+
+} // namespace
+
+Int16 WinSpecA::Ask(StringView message, StringView action, StringView cancel, Int16 icon)
+{
+    return Fncts::MyDialogBox(message, {}, action, cancel, {}, icon, this, true);
+}
+
+void WinSpecA::Tell(StringView message, Int16 icon) { Ask(message, Btn_Ok(), {}, icon); }
+
+void WinSpecA::PushButtTrait_Pressed()
+{
+    CanvFocus.SetFocus();
+    if (!FairePath()) {
+        Fncts::BeepNbT(1);
+        return Tell(Txt_FichOrgNonDef(), 0);
+    }
+    SetIdle(false);
+    const String original = Fncts::LireFichier(FichOrg);
+    FaireTab();
+    if (const std::optional<Treatment> treated = TreatVisibly(original)) {
+        if (Ask(Txt_NbTrouv() + treated->report, Btn_Cont(), Btn_Arreter(), 0) == 1) {
+            WriteDestination(App::Current().TabSpecAdest1.front(), treated->dest1, original);
+            WriteDestination(App::Current().TabSpecAdest2.front(), treated->dest2, original);
+        }
+    } else {
+        Fncts::BeepNbT(1);
+        Tell(Txt_ErreurEcritFich(), 1);
+    }
+    SetIdle(true);
+}
+
+std::optional<Treatment> WinSpecA::TreatVisibly(StringView original)
+{
+    const App& app = App::Current();
+    std::vector<ReplacementRow> rows;
+    for (std::size_t i = 1; i < app.TabSpecAorg.size(); ++i)
+        rows.push_back({app.TabSpecAorg[i], app.TabSpecAdest1[i], app.TabSpecAdest2[i]});
+
+    constexpr Int64 ticksUnseen = 30, ticksBetween = 3;
+    const Int64 start = System::Ticks();
+    Int64 last = start;
+    std::optional<Treatment> treated = Treat(original, rows, [&](Int64 done, Int64 total) {
+        const Int64 now = System::Ticks();
+        if (now - last < ticksBetween) return;
+        last = now;
+        ProgressTrait.SetVisible(now - start >= ticksUnseen);
+        ProgressTrait.SetValue(static_cast<int>(100 * done / total));
+        DesktopApplication::YieldToPlatform();
+    });
+    ProgressTrait.SetVisible(false);
+    return treated;
+}
+
+void WinSpecA::WriteDestination(StringView name, StringView text, StringView original)
+{
+    if (name.empty()) return;
+    if (SameText(text, original)) {
+        Fncts::BeepNbT(1);
+        if (Ask(Txt_FichPasModif(), Btn_Cont(), Btn_Arreter(), 0) != 1) return;
+    }
+    const std::optional<FolderItem> target = FreeTarget(name);
+    if (!target) return;
+    if (Fncts::SauvFichier(*target, text)) return Fncts::PlayT(Fncts::_x_Msg::Msg());
+    Fncts::BeepNbT(1);
+    Tell(Txt_ErreurEcritFich(), 1);
+}
+
+std::optional<FolderItem> WinSpecA::FreeTarget(StringView name)
+{
+    const std::optional<FolderItem> folder = FichOrg->Parent();
+    const std::optional<FolderItem> target = folder ? folder->Child(name, false) : std::nullopt;
+    if (!target) {
+        // A name that no file can have, or that would lead out of the folder.
+        Fncts::BeepNbT(1);
+        Tell(Txt_ErreurEcritFich(), 1);
+        return {};
+    }
+    if (!target->Exists()) return target;
+    const String question = Txt_NomExiste();
+    const String named = Fncts::FracTexte(question, 1) + String(name) + Fncts::FracTexte(question, 2);
+    if (Ask(named, Btn_Remplacer(), Btn_NePasRempl(), 0) != 1) return {};
+    if (!Fncts::RemoveFileOrFolder(*target, false)) return target;
+    Fncts::BeepNbT(1);
+    Tell(Txt_Rempl_Imposs(), 1);
+    return {};
+}

@@ -1,0 +1,96 @@
+/// The window "Spécial A".
+#pragma once
+
+#include "specialA/Treatment.h"
+#include "support/Covers.h"
+#include "toolkit/DesktopCanvas.h"
+#include "toolkit/DesktopControls.h"
+#include "toolkit/DesktopGroupBox.h"
+#include "toolkit/DesktopListBox.h"
+#include "toolkit/DesktopProgressBar.h"
+#include "toolkit/DesktopWindow.h"
+#include "toolkit/Timer.h"
+
+/// Makes up to two variants of a text file from a table of replacements.
+///
+/// While it is open its controls hold what is set; the lists of `App` hold it otherwise, and during a treatment too.
+/// One object is one opening.
+class WinSpecA final : public DesktopWindow {
+public:
+    /// `segButtSpecA` is the main window's button that is down while this window is open, `timerQuit` the main window's
+    /// timer that ends the program.
+    WinSpecA(const DesktopWindow& winMain, DesktopSegmentedButton& segButtSpecA, Timer& timerQuit);
+
+    // The controls, in the order of creation.
+    Fncts::LabBlockUISet LabBlockUI;
+    DesktopGroupBox GroupBoxSource;
+    DesktopButton PushButtSource;
+    DesktopLabel StTextFichSource;
+    DesktopListBox ListboxRR;
+    DesktopLabel LabelOrg;
+    DesktopButton PushButtTrait;
+    DesktopLabel LabelDest2, LabelDest1;
+    DesktopCanvas CanvDrag;
+    DesktopButton PushButtAdd, PushButtSupp;
+    DesktopTextField TextFieldOrg, TextFieldDest1, TextFieldDest2;
+    DesktopButton PushButtQuit;
+    DesktopCanvas CanvFocus;
+    DesktopButton PushButtCopiList;
+    DesktopProgressBar ProgressTrait;
+
+    // Treat.cpp
+    void PushButtTrait_Pressed();
+
+    // Source.cpp
+    /// Takes a new original; with nothing the user chooses one.
+    void ActButtSource(std::optional<FolderItem> item);
+    void PushButtSource_Pressed();
+    bool GroupBoxSource_DragEnter();
+    void GroupBoxSource_DragExit();
+    void GroupBoxSource_DropObject(const DragItem& item);
+
+    // Table.cpp
+    void PushButtAdd_Pressed();
+    void PushButtSupp_Pressed();
+    void PushButtCopiList_Pressed();
+    /// Inserts rows from lines whose cells are separated by tabs; the two lines that `PushButtCopiList` puts above the
+    /// rows are passed over.
+    void ListboxRR_TextPasted(const String& text);
+
+private:
+    // WinSpecA.cpp: the shell.
+    void BindHandlers();
+    void NameControls();
+    void Event_Opening();
+    bool Event_CancelClosing(bool appQuitting);
+    void PushButtQuit_Pressed();
+    /// Hands height, path and table to `App`.
+    void FermFenetr();
+
+    // Source.cpp
+    /// Brings path, label and field in line with `FichOrg`; true when that can be treated.
+    bool FairePath();
+    void AffCanvDrag(Int16 left, Int16 top, Int16 width, Int16 height);
+
+    // Table.cpp
+    static constexpr int MostRows = 1000;
+    void ShowTable();
+    /// Brings the lists of `App` in line with the window; the result is the number of rows.
+    Int16 FaireTab();
+
+    // Treat.cpp
+    Int16 Ask(StringView message, StringView action, StringView cancel, Int16 icon);
+    void Tell(StringView message, Int16 icon);
+    /// The treatment of a text, during which the window stays alive; nothing when a variant would grow too long.
+    std::optional<Treatment> TreatVisibly(StringView original);
+    /// Writes one variant under that name beside the original, after all questions.
+    void WriteDestination(StringView name, StringView text, StringView original);
+    /// The item of that name beside the original, free to be written to; nothing when it isn't, which was told.
+    std::optional<FolderItem> FreeTarget(StringView name);
+
+    const DesktopWindow& winMain_;
+    DesktopSegmentedButton& segButtSpecA_;
+    Timer& timerQuit_;
+    /// The original file, nothing until one was chosen.
+    std::optional<FolderItem> FichOrg;
+};

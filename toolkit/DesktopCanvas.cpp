@@ -1,0 +1,71 @@
+#include "toolkit/DesktopCanvas.h"
+
+#include <QEvent>
+#include <QPainter>
+#include <QWidget>
+
+namespace {
+
+class CanvasWidget final : public QWidget {
+public:
+    explicit CanvasWidget(DesktopCanvas& owner)
+        : owner_(owner)
+    {
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        if (!owner_.Paint) return;
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        Graphics graphics(painter);
+        owner_.Paint(graphics, width(), height());
+    }
+
+    void changeEvent(QEvent* event) override
+    {
+        if (event->type() == QEvent::EnabledChange) setAttribute(Qt::WA_TransparentForMouseEvents, !isEnabled());
+        QWidget::changeEvent(event);
+    }
+
+private:
+    DesktopCanvas& owner_;
+};
+
+} // namespace
+
+void Graphics::SetDrawingColor(ColorGroup color, int transparency)
+{
+    color_ = color;
+    transparency_ = transparency;
+}
+
+void Graphics::FillRectangle(int left, int top, int width, int height)
+{
+    FillRoundRectangle(left, top, width, height, 0, 0);
+}
+
+void Graphics::FillRoundRectangle(int left, int top, int width, int height, int cornerWidth, int cornerHeight)
+{
+    QColor color(color_.rgb);
+    color.setAlphaF(1.0F - static_cast<float>(transparency_) / 100.0F);
+    painter_.setPen(Qt::NoPen);
+    painter_.setBrush(color);
+    painter_.drawRoundedRect(left, top, width, height, cornerWidth / 2.0, cornerHeight / 2.0);
+}
+
+DesktopCanvas::DesktopCanvas(DesktopWindow& window, const Placement& placement)
+    : DesktopUIControl(window, new CanvasWidget(*this), placement)
+{
+}
+
+void DesktopCanvas::SetAllowFocus(bool allowed)
+{
+    const bool stop = TabIndex() >= 0;
+    widget_->setFocusPolicy(!allowed ? Qt::NoFocus : stop ? Qt::TabFocus : Qt::ClickFocus);
+}
+
+void DesktopCanvas::BringToFront() { widget_->raise(); }
+
+void DesktopCanvas::Refresh() { widget_->update(); }

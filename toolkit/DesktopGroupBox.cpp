@@ -1,0 +1,92 @@
+#include "toolkit/DesktopGroupBox.h"
+
+#include "toolkit/Appearance.h"
+
+#include <QDropEvent>
+#include <QGroupBox>
+#include <QMimeData>
+#include <QUrl>
+#include <algorithm>
+
+/// Watches the window's content: what is dragged over a control inside the frame, which takes no drops, is told to
+/// that.
+class DesktopGroupBox::Drops final : public QObject {
+public:
+    Drops(DesktopGroupBox& owner, QWidget& frame)
+        : owner_(owner)
+        , frame_(frame)
+    {
+        frame.parentWidget()->setAcceptDrops(true);
+        frame.parentWidget()->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        switch (event->type()) {
+        case QEvent::DragEnter:
+        case QEvent::DragMove:
+            Move(*static_cast<QDragMoveEvent*>(event));
+            return true;
+        case QEvent::DragLeave:
+            Leave();
+            return true;
+        case QEvent::Drop:
+            Drop(*static_cast<QDropEvent*>(event));
+            return true;
+        default:
+            return false;
+        }
+    }
+
+private:
+    static DragItem ItemOf(const QMimeData& dragged)
+    {
+        DragItem item;
+        const QList<QUrl> urls = dragged.urls();
+        for (const QUrl& url : urls)
+            if (url.isLocalFile()) item.FolderItems.emplace_back(url.toLocalFile().toStdString());
+        return item;
+    }
+
+    void Move(QDragMoveEvent& event)
+    {
+        const bool over = frame_.geometry().contains(event.position().toPoint()) && event.mimeData()->hasUrls() &&
+                          owner_.TakesInput();
+        if (over && !inside_) {
+            inside_ = true;
+            refused_ = !owner_.DragEnter || owner_.DragEnter(ItemOf(*event.mimeData()));
+        } else if (!over) {
+            Leave();
+        }
+        // The content goes on being told where the pointer is.
+        event.setDropAction(over && !refused_ ? Qt::CopyAction : Qt::IgnoreAction);
+        event.accept();
+    }
+
+    void Leave()
+    {
+        if (std::exchange(inside_, false) && owner_.DragExit) owner_.DragExit();
+    }
+
+    void Drop(QDropEvent& event)
+    {
+        if (!std::exchange(inside_, false) || refused_) return event.ignore();
+        event.setDropAction(Qt::CopyAction);
+        event.accept();
+        if (owner_.DropObject) owner_.DropObject(ItemOf(*event.mimeData()));
+    }
+
+    DesktopGroupBox& owner_;
+    QWidget& frame_;
+    bool inside_ = false, refused_ = false;
+};
+
+DesktopGroupBox::DesktopGroupBox(DesktopWindow& window, const Placement& placement, StringView caption)
+    : DesktopUIControl(window, new QGroupBox, placement)
+    , drops_(std::make_unique<Drops>(*this, *widget_))
+{
+    static_cast<QGroupBox*>(widget_)->setTitle(Marked(caption));
+}
+
+DesktopGroupBox::~DesktopGroupBox() = default;
