@@ -1,0 +1,59 @@
+#include "app/App.h"
+#include "app/WinAide.h"
+#include "support/Fncts.h"
+#include "toolkit/Probe.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class Help : public testing::Test {
+protected:
+    static void Click(DesktopLabel& label, int x, int y)
+    {
+        EXPECT_TRUE(label.MouseDown(1, 1));
+        label.MouseUp(x, y);
+    }
+
+    char name[8] = "tests";
+    char* argv[2] = {name, nullptr};
+    int argc = 1;
+    App app{argc, argv};
+    Probe probe;
+    WinAide window;
+};
+
+TEST_F(Help, LinksAreFollowedWithinTheirLabels)
+{
+    window.Show();
+    Click(window.Web2, window.Web2.Width() + 1, 0);
+    Click(window.Email2, 0, -1);
+    EXPECT_TRUE(probe.Links.empty());
+    Click(window.Web2, window.Web2.Width(), window.Web2.Height());
+    Click(window.Email2, 0, 0);
+    EXPECT_EQ(probe.Links,
+              (std::vector<String>{
+                  U"https://tarnivel.example",
+                  U"mailto:contact%40tarnivel.example?Subject=A%20propos%20de%20Tarnivel%20v.1.1.3%20Mac%20"
+                  U"INTEL%2064-bit%20%28Lumbra2023r4%29%20-%202024-02-25%2010%3A51%20CET",
+              }));
+}
+
+TEST_F(Help, ItsButtonAloneClosesIt)
+{
+    for (const bool before : {true, false}) {
+        Fncts::DrapMenu = before;
+        probe.Beeps = 0;
+        window.Show();
+        EXPECT_FALSE(Fncts::DrapMenu);
+        window.Close();
+        EXPECT_TRUE(window.CancelClosing(true));
+        EXPECT_TRUE(window.Visible());
+        EXPECT_EQ(probe.Beeps, 2);
+        window.BoutonOk_Pressed();
+        EXPECT_FALSE(window.Visible());
+        EXPECT_EQ(Fncts::DrapMenu, before);
+    }
+}
+
+} // namespace

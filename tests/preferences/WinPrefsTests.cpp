@@ -1,0 +1,73 @@
+#include "app/App.h"
+#include "preferences/WinPrefs.h"
+#include "support/Fncts.h"
+#include "toolkit/Probe.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class PreferencesWindow : public testing::Test {
+protected:
+    void Open(int left = 100)
+    {
+        Fncts::DrapMenu = true;
+        winMain.SetLeft(left);
+        winMain.SetTop(50);
+        window.emplace(winMain, segButtSpecA);
+        window->Show();
+        EXPECT_FALSE(Fncts::DrapMenu);
+    }
+
+    char name[8] = "tests";
+    char* argv[2] = {name, nullptr};
+    int argc = 1;
+    App app{argc, argv};
+    Probe probe;
+    DesktopWindow winMain{{.title = U"Main", .width = 700, .height = 400}};
+    DesktopSegmentedButton segButtSpecA{winMain, {0, 0, 100, 20}, U"Spécial A"};
+    std::optional<WinPrefs> window;
+};
+
+TEST_F(PreferencesWindow, TakesOverBothSettingsOrNone)
+{
+    app.DefVolSon(40, true);
+    app.DrapAffBtnSpecA = false;
+    segButtSpecA.SetVisible(false);
+    for (const bool taken : {false, true}) {
+        Open();
+        EXPECT_EQ(window->SliderVol.Value(), 40);
+        EXPECT_EQ(window->SliderVol.Tooltip(), U"40");
+        EXPECT_FALSE(window->CheckBoxAffBtnSpecA.Value());
+        window->SliderVol.SetValue(7);
+        EXPECT_EQ(window->SliderVol.Tooltip(), U"7");
+        window->CheckBoxAffBtnSpecA.SetValue(true);
+        EXPECT_EQ(app.DefVolSon(-1, false), 40) << "not before the button is pressed";
+        window->Close();
+        EXPECT_TRUE(window->Visible());
+        taken ? window->PushButtOk_Pressed() : window->PushButtAnnuler_Pressed();
+        EXPECT_FALSE(window->Visible());
+        EXPECT_TRUE(Fncts::DrapMenu);
+        EXPECT_EQ(app.DefVolSon(-1, false), taken ? 7 : 40);
+        EXPECT_EQ(app.DrapAffBtnSpecA, taken);
+        EXPECT_EQ(segButtSpecA.Visible(), taken);
+    }
+    EXPECT_EQ(probe.Beeps, 2);
+    EXPECT_TRUE(probe.Sounds.empty());
+}
+
+TEST_F(PreferencesWindow, StandsOnTheMainWindowAndOnTheScreen)
+{
+    probe.ScreenSize = {{1000, 800}};
+    const struct {
+        int winMain, left;
+    } rows[] = {{100, 250}, {-300, 0}, {600, 600}};
+    for (const auto& row : rows) {
+        Open(row.winMain);
+        EXPECT_EQ(window->Left(), row.left);
+        EXPECT_EQ(window->Top(), 80);
+        window->PushButtAnnuler_Pressed();
+    }
+}
+
+} // namespace

@@ -1,0 +1,254 @@
+#include "app/App.h"
+#include "specialA/WinSpecA.h"
+#include "support/Fncts.h"
+#include "support/PathForm.h"
+#include "tests/TemporaryFolder.h"
+#include "toolkit/Probe.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+namespace {
+
+const String found = U"Nombre de fois où les textes cherchés ont été trouvés :\n • 1 x “a”[Continuer][Arrêter]";
+
+String Exists(StringView name)
+{
+    return U"Un fichier nommé “" + String(name) + U"” existe déjà.[Remplacer][Ne pas remplacer]";
+}
+
+class SpecialA : public testing::Test {
+protected:
+    SpecialA()
+    {
+        Fncts::DrapMenu = true;
+        probe.ScreenSize = {{1280, 800}};
+        app.TabSpecAorg = {U"", U"a"};
+        app.TabSpecAdest1 = {U"one", U"1"};
+        app.TabSpecAdest2 = {U"two", U"2"};
+        segButtSpecA.SetSelected(0, true);
+    }
+
+    void Open(const std::filesystem::path& original = {})
+    {
+        if (!original.empty()) app.PathSpecA = Fncts::AbsPath_f(FolderItem(original), true);
+        window.emplace(winMain, segButtSpecA, timerQuit);
+        window->Show();
+    }
+    String Row(int row) const
+    {
+        return window->ListboxRR.CellTextAt(row, 0) + U"|" + window->ListboxRR.CellTextAt(row, 1) + U"|" +
+               window->ListboxRR.CellTextAt(row, 2);
+    }
+    /// What was asked since the last call.
+    std::vector<String> Asked() { return std::exchange(probe.Asked, {}); }
+
+    TemporaryFolder folder;
+    Probe probe;
+    char name[8] = "tests";
+    char* argv[2] = {name, nullptr};
+    int argc = 1;
+    App app{argc, argv};
+    DesktopWindow winMain{{.title = U"Main", .width = 700, .height = 400}};
+    DesktopSegmentedButton segButtSpecA{winMain, {0, 0, 100, 20}, U"Spécial A"};
+    Timer timerQuit{10};
+    std::optional<WinSpecA> window;
+};
+
+TEST_F(SpecialA, WritesWhatTheAnswersAllow)
+{
+    using Answers = std::deque<Probe::Answer>;
+    const struct {
+        const char* name;
+        StringView dest1, dest2;
+        Answers answers;
+        const char *one, *two, *original;
+        std::vector<String> more;
+        int sounds;
+    } rows[] = {
+        {"both are written", U"one", U"two", {}, "x 1", "x 2", "x A", {}, 2},
+        {"nothing after the second button", U"one", U"two", {2}, "", "", "x A", {}, 0},
+        {"without names nothing is written", U"", U"", {}, "", "", "x A", {}, 0},
+        {"one is refused, the other written", U"taken", U"two", {1, 2}, "", "x 2", "x A", {Exists(U"taken")}, 1},
+        {"the same name twice: the second takes the place of the first",
+         U"one",
+         U"one",
+         {},
+         "x 2",
+         "",
+         "x A",
+         {Exists(U"one")},
+         2},
+        {"the original itself, when the user wants it",
+         U"original.txt",
+         U"",
+         {},
+         "",
+         "",
+         "x 1",
+         {Exists(U"original.txt")},
+         1},
+        {"no name leads out of the folder",
+         U"../two",
+         U"..",
+         {},
+         "",
+         "",
+         "x A",
+         {U"Il y a eu une erreur pendant l'écriture du fichier.[Ok]",
+          U"Il y a eu une erreur pendant l'écriture du fichier.[Ok]"},
+         0},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        std::filesystem::remove_all(folder.Path() / "in");
+        const auto original = folder.File("in/original.txt", "x A");
+        folder.File("in/taken", "old");
+        folder.File("two", "outside");
+        Open(original);
+        window->TextFieldDest1.SetText(row.dest1);
+        window->TextFieldDest2.SetText(row.dest2);
+        probe.Answers = row.answers;
+        probe.Sounds.clear();
+        window->PushButtTrait_Pressed();
+        std::vector<String> asked = Asked();
+        ASSERT_FALSE(asked.empty());
+        EXPECT_EQ(asked.front(), found);
+        asked.erase(asked.begin());
+        EXPECT_EQ(asked, row.more);
+        EXPECT_EQ(folder.Content("in/one"), row.one);
+        EXPECT_EQ(folder.Content("in/two"), row.two);
+        EXPECT_EQ(folder.Content("in/original.txt"), row.original);
+        EXPECT_EQ(folder.Content("in/taken"), "old");
+        EXPECT_EQ(folder.Content("two"), "outside");
+        EXPECT_EQ(std::ssize(probe.Sounds), row.sounds);
+        EXPECT_TRUE(Fncts::DrapMenu);
+    }
+}
+
+TEST_F(SpecialA, AsksBeforeItWritesAnUnchangedText)
+{
+    const auto original = folder.File("original.txt", "X A");
+    app.TabSpecAdest1[1] = U"a";
+    Open(original);
+    probe.Answers = {1, 2};
+    window->PushButtTrait_Pressed();
+    EXPECT_EQ(std::ssize(Asked()), 2) << "another case alone is no change";
+    EXPECT_EQ(folder.Content("one"), "");
+    EXPECT_EQ(folder.Content("two"), "X 2") << "the other is written all the same";
+}
+
+TEST_F(SpecialA, HasNoUseForWhatIsNoFile)
+{
+    const String missing = U"Le fichier original n'existe pas.[Ok]";
+    std::filesystem::create_symlink(folder.File("text"), folder.Path() / "link");
+    Open();
+    EXPECT_EQ(window->StTextFichSource.Text(), U"…");
+    window->PushButtTrait_Pressed();
+    EXPECT_EQ(Asked(), std::vector{missing});
+    const auto gone = folder.File("gone.txt");
+    Open(gone);
+    EXPECT_EQ(window->TextFieldOrg.Text(), U"gone.txt");
+    std::filesystem::remove(gone);
+    window->PushButtTrait_Pressed();
+    EXPECT_EQ(Asked(), std::vector{missing});
+    EXPECT_EQ(window->TextFieldOrg.Text(), U"…");
+
+    const auto pipe = folder.Path() / "pipe.txt";
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    Open(pipe);
+    window->PushButtTrait_Pressed();
+    EXPECT_EQ(Asked().front(),
+              U"Nombre de fois où les textes cherchés ont été trouvés :\n • 0 x “a”[Continuer][Arrêter]")
+        << "it can't be read, and doesn't wait";
+}
+
+TEST_F(SpecialA, TakesDroppedTextFilesOnly)
+{
+    const String refused = U"Vous ne pouvez glisser déposer qu'un fichier contenant du texte ici.[Ok]";
+    const auto text = folder.File("text.TXT"), picture = folder.File("picture.png");
+    std::filesystem::create_symlink(text, folder.Path() / "link.png");
+    std::filesystem::create_symlink(folder.Folder("folder.txt"), folder.Path() / "link.txt");
+    const struct {
+        const char* name;
+        std::vector<FolderItem> items;
+        StringView org;
+    } rows[] = {
+        {"a text file", {FolderItem(text)}, U"text.TXT"},
+        {"an alias that leads to one", {FolderItem(folder.Path() / "link.png")}, U"text.TXT"},
+        {"another file", {FolderItem(picture)}, U"…"},
+        {"a folder", {FolderItem(folder.Path() / "folder.txt")}, U"…"},
+        {"an alias that leads to a folder", {FolderItem(folder.Path() / "link.txt")}, U"…"},
+        {"two files", {FolderItem(text), FolderItem(text)}, U"…"},
+        {"a file that is gone", {FolderItem(folder.Path() / "gone.txt")}, U"…"},
+        {"no file", {}, U"…"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        app.PathSpecA.clear();
+        Open();
+        window->GroupBoxSource_DragEnter();
+        EXPECT_TRUE(window->CanvDrag.Visible());
+        EXPECT_EQ(window->CanvDrag.Width(), 630);
+        window->GroupBoxSource_DropObject({row.items});
+        EXPECT_FALSE(window->CanvDrag.Visible());
+        EXPECT_EQ(window->TextFieldOrg.Text(), row.org);
+        EXPECT_EQ(Asked(), row.org == U"…" ? std::vector{refused} : std::vector<String>());
+    }
+    Fncts::DrapMenu = false;
+    window->GroupBoxSource_DropObject({{FolderItem(text)}});
+    EXPECT_EQ(window->TextFieldOrg.Text(), U"…") << "not while anything is under way";
+}
+
+TEST_F(SpecialA, TheTableGrowsAndShrinks)
+{
+    app.TabSpecAdest2 = {U"two", U"2", U"lonely"};
+    Open();
+    EXPECT_EQ(window->ListboxRR.LastRowIndex(), 1);
+    EXPECT_EQ(Row(1), U"||lonely") << "lists of unequal length leave empty cells";
+    window->PushButtSupp_Pressed();
+    EXPECT_EQ(probe.Beeps, 1) << "the last row isn't empty";
+    window->PushButtAdd_Pressed();
+    window->PushButtSupp_Pressed();
+    EXPECT_EQ(window->ListboxRR.LastRowIndex(), 1);
+    window->ListboxRR.SetSelectedRowIndex(0);
+    window->ListboxRR_TextPasted(U"org\tone\ttwo\n\nx\ty\tz\r\nv");
+    EXPECT_EQ(Row(1), U"x|y|z");
+    EXPECT_EQ(Row(2), U"v||");
+    window->PushButtSupp_Pressed();
+    EXPECT_EQ(Row(0), U"x|y|z") << "the selected row went";
+    while (window->ListboxRR.LastRowIndex() < 999)
+        window->PushButtAdd_Pressed();
+    EXPECT_EQ(probe.Beeps, 1);
+    window->PushButtAdd_Pressed();
+    window->ListboxRR_TextPasted(U"more");
+    EXPECT_EQ(window->ListboxRR.LastRowIndex(), 999);
+    EXPECT_EQ(probe.Beeps, 3);
+}
+
+TEST_F(SpecialA, HandsAllBackWhenItCloses)
+{
+    const auto original = folder.File("original.txt", "x");
+    app.WspecAheight = 450;
+    Open(original);
+    EXPECT_EQ(window->Height(), 450);
+    window->ListboxRR.AddRow({U"s", U"r1", U"r2"});
+    window->SetHeight(500);
+    Fncts::DrapMenu = false;
+    window->Close();
+    EXPECT_TRUE(window->Visible());
+    EXPECT_EQ(probe.Beeps, 1);
+    Fncts::DrapMenu = true;
+    window->Close();
+    EXPECT_FALSE(window->Visible());
+    EXPECT_FALSE(segButtSpecA.Selected(0));
+    EXPECT_EQ(app.WspecAheight, 500);
+    EXPECT_EQ(app.PathSpecA, Fncts::AbsPath_f(FolderItem(original), true));
+    EXPECT_EQ(app.TabSpecAorg, (std::vector<String>{U"original.txt", U"a", U"s"}));
+    EXPECT_EQ(app.TabSpecAdest2, (std::vector<String>{U"two", U"2", U"r2"}));
+    app.WspecAheight = 900;
+    Open();
+    EXPECT_EQ(window->Height(), 400) << "no room on the screen";
+}
+
+} // namespace
