@@ -89,7 +89,7 @@ void WinSpecA::WriteDestination(StringView name, StringView text, StringView ori
 std::optional<FolderItem> WinSpecA::FreeTarget(StringView name)
 {
     const std::optional<FolderItem> folder = FichOrg->Parent();
-    const std::optional<FolderItem> target = folder ? folder->Child(name, false) : std::nullopt;
+    std::optional<FolderItem> target = folder ? folder->Child(name, false) : std::nullopt;
     if (!target) {
         // A name that no file can have, or that would lead out of the folder.
         Fncts::BeepNbT(1);

@@ -144,7 +144,7 @@ String DesktopLabel::Text() const
 void DesktopLabel::SetText(StringView text)
 {
     if (auto* const lines = qobject_cast<QPlainTextEdit*>(widget_)) return lines->setPlainText(ToDocument(text));
-    auto* const label = static_cast<QLabel*>(widget_);
-    label->setText(ToQt(text));
-    FitFont(*label, label->text(), Width(), fontSize_);
+    auto& label = static_cast<QLabel&>(*widget_);
+    label.setText(ToQt(text));
+    FitFont(label, label.text(), Width(), fontSize_);
 }
