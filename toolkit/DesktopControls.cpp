@@ -162,8 +162,9 @@ DesktopSegmentedButton::DesktopSegmentedButton(DesktopWindow& window, const Plac
     auto* segment = static_cast<QPushButton*>(widget_);
     segment->setCheckable(true);
     SetButtonCaption(*segment, caption, Width() - 2 * ButtonMargin);
-    QObject::connect(segment, &QPushButton::clicked, segment, [this, segment] {
-        if (!TakesInput()) return segment->toggle();
+    // A screen reader toggles the button without a click.
+    QObject::connect(segment, &QPushButton::toggled, segment, [this](bool on) {
+        if (!TakesInput()) return SetSelected(0, !on);
         if (Pressed) Pressed(0);
     });
 }
@@ -175,5 +176,6 @@ bool DesktopSegmentedButton::Selected(int segmentIndex) const
 
 void DesktopSegmentedButton::SetSelected(int segmentIndex, bool selected)
 {
+    const QSignalBlocker silence(widget_);
     if (segmentIndex == 0) static_cast<QPushButton*>(widget_)->setChecked(selected);
 }

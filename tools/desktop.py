@@ -62,6 +62,7 @@ class Program:
         self.desktop = Atspi.get_desktop(0)
         self.desktop.set_cache_mask(Atspi.Cache.NONE)  # the cache is kept up by a main loop, and here is none
         self.application = None
+        self.front = None  # the title of the window that is looked at; None for the first
 
     def __enter__(self):
         return self
@@ -104,14 +105,19 @@ class Program:
         return [child for child in shown if (child.get_role_name() in ("alert", "dialog")) == dialogs]
 
     def window(self):
-        """The main window, once it is on the screen."""
-        return self.wait_for("a main window", lambda: next(iter(self.windows(dialogs=False)), None))
+        """The window that is looked at, once it is on the screen."""
+
+        def found():
+            shown = self.windows(dialogs=False)
+            return next((window for window in shown if self.front in (None, window.get_name())), None)
+
+        return self.wait_for(f"a window {self.front or ''}", found)
 
     def dialog(self):
         return self.wait_for("a dialog", lambda: next(iter(self.windows(dialogs=True)), None))
 
     def all(self, role=None, name=None):
-        """What is to be seen in the main window, by role and by name (or one of several names)."""
+        """What is to be seen in that window, by role and by name (or one of several names)."""
         names = {name} if isinstance(name, str) else name
         return [
             node

@@ -1,0 +1,32 @@
+"""A user who chooses files and folders in the dialogs for that."""
+
+from desktop import has
+
+
+def path_form(path):
+    return "Linux" + str(path).replace("/", ":") + (":" if path.is_dir() else "")
+
+
+def press_beside(program, name):
+    """Presses the select button in the row of a field; the field."""
+    field = program.find("text", name)
+    row = program.extents(field)[1]
+    buttons = program.all("push button", ("Sélect fichier", "Sélect dossier"))
+    program.act(min(buttons, key=lambda button: abs(program.extents(button)[1] - row)))
+    return field
+
+
+def open_chooser(program):
+    dialog = program.dialog()
+    program.wait_for("an active chooser", lambda: has(dialog, "active"))
+    return dialog
+
+
+def choose(program, name, path):
+    """Types a path into the chooser of a field."""
+    field = press_beside(program, name)
+    dialog = open_chooser(program)
+    program.type(str(path))
+    program.keys("Return")
+    program.wait_until_gone(dialog)
+    program.wait_for(f"{path_form(path)}", lambda: program.text(field) == path_form(path))
