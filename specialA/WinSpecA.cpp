@@ -12,7 +12,7 @@ using namespace Localisation;
 namespace {
 
 constexpr unsigned L = Lock::Left, T = Lock::Top, R = Lock::Right, B = Lock::Bottom;
-constexpr LabelStyle multiline{.fontSize = 12, .multiline = true};
+constexpr LabelStyle desktopColor{.color = std::nullopt}, multiline{.fontSize = 12, .multiline = true};
 constexpr FieldStyle onlyRead{.readOnly = true, .color = {0x5E5E5E}}, fileName{.oneLine = true};
 
 /// Stripes, so that the eye stays in its row.
@@ -44,10 +44,10 @@ WinSpecA::WinSpecA(const DesktopWindow& winMain, DesktopSegmentedButton& segButt
     , PushButtSource   (*this, { 484,  88, 152,  20, T | R,          0}, Btn_ChoisirFich())
     , StTextFichSource (*this, {  34,  45, 607,  40, L | T | R,      1}, {}, multiline)
     , ListboxRR        (*this, {  20, 159, 630, 189, L | T | R | B,  5}, 3)
-    , LabelOrg         (*this, {  20, 135,  58,  20, L | T},             LabOrg())
+    , LabelOrg         (*this, {  20, 135,  58,  20, L | T},             LabOrg(), desktopColor)
     , PushButtTrait    (*this, { 570, 360,  80,  20, R | B,          9}, Btn_Trait())
-    , LabelDest2       (*this, { 440, 135,  58,  20, L | T},             LabDest2())
-    , LabelDest1       (*this, { 230, 135,  58,  20, L | T},             LabDest1())
+    , LabelDest2       (*this, { 440, 135,  58,  20, L | T},             LabDest2(), desktopColor)
+    , LabelDest1       (*this, { 230, 135,  58,  20, L | T},             LabDest1(), desktopColor)
     , CanvDrag         (*this, { 626,   2,  20,  20, 0})
     , PushButtAdd      (*this, {  20, 360,  26,  20, L | B,          6}, U"+")
     , PushButtSupp     (*this, {  49, 360,  26,  20, L | B,          7}, U"-")
@@ -56,7 +56,7 @@ WinSpecA::WinSpecA(const DesktopWindow& winMain, DesktopSegmentedButton& segButt
     , TextFieldDest2   (*this, { 500, 134, 140,  22, L | T,          4}, {}, fileName)
     , PushButtQuit     (*this, { 478, 360,  80,  20, R | B,          8}, Btn_Quit())
     , CanvFocus        (*this, { 655,   0,  16,  20, T | R,         10})
-    , PushButtCopiList (*this, {  87, 360,  26,  20, L | B},             U"⧉")
+    , PushButtCopiList (*this, {  87, 360,  26,  20, L | B},             CanShow(U'⧉') ? U"⧉" : U"❐")
     , ProgressTrait    (*this, { 128, 360, 335,  20, L | R | B})
     // clang-format on
     , winMain_(winMain)

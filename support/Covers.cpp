@@ -13,7 +13,7 @@ namespace {
 
 constexpr StringView firstName = U"LabBlockUI", coverName = U"LabBlockUI1", strangerName = U"LabBlockUI2";
 constexpr Placement uncovered{0, 0, 16, 16};
-constexpr LabelStyle labelStyle{.color = {0xFF0000}, .alignment = TextAlignment::Center};
+constexpr LabelStyle labelStyle{.color = ColorGroup{0xFF0000}, .alignment = TextAlignment::Center};
 
 /// All windows, the last one made first. A list of its own, since a message may open windows.
 std::vector<DesktopWindow*> WindowsFromLastToFirst()

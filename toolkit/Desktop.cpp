@@ -9,6 +9,7 @@
 #include <QDesktopServices>
 #include <QFile>
 #include <QFileInfo>
+#include <QFontMetrics>
 #include <QPalette>
 #include <QScreen>
 #include <QUrl>
@@ -101,3 +102,5 @@ void RevealItem(const FolderItem& item)
 bool IsPackage(const FolderItem& item) { return QFileInfo(QFile::decodeName(item.Path().c_str())).isBundle(); }
 
 bool IsDarkMode() { return QGuiApplication::palette().color(QPalette::Window).lightness() < 128; }
+
+bool CanShow(char32_t character) { return QFontMetrics(QGuiApplication::font()).inFontUcs4(character); }

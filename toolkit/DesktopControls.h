@@ -53,7 +53,8 @@ public:
 enum class TextAlignment { Left, Center, Right };
 
 struct LabelStyle {
-    ColorGroup color{};
+    /// Nothing for the desktop's colour.
+    std::optional<ColorGroup> color = ColorGroup{};
     TextAlignment alignment = TextAlignment::Left;
     bool bold = false;
     bool underline = false;

@@ -108,7 +108,7 @@ QWidget* MakeMultiline(const LabelStyle& style)
     QPalette colours = text->palette();
     colours.setColor(QPalette::Base, Qt::transparent);
     text->setPalette(colours);
-    SetTextColor(*text, QPalette::Text, style.color);
+    SetTextColor(*text, QPalette::Text, style.color.value_or(ColorGroup{}));
     return text;
 }
 
@@ -118,11 +118,11 @@ DesktopLabel::DesktopLabel(DesktopWindow& window, const Placement& placement, St
     : DesktopUIControl(window, style.multiline ? MakeMultiline(style) : new LabelWidget, placement)
     , fontSize_(style.fontSize)
 {
-    auto* const label = dynamic_cast<LabelWidget*>(widget_);
-    if (!label) {
+    if (style.multiline) {
         SetText(text);
         return;
     }
+    auto* const label = static_cast<LabelWidget*>(widget_);
     label->owner = this;
     label->setTextFormat(Qt::PlainText);
     label->setAlignment(AlignmentOf(style.alignment) | Qt::AlignVCenter);
@@ -130,7 +130,7 @@ DesktopLabel::DesktopLabel(DesktopWindow& window, const Placement& placement, St
     font.setBold(style.bold);
     font.setUnderline(style.underline);
     label->setFont(font);
-    SetTextColor(*label, QPalette::WindowText, style.color);
+    if (style.color) SetTextColor(*label, QPalette::WindowText, *style.color);
     SetText(text);
 }
 
