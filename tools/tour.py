@@ -1,0 +1,131 @@
+"""Leads through all windows and the dialogs of a run, a save and a treatment, in any language and appearance.
+
+    with Program([command], environment(sample, "de", "dark")) as program:
+        for name in tour(program, texts("de")):
+            shoot(f"{name}.png")
+
+`sample` is a folder that make_sample.py has filled.
+"""
+
+import pathlib
+import subprocess
+import time
+from xml.etree import ElementTree
+
+from desktop import has, private_environment
+
+LANGUAGES = ("fr", "en", "de", "es", "it", "pt", "nl")
+TRANSLATIONS = pathlib.Path(__file__).parent.parent / "resources" / "translations"
+# Colours of a dark desktop, in the file in which one of them keeps them.
+DARK = {"Window": (35, 35, 40), "View": (27, 27, 30), "Button": (50, 50, 56), "Selection": (60, 110, 180)}
+
+
+def texts(language):
+    """All texts of a language by their keys."""
+    messages = ElementTree.parse(TRANSLATIONS / f"tarnivel_{'en' if language == 'fr' else language}.ts").iter("message")
+    shown = "source" if language == "fr" else "translation"
+    return {message.get("id").split(".")[1]: message.findtext(shown) for message in messages}
+
+
+def environment(sample, language, appearance="light"):
+    home = pathlib.Path(sample, "home")
+    colors = home / ".config" / "kdeglobals"
+    colors.parent.mkdir(exist_ok=True)
+    groups = (
+        f"[Colors:{name}]\nBackgroundNormal={red},{green},{blue}\nBackgroundAlternate={red},{green},{blue}\n"
+        "ForegroundNormal=240,240,240\nForegroundInactive=160,160,160\nForegroundLink=100,160,250\n"
+        for name, (red, green, blue) in DARK.items()
+    )
+    colors.write_text("".join(groups) if appearance == "dark" else "")
+    desktop = {"XDG_CURRENT_DESKTOP": "KDE", "KDE_SESSION_VERSION": "5"} if appearance == "dark" else {}
+    return private_environment(home, LANG="C.UTF-8", LANGUAGE=language, LC_ALL="", **desktop)
+
+
+def shoot(path, front=True):
+    """A picture of the window in front, with its frame, or of the whole screen, once it stands still."""
+    window = subprocess.check_output(["xdotool", "getactivewindow"], text=True).strip() if front else "root"
+    command = ["import", "-window", window, *(["-frame"] if front else ["-trim"]), "+repage", "+dither"]
+    before, now = None, subprocess.check_output([*command, "rgb:-"])
+    while now != before:
+        time.sleep(0.1)
+        before, now = now, subprocess.check_output([*command, "rgb:-"])
+    subprocess.run([*command, "-colors", "128", f"PNG8:{path}"], check=True)
+
+
+def _await_front(program, find):
+    program.wait_for("an active window", lambda: has(find(), "active"))
+
+
+def _dialogs(program, text, name, *answers):
+    """The dialogs that come up one after the other, each answered by the button of a key."""
+    for number, answer in enumerate(answers, 1):
+        _await_front(program, program.dialog)
+        yield name if len(answers) == 1 else f"{name}{number}"
+        program.answer(text[answer])
+
+
+def _saves(program, text):
+    folder, target = (program.find("text", text[key]) for key in ("ChBoxArchive", "StTextScenPack"))
+    archives, file = program.text(folder), program.text(target)
+    for name, archive, saved, *answers in (
+        ("save", archives, file, "Btn_Annuler"),
+        ("no-archives", "", file, "Btn_Annuler"),
+        ("no-old-file", archives, "Linux:proc:new.ini", "Btn_Annuler"),
+        ("no-target", archives, "", "Btn_Ok"),
+        ("failed-save", "Linux:proc:", "Linux:proc:version", "Btn_SauvFichier", "Btn_Cont", "Btn_Ok"),
+    ):
+        program.set_text(folder, archive)
+        program.set_text(target, saved)
+        program.press(text["Btn_SauvFichier"])
+        yield from _dialogs(program, text, name, *answers)
+    program.set_text(folder, archives)
+    program.set_text(target, file)
+
+
+def _special(program, text):
+    for name, answers in (("treat", ["Btn_Cont"]), ("treat-again", ["Btn_Cont", "Btn_NePasRempl", "Btn_NePasRempl"])):
+        program.press(text["Btn_Trait"])
+        yield from _dialogs(program, text, name, *answers)
+
+
+def _window(program, title, close):
+    """A window that has just been asked for; it is shown, and then closed by `close`."""
+    program.front = title
+    window = program.window()
+    _await_front(program, program.window)
+    yield
+    close()
+    program.wait_until_gone(window)
+    program.front = "Tarnivel"
+
+
+def tour(program, text):
+    """Yields the name of each window and dialog when it is in front."""
+    program.front = "Tarnivel"
+    program.press(text["Btn_Generer"])
+    _await_front(program, program.dialog)
+    yield "report"
+    program.answer_until(text["Btn_Generer"])
+    _await_front(program, program.window)
+    yield "main"
+    yield from _saves(program, text)
+
+    special = program.find("check box", text["WinSpecA_Title"])
+    program.act(special)
+    for _ in _window(program, text["WinSpecA_Title"], lambda: program.act(special)):
+        yield "special"
+        yield from _special(program, text)
+    program.keys("ctrl+comma")
+    for _ in _window(program, text["WinPref_Title"], lambda: program.press(text["Btn_Annuler"])):
+        yield "preferences"
+    program.press(text["WinAide_Title"])
+    for _ in _window(program, text["WinAide_Title"], lambda: program.press(text["Btn_Fermer"])):
+        yield "help"
+
+    program.set_text(program.find("text", text["PopupAff"].split("\n")[2]), "")
+    program.press(text["Btn_SauvFichier"])
+    yield from _dialogs(program, text, "no-packs", "Btn_Annuler")
+    program.keys("ctrl+o")
+    _await_front(program, program.dialog)
+    yield "chooser"
+    program.keys("Escape")
