@@ -109,7 +109,7 @@ void Table::dropEvent(QDropEvent* event)
     if (to == from || to == from + 1) return;
 
     std::vector<String> cells;
-    cells.reserve(columnCount());
+    cells.reserve(static_cast<std::size_t>(columnCount()));
     for (int column = 0; column < columnCount(); ++column)
         cells.push_back(owner_.CellTextAt(from, column));
     owner_.RemoveRowAt(from);
