@@ -1,6 +1,4 @@
-#include "mainwindow/Toggling.h"
-
-#include <gtest/gtest.h>
+#include "tests/mainwindow/ToggleLaws.h"
 
 namespace {
 
@@ -66,6 +64,7 @@ TEST(Toggling, LinesInTheSelectionChange)
         ASSERT_TRUE(toggled) << row.name;
         EXPECT_EQ(toggled->text, after.text) << row.name;
         EXPECT_EQ(toggled->selection, after.selection) << row.name;
+        ExpectLawfulToggles(before.text, before.selection);
     }
 }
 
@@ -75,16 +74,6 @@ TEST(Toggling, NothingToSelectChangesNothing)
         const Marked before(marked);
         EXPECT_FALSE(ToggleLines(before.text, before.selection, invert)) << before.text.size();
     }
-}
-
-TEST(Toggling, TwiceGivesTheTextBack)
-{
-    const Marked before(U"I\n[SCENERY_PACK A\n\nSCENERY_PACK_DISABLED B\nx\nSCENERY_PACK ]");
-    const Toggled once = *ToggleLines(before.text, before.selection, invert);
-    EXPECT_NE(once.text, before.text);
-    const Toggled twice = *ToggleLines(once.text, once.selection, invert);
-    EXPECT_EQ(twice.text, before.text);
-    EXPECT_EQ(twice.selection, before.selection);
 }
 
 } // namespace
