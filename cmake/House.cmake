@@ -16,6 +16,9 @@ if(TARNIVEL_SANITIZE)
   target_compile_options(house_flags INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(house_flags INTERFACE -fsanitize=address,undefined)
 endif()
+if(TARNIVEL_FUZZ)
+  target_compile_options(house_flags INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 # house_library(name SOURCES ... [LINKS rooms...] [QT modules...])
 #

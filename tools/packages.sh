@@ -7,7 +7,7 @@
         libgtest-dev fonts-dejavu-core python3)
     screen_packages=(xvfb openbox dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi xdotool imagemagick)
     test_packages=(openssl)
-    check_packages=(clang-format clang-tidy shellcheck git)
+    check_packages=(clang-format clang-tidy clang-14 libclang-rt-14-dev shellcheck git)
 }
 
 # install_missing PACKAGE...: nothing is run, and nobody is asked, when all are there.
