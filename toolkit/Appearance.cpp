@@ -1,14 +1,25 @@
 #include "toolkit/Appearance.h"
 
+#include "toolkit/core/FolderItem.h"
 #include "toolkit/core/QtText.h"
 
+#include <QFontDatabase>
 #include <QFontInfo>
 #include <QFontMetrics>
 #include <QWidget>
+#include <algorithm>
 
 namespace {
 
 constexpr int SmallestFontSize = 9;
+
+QStringList SymbolFamilies()
+{
+    const std::optional<FolderItem> resources = ResourceFolder();
+    const std::optional<FolderItem> file = resources ? resources->Child(U"TarnivelSymbols.ttf") : std::nullopt;
+    if (!file) return {};
+    return QFontDatabase::applicationFontFamilies(QFontDatabase::addApplicationFont(ToQt(file->NativePath())));
+}
 
 } // namespace
 
@@ -28,6 +39,16 @@ void FitFont(QWidget& widget, const QString& caption, int room, int fontSize)
     font.setPixelSize(size);
     while (size > SmallestFontSize && QFontMetrics(font).size(0, caption).width() > room)
         font.setPixelSize(--size);
+    widget.setFont(font);
+}
+
+void ProvideSymbols(QWidget& widget, StringView caption)
+{
+    QFont font = widget.font();
+    const QFontMetrics metrics(font);
+    if (std::ranges::all_of(caption, [&](char32_t symbol) { return metrics.inFontUcs4(symbol); })) return;
+    static const QStringList families = SymbolFamilies();
+    font.setFamilies(font.families() + families);
     widget.setFont(font);
 }
 

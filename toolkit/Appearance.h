@@ -19,6 +19,10 @@ void SetControlFont(QWidget& content);
 /// which `caption` is no wider than `room`.
 void FitFont(QWidget& widget, const QString& caption, int room, int fontSize = 0);
 
+/// Gives the widget the font of the resource folder beside its own if its own lacks symbols of the caption. Without
+/// that file such a symbol is an empty box.
+void ProvideSymbols(QWidget& widget, StringView caption);
+
 /// A caption for a widget that would take "&" for the mark of a key; `Unmarked` gives the caption back.
 QString Marked(StringView caption);
 String Unmarked(QString caption);

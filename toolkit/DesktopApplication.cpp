@@ -2,6 +2,7 @@
 
 #include "toolkit/Dialogs.h"
 #include "toolkit/MenuBar.h"
+#include "toolkit/SessionEnd.h"
 #include "toolkit/core/QtText.h"
 
 #include <QApplication>
@@ -67,6 +68,7 @@ struct DesktopApplication::Private {
     }
 
     GuardedApplication application;
+    SessionEnd sessionEnd{[] { current->Quit(0); }};
     QTranslator platformTexts;
     DesktopMenuBar menuBar;
     std::optional<int> exitCode;

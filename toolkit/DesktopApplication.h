@@ -27,7 +27,8 @@ public:
     /// Runs the event loop until the program quits; the result is the program's exit code. An exception that leaves an
     /// event's handler is shown to the user, and the loop goes on.
     int Run();
-    /// Asks every open window (`CancelClosing` with true); if none objects, the event loop ends with `exitCode`.
+    /// Asks every open window (`CancelClosing` with true); if none objects, the event loop ends with `exitCode`. The
+    /// end of the desktop's log-in comes here too, and so do SIGTERM, SIGINT and SIGHUP, with 0.
     void Quit(int exitCode);
 
     static Int64 WindowCount();

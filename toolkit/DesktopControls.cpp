@@ -22,6 +22,7 @@ constexpr int ArrowWidth = 30;
 
 void SetButtonCaption(QAbstractButton& button, StringView caption, int room, int fontSize = 0)
 {
+    ProvideSymbols(button, caption);
     button.setText(Marked(caption));
     FitFont(button, ToQt(caption), room, fontSize);
 }

@@ -49,6 +49,32 @@ def nodes(root):
             yield from nodes(child)
 
 
+def xdotool(*words):
+    return subprocess.check_output(["xdotool", *map(str, words)], text=True)
+
+
+def pixel(x, y):
+    """The colour at a point of the screen, as "srgb(red,green,blue)"."""
+    crop = ["import", "-window", "root", "-crop", f"1x1+{x}+{y}", "-format", "%[pixel:p{0,0}]", "info:"]
+    return subprocess.check_output(crop, text=True)
+
+
+def wait_for(what, condition, ended=lambda: None):
+    """The first true result of `condition`, which is asked again and again until `ended` has an exit code."""
+    end = time.monotonic() + DEADLINE
+    while time.monotonic() < end:
+        try:
+            result = condition()
+        except GLib.Error:  # a node went away while it was looked at
+            result = None
+        if result:
+            return result
+        if ended() is not None:
+            raise AssertionError(f"the program ended with {ended()} before there was {what}")
+        time.sleep(0.02)
+    raise AssertionError(f"waited in vain for {what}")
+
+
 def text_of(node):
     return Atspi.Text.get_text(node, 0, -1) if "Text" in node.get_interfaces() else node.get_name()
 
@@ -75,19 +101,7 @@ class Program:
             self.process.wait()
 
     def wait_for(self, what, condition):
-        """The first true result of `condition`, which is asked again and again."""
-        end = time.monotonic() + DEADLINE
-        while time.monotonic() < end:
-            try:
-                result = condition()
-            except GLib.Error:  # a node went away while it was looked at
-                result = None
-            if result:
-                return result
-            if self.process.poll() is not None:
-                raise AssertionError(f"the program ended with {self.process.returncode} before there was {what}")
-            time.sleep(0.02)
-        raise AssertionError(f"waited in vain for {what}")
+        return wait_for(what, condition, self.process.poll)
 
     def _application(self):
         if self.application is None:
@@ -214,28 +228,27 @@ class Program:
     def keys(self, *names):
         """Presses keys on the active window, such as "ctrl+s"."""
         self.wait_for("an active window", lambda: any(has(w, "active") for d in (True, False) for w in self.windows(d)))
-        subprocess.run(["xdotool", "key", *names], check=True)
+        xdotool("key", *names)
 
     def type(self, text):
-        subprocess.run(["xdotool", "type", text], check=True)
+        xdotool("type", text)
 
     @contextlib.contextmanager
     def held(self, *names):
         """Holds keys down."""
         for name in names:
-            subprocess.run(["xdotool", "keydown", name], check=True)
+            xdotool("keydown", name)
         try:
             yield
         finally:
             for name in names:
-                subprocess.run(["xdotool", "keyup", name], check=True)
+                xdotool("keyup", name)
 
     def move(self, left, top, width, height):
         """Moves and resizes the main window by way of the window manager."""
-        search = ["xdotool", "search", "--onlyvisible", "--pid", str(self.process.pid), "--name", "."]
-        number = subprocess.check_output(search, text=True).split()[0]
-        subprocess.run(["xdotool", "windowsize", number, str(width), str(height)], check=True)
-        subprocess.run(["xdotool", "windowmove", number, str(left), str(top)], check=True)
+        number = xdotool("search", "--onlyvisible", "--pid", self.process.pid, "--name", ".").split()[0]
+        xdotool("windowsize", number, width, height)
+        xdotool("windowmove", number, left, top)
         self.wait_for("the place", lambda: self.extents(self.window()) == (left, top, width, height))
 
     def color_at(self, node, offset):
@@ -249,7 +262,7 @@ class Program:
     def close(self):
         """Closes the main window by the window manager's key for it; the program's exit code."""
         self.wait_for("an active main window", lambda: has(self.window(), "active"))
-        subprocess.run(["xdotool", "key", "alt+F4"], check=True)
+        xdotool("key", "alt+F4")
         return self.wait_for_end()
 
     def wait_for_end(self):

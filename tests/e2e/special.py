@@ -5,29 +5,18 @@ import subprocess
 import sys
 import time
 
-from desktop import Program, has, private_environment
+from desktop import Program, has, pixel, private_environment, xdotool
 from gi.repository import Atspi
 from sample import sample
 
 REPORT = "Nombre de fois où les textes cherchés ont été trouvés :"
 
 
-def xdotool(*words):
-    subprocess.run(["xdotool", *map(str, words)], check=True)
-
-
-def pixel(x, y):
-    """The colour on the screen, as "srgb(red,green,blue)"."""
-    crop = ["import", "-window", "root", "-crop", f"1x1+{x}+{y}", "-format", "%[pixel:p{0,0}]", "info:"]
-    return subprocess.check_output(crop, text=True)
-
-
 def drag(program, command, file):
     """Drags a file from another window onto the frame; the screen's colour there before, during and after."""
     source = subprocess.Popen([pathlib.Path(command).parent / "drag_source", file])
     try:
-        search = ["xdotool", "search", "--sync", "--onlyvisible", "--name", "Drag source"]
-        number = subprocess.check_output(search, text=True).split()[0]
+        number = xdotool("search", "--sync", "--onlyvisible", "--name", "Drag source").split()[0]
         empty = pixel(1150, 750)
         xdotool("windowmove", number, 1000, 600)
         program.wait_for("the other window", lambda: pixel(1150, 750) != empty)

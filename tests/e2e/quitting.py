@@ -1,0 +1,124 @@
+"""Every way to quit, with the window "Spécial A" open, and what doesn't quit while a run or a dialog is under way."""
+
+import signal
+import subprocess
+import sys
+import time
+
+from desktop import Program, nodes, private_environment, wait_for, xdotool
+from sample import sample
+from server import Server
+
+
+def window_named(name):
+    return xdotool("search", "--sync", "--onlyvisible", "--name", name).split()[0]
+
+
+def quit_by_close_box(program):
+    xdotool("windowactivate", "--sync", window_named("^Tarnivel$"))
+    program.close()
+
+
+def quit_by_menu(program):
+    item = next(node for node in nodes(program.window()) if node.get_name() == "Quit")
+    program.act(item)
+
+
+def quit_by_button(program):
+    program.front = "Spécial A"
+    program.press("Quitter")
+
+
+WAYS = {
+    "the close box": quit_by_close_box,
+    "the menu": quit_by_menu,
+    "Ctrl+Q in Spécial A": lambda program: program.keys("ctrl+q"),
+    "Quitter": quit_by_button,
+    "SIGTERM": lambda program: program.process.send_signal(signal.SIGTERM),
+    "SIGHUP": lambda program: program.process.send_signal(signal.SIGHUP),
+}
+
+
+def use_special(program, name):
+    """Leaves something in the window that only the right quit hands to the preferences."""
+    program.press("Spécial A", "check box")
+    program.front = "Spécial A"
+    program.set_text(program.find("text", "Dest 1 :"), name)
+    program.front = "Tarnivel"
+
+
+def check_ways(command, files):
+    for number, (way, quit_by) in enumerate(WAYS.items()):
+        with Program([command], private_environment(files.home)) as program:
+            use_special(program, f"dest{number}")
+            quit_by(program)
+            assert program.wait_for_end() == 0, way
+            assert program.stderr() == "", (way, program.stderr())
+        kept = files.preferences.read_text("utf-8")
+        assert f"TabSpecAdest1 :@: dest{number}\t" in kept, (way, kept)
+
+
+def check_busy(command, files):
+    """Close box, Ctrl+Q and SIGTERM leave a run, and then a dialog, as they are."""
+    server = Server(files.model_file.read_bytes())
+    with Program([command], private_environment(files.home)) as program:
+        program.act(program.find("radio button", "Url modèle"))
+        program.set_text(program.find("text", "Url modèle"), server.url("/hang"))
+
+        def try_to_quit():
+            program.keys("ctrl+q")
+            program.process.send_signal(signal.SIGTERM)
+
+        program.press("Générer")
+        program.wait_for("a hanging fetch", server.hanging.is_set)
+        program.keys("alt+F4")
+        try_to_quit()
+        program.press("Arrêter")
+        program.find("push button", "Générer")
+        program.set_text(program.find("text", "Url modèle"), server.url("/model.ini"))
+        program.press("Générer")
+        program.dialog()
+        try_to_quit()
+        program.answer_until("Générer")
+        assert program.close() == 0
+    server.ended.set()
+    server.shutdown()
+
+
+def ask_for_log_out():
+    """Drags to the first item of a menu; too soon for the menu, it must be done anew. The window that then opens."""
+    xdotool("mousemove", 1140, 370, "mousedown", 1)
+    time.sleep(0.5)
+    xdotool("mousemove_relative", 0, 30, "mouseup", 1)
+    time.sleep(0.5)
+    found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", "^Shutdown$"], capture_output=True, text=True)
+    return found.stdout.strip()
+
+
+def check_log_out(command, files):
+    """A real session manager ends the log-in."""
+    environment = private_environment(files.home, SM_SAVE_DIR=str(files.home))
+    (files.home / ".xsmstartup").write_text(f"{command}\n")
+    manager = subprocess.Popen(["xsm", "-session", "first"], env=environment, stderr=subprocess.DEVNULL)
+    try:
+        panel = window_named("xsm: Default")
+        window_named("^Tarnivel$")
+        files.preferences.unlink()
+        xdotool("windowmove", panel, 1000, 300, "windowactivate", "--sync", panel)
+        dialog = wait_for("the question of the session manager", ask_for_log_out)
+        xdotool("mousemove", "--window", dialog, 150, 18, "click", 1, "type", "any name")
+        xdotool("mousemove", "--window", dialog, 50, 137, "click", 1)
+        wait_for("the preferences", files.preferences.exists)
+        manager.wait(60)
+    finally:
+        manager.kill()
+
+
+def main(command):
+    with sample() as files:
+        check_ways(command, files)
+        check_busy(command, files)
+        check_log_out(command, files)
+
+
+main(*sys.argv[1:])
