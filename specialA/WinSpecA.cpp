@@ -56,7 +56,7 @@ WinSpecA::WinSpecA(const DesktopWindow& winMain, DesktopSegmentedButton& segButt
     , TextFieldDest2   (*this, { 500, 134, 140,  22, L | T,          4}, {}, fileName)
     , PushButtQuit     (*this, { 478, 360,  80,  20, R | B,          8}, Btn_Quit())
     , CanvFocus        (*this, { 655,   0,  16,  20, T | R,         10})
-    , PushButtCopiList (*this, {  87, 360,  26,  20, L | B},             CanShow(U'⧉') ? U"⧉" : U"❐")
+    , PushButtCopiList (*this, {  87, 360,  26,  20, L | B},             U"⧉")
     , ProgressTrait    (*this, { 128, 360, 335,  20, L | R | B})
     // clang-format on
     , winMain_(winMain)

@@ -9,7 +9,6 @@
 #include <QDesktopServices>
 #include <QFile>
 #include <QFileInfo>
-#include <QFontMetrics>
 #include <QPalette>
 #include <QScreen>
 #include <QUrl>
@@ -102,5 +101,3 @@ void RevealItem(const FolderItem& item)
 bool IsPackage(const FolderItem& item) { return QFileInfo(QFile::decodeName(item.Path().c_str())).isBundle(); }
 
 bool IsDarkMode() { return QGuiApplication::palette().color(QPalette::Window).lightness() < 128; }
-
-bool CanShow(char32_t character) { return QFontMetrics(QGuiApplication::font()).inFontUcs4(character); }

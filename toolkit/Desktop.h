@@ -34,9 +34,6 @@ void SetText(StringView text);
 /// Whether the desktop's windows are dark.
 bool IsDarkMode();
 
-/// Whether some font of this system has the character.
-bool CanShow(char32_t character);
-
 /// Opens the item with the desktop's program for it: a folder in the file manager.
 void OpenItem(const FolderItem& item);
 /// Shows the item selected in the file manager.

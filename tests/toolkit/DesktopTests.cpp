@@ -103,12 +103,6 @@ TEST(Probe, TakesThePlaceOfTheDesktop)
     EXPECT_TRUE(opened.urls.isEmpty());
 }
 
-TEST(Desktop, KnowsWhichCharactersAFontHas)
-{
-    EXPECT_TRUE(CanShow(U'☞'));
-    EXPECT_FALSE(CanShow(U'\U0010FFFD')); // one that is left to private use
-}
-
 TEST(Timer, FiresOnceOrAgainUntilItIsOff)
 {
     using enum Timer::RunModes;
