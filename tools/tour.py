@@ -1,21 +1,24 @@
 """Leads through all windows and the dialogs of a run, a save and a treatment, in any language and appearance.
 
-    with Program([command], environment(sample, "de", "dark")) as program:
+    make_sample(folder, "760,500")
+    with Program([command], environment(folder, "de", "dark")) as program:
         for name in tour(program, texts("de")):
             shoot(f"{name}.png")
-
-`sample` is a folder that make_sample.py has filled.
 """
 
 import pathlib
+import re
+import shutil
 import subprocess
+import sys
 import time
 from xml.etree import ElementTree
 
 from desktop import has, private_environment
 
 LANGUAGES = ("fr", "en", "de", "es", "it", "pt", "nl")
-TRANSLATIONS = pathlib.Path(__file__).parent.parent / "resources" / "translations"
+TOOLS = pathlib.Path(__file__).parent
+TRANSLATIONS = TOOLS.parent / "resources" / "translations"
 # Colours of a dark desktop, in the file in which one of them keeps them.
 DARK = {"Window": (35, 35, 40), "View": (27, 27, 30), "Button": (50, 50, 56), "Selection": (60, 110, 180)}
 
@@ -25,6 +28,14 @@ def texts(language):
     messages = ElementTree.parse(TRANSLATIONS / f"tarnivel_{'en' if language == 'fr' else language}.ts").iter("message")
     shown = "source" if language == "fr" else "translation"
     return {message.get("id").split(".")[1]: message.findtext(shown) for message in messages}
+
+
+def make_sample(folder, size):
+    """A new sample of files, with a main window of that size."""
+    shutil.rmtree(folder, ignore_errors=True)
+    subprocess.run([sys.executable, TOOLS / "make_sample.py", folder], check=True)
+    settings = next(pathlib.Path(folder).rglob("Tarnivel Prefs.txt"))
+    settings.write_text(re.sub("(Fenetre WinMain :@: ).*", rf"\g<1>60,60,{size}", settings.read_text("utf-8")), "utf-8")
 
 
 def environment(sample, language, appearance="light"):
@@ -43,12 +54,15 @@ def environment(sample, language, appearance="light"):
 
 def shoot(path, front=True):
     """A picture of the window in front, with its frame, or of the whole screen, once it stands still."""
-    window = subprocess.check_output(["xdotool", "getactivewindow"], text=True).strip() if front else "root"
-    command = ["import", "-window", window, *(["-frame"] if front else ["-trim"]), "+repage", "+dither"]
-    before, now = None, subprocess.check_output([*command, "rgb:-"])
-    while now != before:
+    window = "root"
+    before = now = None
+    while not now or now != before:
         time.sleep(0.1)
-        before, now = now, subprocess.check_output([*command, "rgb:-"])
+        if front:
+            asked = subprocess.run(["xdotool", "getactivewindow"], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+            window = asked.stdout.decode().strip()
+        command = ["import", "-window", window, "-frame" if front else "-trim", "+repage", "+dither"]
+        before, now = now, subprocess.check_output([*command, "rgb:-"]) if window else None
     subprocess.run([*command, "-colors", "128", f"PNG8:{path}"], check=True)
 
 
@@ -108,6 +122,11 @@ def tour(program, text):
     program.answer_until(text["Btn_Generer"])
     _await_front(program, program.window)
     yield "main"
+    for menu in ("Menu_Fichier", "Menu_Edit"):
+        program.act(program.find("menu item", text[menu]))
+        program.find("popup menu")
+        yield menu
+        program.keys("Escape", "Escape")
     yield from _saves(program, text)
 
     special = program.find("check box", text["WinSpecA_Title"])
