@@ -7,12 +7,16 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace {
 
 struct Descriptor {
     int number;
-    ~Descriptor() { ::close(number); }
+    ~Descriptor()
+    {
+        if (number >= 0) ::close(number);
+    }
 };
 
 void CopyContent(int from, int to)
@@ -38,11 +42,12 @@ void FolderItem::CopyTo(const FolderItem& copy) const
     Check(::fstat(from.number, &status) == 0);
     if (!S_ISREG(status.st_mode)) throw SystemError(EINVAL);
 
-    const Descriptor to{::open(copy.path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC,
-                               status.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO))};
+    Descriptor to{::open(copy.path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC,
+                         status.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO))};
     Check(to.number >= 0);
     try {
         CopyContent(from.number, to.number);
+        Check(::close(std::exchange(to.number, -1)) == 0);
     } catch (...) {
         ::unlink(copy.path_.c_str());
         throw;
