@@ -3,9 +3,11 @@
 #include "toolkit/core/Exceptions.h"
 #include "toolkit/core/FileWriting.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <tuple>
 #include <unistd.h>
 #include <utility>
 
@@ -29,6 +31,9 @@ void Reserve([[maybe_unused]] int descriptor, [[maybe_unused]] Int64 size)
 #endif
 }
 
+/// The end of what was written.
+off_t Position(int descriptor) { return lseek(descriptor, 0, SEEK_CUR); }
+
 } // namespace
 
 TextOutputStream TextOutputStream::Create(const FolderItem& file, Int64 size)
@@ -39,19 +44,35 @@ TextOutputStream TextOutputStream::Create(const FolderItem& file, Int64 size)
     TextOutputStream stream(descriptor);
     CheckWritable(descriptor);
     Reserve(descriptor, size);
-    Check(ftruncate(descriptor, 0) == 0);
     return stream;
 }
 
 TextOutputStream::~TextOutputStream()
 {
-    if (descriptor_ >= 0) close(descriptor_);
+    if (descriptor_ < 0) return;
+    // A write failed: what came is kept alone, and where nothing came the old content stays.
+    if (const off_t end = Position(descriptor_); end > 0) std::ignore = ftruncate(descriptor_, end);
+    close(descriptor_);
 }
 
-void TextOutputStream::Write(const Bytes& data) { WriteAll(descriptor_, data); }
+void TextOutputStream::Write(const Bytes& data)
+{
+    // The old content is whole until one call replaces all of it. What is left of a longer one is covered by blank
+    // lines, and cut off by Close: no moment is without the old or the new text.
+    struct stat status = {};
+    Check(fstat(descriptor_, &status) == 0);
+    const off_t end = Position(descriptor_) + std::ssize(data);
+    // No text is longer by more than this; a file of another kind may be.
+    constexpr off_t mostBlank = 1 << 24;
+    Bytes covering = data;
+    covering.append(static_cast<std::size_t>(std::clamp<off_t>(status.st_size - end, 0, mostBlank)), '\n');
+    WriteAll(descriptor_, covering);
+    Check(lseek(descriptor_, end, SEEK_SET) == end);
+}
 
 void TextOutputStream::Close()
 {
+    Check(ftruncate(descriptor_, Position(descriptor_)) == 0);
     Check(fsync(descriptor_) == 0);
     Check(close(std::exchange(descriptor_, -1)) == 0);
 }

@@ -9,14 +9,14 @@
 /// A text file that is being written.
 ///
 /// The file is written in place: its permissions and owner stay, and of an alias the file behind it is written. Each
-/// operation raises IOException when it fails; what is on disk then is what was written until then.
+/// operation raises IOException when it fails; what is on disk then is what was written until then, or the old content
+/// where nothing was. A program that dies leaves the old or the new text, unless it dies within the one write.
 class TextOutputStream {
 public:
-    /// Empties an existing regular file, or makes a new one. A file that nobody may write is refused, also to a user
-    /// who could write it all the same, and left as it is; so is a folder, a pipe or a device.
+    /// Opens an existing regular file, whose content is replaced, or makes a new one. A file that nobody may write is
+    /// refused, also to a user who could write it all the same, and left as it is; so is a folder, a pipe or a device.
     ///
-    /// `size` bytes are going to be written: where the file system can tell that they don't fit, the file is refused
-    /// before it is emptied.
+    /// `size` bytes are going to be written: where the file system can tell that they don't fit, the file is refused.
     static TextOutputStream Create(const FolderItem& file, Int64 size);
 
     TextOutputStream(TextOutputStream&& other) noexcept
@@ -26,7 +26,8 @@ public:
     ~TextOutputStream();
 
     void Write(const Bytes& data);
-    /// Waits until the bytes have reached the file system. Only then is the file written.
+    /// Cuts off what is left of the old content, and waits until the bytes have reached the file system. Only then is
+    /// the file written.
     void Close();
 
 private:
