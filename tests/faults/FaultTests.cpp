@@ -1,0 +1,134 @@
+#include "specialA/WinSpecA.h"
+#include "tests/faults/FaultTest.h"
+
+#include <cerrno>
+#include <cstring>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+const StringView copyFailed = U"Erreur pendant la copie de l'ancien", writeFailed = U"Erreur pendant l'écriture",
+                 preferencesFailed = U"Error ! Please contact the authors.\nPrefsSauver",
+                 variantFailed = U"Il y a eu une erreur pendant l'écriture du fichier.",
+                 notReplaced = U"Remplacement impossible !",
+                 notFound = U"Nombre de fois où les textes cherchés ont été trouvés :\n • 0 x";
+
+/// These may fail in silence: the close after reading, the search for another form of a name, and the question whether
+/// there is room.
+bool IsHarmless(const std::string& call)
+{
+    return call.starts_with("close reading") || call.starts_with("openat") || call.starts_with("fallocate");
+}
+
+class Faults : public FaultTest {
+protected:
+    std::vector<std::string> Attempt(const Fault& fault, const std::function<void()>& act)
+    {
+        Reset();
+        probe.Asked.clear();
+        FileFaults faults(folder.Path(), fault);
+        act();
+        return faults.calls;
+    }
+
+    /// Acts once to count the calls, then again for each of them, which fails with each error once, and with one of
+    /// them for good. `check` looks at what is on disk and what was asked; it is told whether faults were for good.
+    void ForEachFault(const std::function<void()>& act, const std::function<void(bool forGood)>& check)
+    {
+        const std::vector<std::string> calls = Attempt({}, act);
+        const std::vector<String> asked = probe.Asked;
+        EXPECT_GE(calls.size(), 3U) << "calls go unseen";
+        check(false);
+        for (const auto& [error, forGood] : {std::pair(ENOSPC, false), {EIO, false}, {EACCES, false}, {EIO, true}}) {
+            for (std::size_t call = 1; call <= calls.size() && !HasFailure(); ++call) {
+                SCOPED_TRACE(calls[call - 1] + (forGood ? " and all after it: " : ": ") + std::strerror(error));
+                Attempt({static_cast<int>(call), error, forGood}, act);
+                check(forGood);
+                EXPECT_TRUE(IsHarmless(calls[call - 1]) || probe.Asked != asked) << "nobody was told";
+            }
+        }
+        Attempt({}, act);
+        check(false);
+    }
+
+    std::ptrdiff_t Told(StringView message) const
+    {
+        return std::ranges::count_if(probe.Asked, [&](const String& asked) { return asked.starts_with(message); });
+    }
+};
+
+TEST_F(Faults, OfASaveAreToldAndLeaveTheOldFileInOnePlaceOrTheOther)
+{
+    OpenAndFill();
+    for (const int answer : {1, 2}) {
+        SCOPED_TRACE(answer == 1 ? "goes on without archive" : "gives up without archive");
+        const auto act = [&] {
+            probe.Answers = {1, answer};
+            window->BtnSave_Pressed();
+        };
+        ForEachFault(act, [&](bool forGood) {
+            const bool noArchive = Told(copyFailed) > 0, written = !noArchive || answer == 1;
+            const std::string content = folder.Content(target);
+            if (!written || Told(writeFailed) == 0)
+                EXPECT_EQ(content, written ? fresh : old);
+            else
+                EXPECT_TRUE(content == old || (forGood ? IsUnderWay(content) : fresh.starts_with(content)));
+            // Half a copy is taken away again, where that is possible.
+            EXPECT_TRUE((noArchive && forGood) || Archives() == std::vector(noArchive ? 0 : 1, old));
+            EXPECT_TRUE(Fncts::DrapMenu);
+        });
+    }
+}
+
+TEST_F(Faults, OfThePreferencesAreToldAndLeaveTheOldOrTheNewOnes)
+{
+    OpenAndFill();
+    const auto act = [&] {
+        window->Close();
+        window->TimerQuit.SetRunMode(Timer::RunModes::Off);
+        EXPECT_TRUE(app->DrapOkQuit) << "the program ends all the same";
+        app->DrapOkQuit = false;
+        Fncts::DrapMenu = true;
+    };
+    Attempt({}, act);
+    const std::string written = folder.Content(preferences);
+    ASSERT_LT(written.size(), oldPreferences.size());
+    ForEachFault(act, [&](bool) {
+        const std::string content = folder.Content(preferences);
+        const bool told = Told(preferencesFailed) > 0;
+        EXPECT_TRUE(told ? content == oldPreferences || IsBlankAfter(content, written) : content == written) << content;
+    });
+}
+
+TEST_F(Faults, OfATreatmentAreToldForEachVariant)
+{
+    const fs::path original = folder.Path() / "in/original.txt", one = folder.Path() / "in/one";
+    before = {{original, Lines('x')}, {one, "old"}};
+    Reset();
+    Open();
+    app->TabSpecAorg = {U"", U"x"};
+    app->TabSpecAdest1 = {U"one", U"1"};
+    app->TabSpecAdest2 = {U"two", U"2"};
+    app->PathSpecA = Fncts::AbsPath_f(FolderItem(original), true);
+    WinSpecA special(*window, window->SegButtSpecA, window->TimerQuit);
+    special.Show();
+
+    const auto act = [&] { special.PushButtTrait_Pressed(); };
+    ForEachFault(act, [&](bool) {
+        EXPECT_EQ(folder.Content(original), before[original]);
+        // What can't be read counts as empty, in which nothing is found; the user went on and wanted that written.
+        const bool read = Told(notFound) == 0;
+        std::ptrdiff_t failures = 0;
+        for (const fs::path& variant : {one, original.parent_path() / "two"}) {
+            const std::string content = folder.Content(variant), wanted = read ? Lines(variant == one ? '1' : '2') : "";
+            if (fs::exists(variant) && content == wanted) continue;
+            ++failures;
+            EXPECT_TRUE(Told(notReplaced) == 1 && variant == one ? content == "old" : wanted.starts_with(content));
+        }
+        EXPECT_LE(failures, Told(notReplaced) + Told(variantFailed));
+        EXPECT_TRUE(Fncts::DrapMenu);
+    });
+}
+
+} // namespace
