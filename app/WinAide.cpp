@@ -100,6 +100,6 @@ void WinAide::MakeLink(DesktopLabel& label, bool& on, std::function<void()> foll
 void WinAide::FollowEmail2() const
 {
     const String subject = U"A propos de Tarnivel v." + App::Current().Version + U" " + Fncts::TypeCompil() + U" - " +
-                           ReplaceAll(Build::Stamp, U"\u00A0", U" ");
+                           String(Build::Stamp);
     System::GotoURL(U"mailto:" + EncodeURLComponent(Email2.Text()) + U"?Subject=" + EncodeURLComponent(subject));
 }

@@ -146,6 +146,7 @@ void WinMain::EnableControls(bool idle)
              &PopMenuAff, &BtnAffDoss, &BtnEnabDis, &BtnSave, &TextAreaAff, &BtnAide, &TextFieldCherch,
              &PushButtInitCherch, &PushButtCherch, &StaticTextVersion, &SegButtSpecA})
         control->SetEnabled(idle);
+    if (SegButtSpecA.Selected(0) && winSpecA_) winSpecA_->EnableControls(idle);
 }
 
 void WinMain::Event_Opening()

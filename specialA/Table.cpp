@@ -31,7 +31,8 @@ void WinSpecA::ShowTable()
 Int16 WinSpecA::FaireTab()
 {
     App& app = App::Current();
-    app.TabSpecAorg = {TextFieldOrg.Text()};
+    // The name of a file may hold what parts the elements of a kept list, and the lines of the file that keeps it.
+    app.TabSpecAorg = {ReplaceAll(ReplaceLineEndings(TextFieldOrg.Text(), U" "), tab, U" ")};
     app.TabSpecAdest1 = {TextFieldDest1.Text()};
     app.TabSpecAdest2 = {TextFieldDest2.Text()};
     for (int row = 0; row <= ListboxRR.LastRowIndex(); ++row) {
@@ -57,9 +58,14 @@ void WinSpecA::PushButtSupp_Pressed()
     Fncts::BeepNbT(1);
 }
 
+String WinSpecA::Heading() const
+{
+    return Join({{TextFieldOrg.Text(), TextFieldDest1.Text(), TextFieldDest2.Text()}}, tab);
+}
+
 void WinSpecA::PushButtCopiList_Pressed()
 {
-    String text = Join({{TextFieldOrg.Text(), TextFieldDest1.Text(), TextFieldDest2.Text()}}, tab) + U"\n\n";
+    String text = Heading() + U"\n\n";
     for (int row = 0; row <= ListboxRR.LastRowIndex(); ++row)
         text += ListboxRR.CellTextAt(row, 0) + U"\t" + ListboxRR.CellTextAt(row, 1) + U"\t" +
                 ListboxRR.CellTextAt(row, 2) + U"\n";
@@ -72,8 +78,8 @@ void WinSpecA::ListboxRR_TextPasted(const String& text)
     const String lined = ReplaceLineEndings(text, EndOfLine::UNIX);
     std::vector<StringView> lines = Split(lined, EndOfLine::UNIX);
     if (lines.back().empty()) lines.pop_back();
-    if (lines.size() >= 2 && lines[1].empty() && CountFields(lines[0], tab) == 3)
-        lines.erase(lines.begin(), lines.begin() + 2);
+    if (lines.size() >= 2 && lines[0] == Heading() && lines[1].empty()) lines.erase(lines.begin(), lines.begin() + 2);
+    if (std::ranges::any_of(lines, [](StringView line) { return CountFields(line, tab) > 3; })) Fncts::BeepNbT(1);
 
     const int selected = ListboxRR.SelectedRowIndex();
     int before = selected >= 0 ? selected + 1 : ListboxRR.LastRowIndex() + 1;

@@ -9,6 +9,8 @@
 #include "support/TextHelpers.h"
 #include "toolkit/core/System.h"
 
+#include <new>
+
 using namespace Localisation;
 
 namespace {
@@ -20,6 +22,14 @@ void SetIdle(bool idle)
 }
 
 } // namespace
+
+void WinSpecA::EnableControls(bool idle)
+{
+    for (DesktopUIControl* control : std::initializer_list<DesktopUIControl*>{
+             &PushButtSource, &TextFieldOrg, &TextFieldDest1, &TextFieldDest2, &ListboxRR, &PushButtAdd, &PushButtSupp,
+             &PushButtQuit, &PushButtTrait})
+        control->SetEnabled(idle);
+}
 
 Int16 WinSpecA::Ask(StringView message, StringView action, StringView cancel, Int16 icon)
 {
@@ -36,21 +46,26 @@ void WinSpecA::PushButtTrait_Pressed()
         return Tell(Txt_FichOrgNonDef(), 0);
     }
     SetIdle(false);
-    const String original = Fncts::LireFichier(FichOrg);
-    FaireTab();
-    if (const std::optional<Treatment> treated = TreatVisibly(original)) {
-        if (Ask(Txt_NbTrouv() + treated->report, Btn_Cont(), Btn_Arreter(), 0) == 1) {
-            WriteDestination(App::Current().TabSpecAdest1.front(), treated->dest1, original);
-            WriteDestination(App::Current().TabSpecAdest2.front(), treated->dest2, original);
-        }
-    } else {
-        Fncts::BeepNbT(1);
-        Tell(Txt_ErreurEcritFich(), 1);
+    try {
+        TreatOriginal();
+    } catch (const std::bad_alloc&) {
+        ProgressTrait.SetVisible(false);
+        TellWriteError();
     }
     SetIdle(true);
 }
 
-std::optional<Treatment> WinSpecA::TreatVisibly(StringView original)
+void WinSpecA::TreatOriginal()
+{
+    const String original = Fncts::LireFichier(FichOrg);
+    FaireTab();
+    const Treatment treated = TreatVisibly(original);
+    if (Ask(Txt_NbTrouv() + treated.report, Btn_Cont(), Btn_Arreter(), 0) != 1) return;
+    WriteDestination(App::Current().TabSpecAdest1.front(), treated.dest1, original);
+    WriteDestination(App::Current().TabSpecAdest2.front(), treated.dest2, original);
+}
+
+Treatment WinSpecA::TreatVisibly(StringView original)
 {
     const App& app = App::Current();
     std::vector<ReplacementRow> rows;
@@ -60,7 +75,7 @@ std::optional<Treatment> WinSpecA::TreatVisibly(StringView original)
     constexpr Int64 ticksUnseen = 30, ticksBetween = 3;
     const Int64 start = System::Ticks();
     Int64 last = start;
-    std::optional<Treatment> treated = Treat(original, rows, [&](Int64 done, Int64 total) {
+    Treatment treated = Treat(original, rows, [&](Int64 done, Int64 total) {
         const Int64 now = System::Ticks();
         if (now - last < ticksBetween) return;
         last = now;
@@ -72,18 +87,24 @@ std::optional<Treatment> WinSpecA::TreatVisibly(StringView original)
     return treated;
 }
 
-void WinSpecA::WriteDestination(StringView name, StringView text, StringView original)
+void WinSpecA::TellWriteError()
+{
+    Fncts::BeepNbT(1);
+    Tell(Txt_ErreurEcritFich(), 1);
+}
+
+void WinSpecA::WriteDestination(StringView name, const std::optional<String>& text, StringView original)
 {
     if (name.empty()) return;
-    if (SameText(text, original)) {
+    if (!text) return TellWriteError();
+    if (SameText(*text, original)) {
         Fncts::BeepNbT(1);
         if (Ask(Txt_FichPasModif(), Btn_Cont(), Btn_Arreter(), 0) != 1) return;
     }
     const std::optional<FolderItem> target = FreeTarget(name);
     if (!target) return;
-    if (Fncts::SauvFichier(*target, text)) return Fncts::PlayT(Fncts::_x_Msg::Msg());
-    Fncts::BeepNbT(1);
-    Tell(Txt_ErreurEcritFich(), 1);
+    if (!Fncts::SauvFichier(*target, *text)) return TellWriteError();
+    Fncts::PlayT(Fncts::_x_Msg::Msg());
 }
 
 std::optional<FolderItem> WinSpecA::FreeTarget(StringView name)
@@ -92,8 +113,7 @@ std::optional<FolderItem> WinSpecA::FreeTarget(StringView name)
     std::optional<FolderItem> target = folder ? folder->Child(name, false) : std::nullopt;
     if (!target) {
         // A name that no file can have, or that would lead out of the folder.
-        Fncts::BeepNbT(1);
-        Tell(Txt_ErreurEcritFich(), 1);
+        TellWriteError();
         return {};
     }
     if (!target->Exists()) return target;

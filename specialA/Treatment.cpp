@@ -51,23 +51,29 @@ private:
 
 constexpr std::array destinations{&Treatment::dest1, &Treatment::dest2};
 
-/// Appends the two variants of a piece, and adds what is found to the steps. False when a variant grows too long.
-bool TreatPiece(StringView piece, std::span<Step> steps, Int64 most, Treatment& treatment,
-                const std::function<void()>& stepDone)
+/// Adds what is found in a piece to the counts of the steps.
+void CountIn(StringView piece, std::span<Step> steps, const std::function<void()>& stepDone)
 {
     const FoldedText unchanged(piece);
-    std::array<FoldedText, 2> variants{unchanged, unchanged};
     for (Step& step : steps) {
         step.count += unchanged.Count(step.needle);
-        for (std::size_t i = 0; i < variants.size(); ++i) {
-            const Int64 room = most - std::ssize(treatment.*destinations[i]);
-            if (!variants[i].Replace(step.needle, step.replacements[i], room)) return false;
-        }
         stepDone();
     }
-    for (std::size_t i = 0; i < variants.size(); ++i)
-        (treatment.*destinations[i]).append(variants[i].Text());
-    return true;
+}
+
+/// Appends a variant of a piece to its destination, which becomes nothing when it would have more than `most`
+/// characters.
+void AppendVariant(StringView piece, std::span<const Step> steps, std::size_t number, Int64 most,
+                   std::optional<String>& destination, const std::function<void()>& stepDone)
+{
+    FoldedText variant(piece);
+    for (const Step& step : steps) {
+        stepDone();
+        if (!destination) continue;
+        const Int64 room = most - std::ssize(*destination);
+        if (!variant.Replace(step.needle, step.replacements[number], room)) destination.reset();
+    }
+    if (destination) destination->append(variant.Text());
 }
 
 String ReportOf(std::span<const ReplacementRow> rows, std::span<const Step> steps)
@@ -82,17 +88,18 @@ String ReportOf(std::span<const ReplacementRow> rows, std::span<const Step> step
 
 } // namespace
 
-std::optional<Treatment> Treat(StringView original, std::span<const ReplacementRow> rows,
-                               const std::function<void(Int64 done, Int64 total)>& progress)
+Treatment Treat(StringView original, std::span<const ReplacementRow> rows,
+                const std::function<void(Int64 done, Int64 total)>& progress)
 {
     std::vector<Step> steps = StepsOf(rows);
     const Cuts cuts(steps);
     Treatment treatment;
     for (const auto destination : destinations)
-        (treatment.*destination).reserve(original.size());
+        (treatment.*destination).emplace().reserve(original.size());
 
-    const Int64 most = std::max(Treatment::MostCharacters, std::ssize(original));
-    const Int64 total = std::ssize(original) * std::ssize(steps);
+    const Int64 most = std::max(Treatment::MostCharacters, Treatment::MostGrowth * std::ssize(original));
+    const Int64 passes = 1 + std::ssize(destinations);
+    const Int64 total = std::ssize(original) * std::ssize(steps) * passes;
     Int64 done = 0;
     for (StringView rest = original; !rest.empty();) {
         const StringView piece = cuts.First(rest);
@@ -100,7 +107,9 @@ std::optional<Treatment> Treat(StringView original, std::span<const ReplacementR
             done += std::ssize(piece);
             if (progress) progress(done, total);
         };
-        if (!TreatPiece(piece, steps, most, treatment, stepDone)) return {};
+        CountIn(piece, steps, stepDone);
+        for (std::size_t i = 0; i < destinations.size(); ++i)
+            AppendVariant(piece, steps, i, most, treatment.*destinations[i], stepDone);
         rest.remove_prefix(piece.size());
     }
     treatment.report = ReportOf(rows, steps);

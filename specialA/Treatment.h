@@ -13,17 +13,17 @@ struct ReplacementRow {
 struct Treatment {
     /// A line for each row that searches for anything: a line end, then " • 3 x “text”".
     String report;
-    String dest1, dest2;
+    /// Nothing for a variant that would grow too long.
+    std::optional<String> dest1, dest2;
 
-    /// Characters that a variant may have, or as many as the original where that has more.
-    static constexpr Int64 MostCharacters = Int64{64} << 20;
+    /// Characters that a variant may have, or `MostGrowth` times those of the original where that is more.
+    static constexpr Int64 MostCharacters = Int64{64} << 20, MostGrowth = 4;
 };
 
 /// Applies the rows in their order: each sees what the rows before it have put into its variant. Case is ignored, what
 /// is replaced doesn't overlap, and an empty replacement deletes. The report counts in the original alone, where
 /// matches may overlap: "aa" is found twice in "aaa". A row that searches for nothing is passed over.
 ///
-/// Nothing when a variant would have more than `Treatment::MostCharacters`. `progress` is told often, in any unit, how
-/// much of the work is done.
-std::optional<Treatment> Treat(StringView original, std::span<const ReplacementRow> rows,
-                               const std::function<void(Int64 done, Int64 total)>& progress = {});
+/// `progress` is told often, in any unit, how much of the work is done.
+Treatment Treat(StringView original, std::span<const ReplacementRow> rows,
+                const std::function<void(Int64 done, Int64 total)>& progress = {});

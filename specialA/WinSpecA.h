@@ -40,6 +40,8 @@ public:
 
     // Treat.cpp
     void PushButtTrait_Pressed();
+    /// While the program is busy nothing here can be changed.
+    void EnableControls(bool idle);
 
     // Source.cpp
     /// Takes a new original; with nothing the user chooses one.
@@ -53,8 +55,8 @@ public:
     void PushButtAdd_Pressed();
     void PushButtSupp_Pressed();
     void PushButtCopiList_Pressed();
-    /// Inserts rows from lines whose cells are separated by tabs; the two lines that `PushButtCopiList` puts above the
-    /// rows are passed over.
+    /// Inserts rows from lines whose cells are separated by tabs. The two lines that `PushButtCopiList` puts above the
+    /// rows are passed over; a beep tells of cells behind the third column, which are left out.
     void ListboxRR_TextPasted(const String& text);
 
 private:
@@ -75,16 +77,21 @@ private:
     // Table.cpp
     static constexpr int MostRows = 1000;
     void ShowTable();
+    /// The names of the three files, as they stand above the copied rows.
+    [[nodiscard]] String Heading() const;
     /// Brings the lists of `App` in line with the window; the result is the number of rows.
     Int16 FaireTab();
 
     // Treat.cpp
     Int16 Ask(StringView message, StringView action, StringView cancel, Int16 icon);
     void Tell(StringView message, Int16 icon);
-    /// The treatment of a text, during which the window stays alive; nothing when a variant would grow too long.
-    std::optional<Treatment> TreatVisibly(StringView original);
-    /// Writes one variant under that name beside the original, after all questions.
-    void WriteDestination(StringView name, StringView text, StringView original);
+    /// Treats the original and writes what comes of it, after all questions.
+    void TreatOriginal();
+    /// The treatment of a text, during which the window stays alive.
+    Treatment TreatVisibly(StringView original);
+    /// Writes one variant under that name beside the original; nothing is a variant that couldn't be made.
+    void WriteDestination(StringView name, const std::optional<String>& text, StringView original);
+    void TellWriteError();
     /// The item of that name beside the original, free to be written to; nothing when it isn't, which was told.
     std::optional<FolderItem> FreeTarget(StringView name);
 

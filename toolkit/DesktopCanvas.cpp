@@ -66,6 +66,4 @@ void DesktopCanvas::SetAllowFocus(bool allowed)
     widget_->setFocusPolicy(!allowed ? Qt::NoFocus : stop ? Qt::TabFocus : Qt::ClickFocus);
 }
 
-void DesktopCanvas::BringToFront() { widget_->raise(); }
-
 void DesktopCanvas::Refresh() { widget_->update(); }

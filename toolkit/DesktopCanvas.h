@@ -35,7 +35,6 @@ public:
     /// Whether `SetFocus` gives it the focus. The Tab key reaches it if it has a place in that order too.
     void SetAllowFocus(bool allowed);
     /// Lays it above all other controls.
-    void BringToFront();
     void Refresh();
 
     std::function<void(Graphics& graphics, int width, int height)> Paint;

@@ -44,8 +44,9 @@ private:
     {
         DragItem item;
         const QList<QUrl> urls = dragged.urls();
+        // What is no local file counts too, as an item that isn't there.
         for (const QUrl& url : urls)
-            if (url.isLocalFile()) item.FolderItems.emplace_back(url.toLocalFile().toStdString());
+            item.FolderItems.emplace_back(url.toLocalFile().toStdString());
         return item;
     }
 
@@ -74,7 +75,13 @@ private:
         if (!std::exchange(inside_, false) || refused_) return event.ignore();
         event.setDropAction(Qt::CopyAction);
         event.accept();
-        if (owner_.DropObject) owner_.DropObject(ItemOf(*event.mimeData()));
+        // The other program waits for the end of this event, and the handler may ask the user.
+        QMetaObject::invokeMethod(
+            this,
+            [this, item = ItemOf(*event.mimeData())] {
+                if (owner_.DropObject && owner_.TakesInput()) owner_.DropObject(item);
+            },
+            Qt::QueuedConnection);
     }
 
     DesktopGroupBox& owner_;

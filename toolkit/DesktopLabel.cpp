@@ -18,6 +18,14 @@ public:
     DesktopLabel* owner = nullptr;
 
 protected:
+    bool event(QEvent* event) override
+    {
+        // A default button of the window would take the key first.
+        const bool presses = event->type() == QEvent::ShortcutOverride && IsPress(*static_cast<QKeyEvent*>(event));
+        if (presses) event->accept();
+        return presses || QLabel::event(event);
+    }
+
     void showEvent(QShowEvent* event) override
     {
         const bool stop = owner && owner->MouseUp && owner->TabIndex() >= 0;
@@ -37,9 +45,7 @@ protected:
 
     void keyPressEvent(QKeyEvent* event) override
     {
-        const int key = event->key();
-        if (!owner->MouseUp || (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Space))
-            return QLabel::keyPressEvent(event);
+        if (!IsPress(*event)) return QLabel::keyPressEvent(event);
         if (Press(rect().center())) Release(rect().center());
     }
 
@@ -64,6 +70,12 @@ protected:
     }
 
 private:
+    [[nodiscard]] bool IsPress(const QKeyEvent& event) const
+    {
+        const int key = event.key();
+        return owner && owner->MouseUp && (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space);
+    }
+
     bool Press(QPoint point)
     {
         pressed_ = owner->MouseDown && owner->TakesInput() && owner->MouseDown(point.x(), point.y());

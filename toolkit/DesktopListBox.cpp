@@ -29,6 +29,7 @@ public:
     [[nodiscard]] DesktopListBox& Owner() const { return owner_; }
 
 protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void dropEvent(QDropEvent* event) override;
@@ -78,6 +79,16 @@ Table::Table(DesktopListBox& owner, int columns)
     setEditTriggers(DoubleClicked | EditKeyPressed | AnyKeyPressed);
     setDragDropMode(InternalMove);
     setDragDropOverwriteMode(false);
+}
+
+/// The key for pasting is also a shortcut of the menu, which would take it first.
+bool Table::event(QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Paste)) {
+        event->accept();
+        return true;
+    }
+    return QTableWidget::event(event);
 }
 
 void Table::keyPressEvent(QKeyEvent* event)
@@ -143,6 +154,8 @@ QWidget* Cell::createEditor(QWidget* parent, const QStyleOptionViewItem& /*optio
     auto* const editor = new QLineEdit(parent);
     editor->setFrame(false);
     connect(editor, &QLineEdit::textEdited, editor, [editor](const QString& text) {
+        // Setting a text ends what can be undone.
+        if (OneLine(text) == text) return;
         const int caret = editor->cursorPosition();
         editor->setText(OneLine(text));
         editor->setCursorPosition(caret);
@@ -192,7 +205,13 @@ void DesktopListBox::AddRowAt(int before, const std::vector<String>& cells)
     }
 }
 
-void DesktopListBox::RemoveRowAt(int row) { static_cast<Table*>(widget_)->removeRow(row); }
+void DesktopListBox::RemoveRowAt(int row)
+{
+    auto* const table = static_cast<Table*>(widget_);
+    // Qt would select a neighbour of the current row.
+    if (table->currentRow() == row) table->setCurrentItem(nullptr);
+    table->removeRow(row);
+}
 
 int DesktopListBox::SelectedRowIndex() const
 {

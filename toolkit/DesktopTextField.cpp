@@ -91,7 +91,7 @@ private:
     /// A path that came in at once was pasted; one that is typed comes in by single characters.
     void Edited(const QString& text)
     {
-        if (oneLine_) {
+        if (oneLine_ && OneLine(text) != text) {
             const int caret = cursorPosition();
             setText(OneLine(text));
             setCursorPosition(caret);

@@ -36,9 +36,9 @@ int main(int argc, char** argv)
     const String original = Encodings::UTF8.Decode(Contents(argv[1]));
     const std::vector<ReplacementRow> rows = Table(argv[2]);
     const auto start = std::chrono::steady_clock::now();
-    const std::optional<Treatment> treated = Treat(original, rows);
+    const Treatment treated = Treat(original, rows);
     const std::chrono::duration<double> took = std::chrono::steady_clock::now() - start;
     rusage usage{};
     getrusage(RUSAGE_SELF, &usage);
-    std::cout << took.count() << ' ' << usage.ru_maxrss << ' ' << (treated ? std::ssize(treated->dest1) : -1) << '\n';
+    std::cout << took.count() << ' ' << usage.ru_maxrss << ' ' << std::ssize(treated.dest1.value_or(String())) << '\n';
 }

@@ -35,7 +35,7 @@ TEST_F(Help, LinksAreFollowedWithinTheirLabels)
               (std::vector<String>{
                   U"https://tarnivel.example",
                   U"mailto:contact%40tarnivel.example?Subject=A%20propos%20de%20Tarnivel%20v.1.1.3%20Mac%20"
-                  U"INTEL%2064-bit%20%28Lumbra2023r4%29%20-%202024-02-25%2010%3A51%20CET",
+                  U"INTEL%2064-bit%20%28Lumbra2023r4%29%20-%202024-02-25%C2%A010%3A51%C2%A0CET",
               }));
 }
 

@@ -3,7 +3,7 @@
 import sys
 
 from choosing import choose, open_chooser
-from desktop import Program, has, private_environment
+from desktop import Program, has, private_environment, xdotool
 from gi.repository import Atspi
 from sample import pack, sample
 from server import Server
@@ -32,12 +32,22 @@ def use_special(program, files):
     program.wait_until_gone(dialog)
     name = files.model_file.name
     program.wait_for(name, lambda: program.text(program.find("text", "Original :")) == name)
-    program.set_text(program.find("text", "Dest 1 :"), "un.txt")
+    program.press("+")
+    table = program.find("table", "Spécial A")
+    program.wait_for("the row", lambda: Atspi.Table.get_n_rows(table) == 1)
+    left, top, _, _ = program.extents(table)
+    xdotool("mousemove", left + 20, top + 10, "click", "--repeat", 2, 1)
+    for word in ("scenery_pack ", "un"):
+        program.type(word)
+        program.keys("Tab")
+    for field, name in (("Dest 1 :", "un.txt"), ("Dest 2 :", "deux.txt")):
+        program.set_text(program.find("text", field), name)
     program.press("Traiter")
     program.answer("Continuer")
-    program.answer("Continuer")  # the text isn't changed by an empty table
-    copy = files.model_file.with_name("un.txt")
-    program.wait_for("the copy", lambda: copy.exists() and copy.read_bytes() == files.model_file.read_bytes())
+    model = files.model_file.read_text("utf-8")
+    for name, pack in (("un.txt", "un"), ("deux.txt", "")):
+        file, expected = files.model_file.with_name(name), model.replace("SCENERY_PACK ", pack)
+        program.wait_for(name, lambda file=file, expected=expected: file.exists() and file.read_text("utf-8") == expected)
     program.front = "Tarnivel"
 
 
@@ -90,7 +100,7 @@ def main(command):
         server.shutdown()
 
         kept = files.preferences.read_text("utf-8")
-        assert "Volume Sonore :@: 35\n" in kept and f"TabSpecAorg :@: {files.model_file.name}\n" in kept, kept
+        assert "Volume Sonore :@: 35\n" in kept and f"TabSpecAorg :@: {files.model_file.name}\tscenery_pack \n" in kept, kept
         with Program([command], private_environment(files.home)) as program:
             assert has(program.find("radio button", "Url modèle"), "checked")
             assert program.all("check box", "Spécial A")

@@ -5,11 +5,18 @@ import subprocess
 import sys
 import time
 
-from desktop import Program, has, pixel, private_environment, xdotool
+from desktop import Program, has, nodes, pixel, private_environment, text_of, xdotool
 from gi.repository import Atspi
 from sample import sample
 
 REPORT = "Nombre de fois où les textes cherchés ont été trouvés :"
+
+
+def move_slowly(start, end):
+    """A drag takes its steps from movements that are apart."""
+    for step in range(1, 11):
+        xdotool("mousemove", *(a + (b - a) * step // 10 for a, b in zip(start, end, strict=True)))
+        time.sleep(0.05)
 
 
 def drag(program, command, file):
@@ -24,9 +31,7 @@ def drag(program, command, file):
         spot = left + 10, top + height - 10
         colors = [pixel(*spot)]
         xdotool("mousemove", 1100, 700, "mousedown", 1)
-        for step in range(1, 11):
-            xdotool("mousemove", 1100 + (left + 100 - 1100) * step // 10, 700 + (top + 60 - 700) * step // 10)
-            time.sleep(0.05)  # a drag takes its steps from movements that are apart
+        move_slowly((1100, 700), (left + 100, top + 60))
         program.wait_for("the highlight", lambda: pixel(*spot) != colors[0])
         colors.append(pixel(*spot))
         xdotool("mouseup", 1)
@@ -37,29 +42,56 @@ def drag(program, command, file):
         source.wait()
 
 
+def click(left, top, *more):
+    xdotool("mousemove", left, top, "click", *more, 1)
+
+
 def edit(program):
-    """Makes two rows by the keyboard; the last cell is still being edited."""
+    """Makes two rows by the keyboard, copies and pastes them, and drags the first to the end; a cell is still open."""
     table = program.find("table", "Spécial A")
     for rows in (1, 2):
         program.press("+")
         program.wait_for("the row", lambda rows=rows: Atspi.Table.get_n_rows(table) == rows)
     left, top, _, _ = program.extents(table)
-    xdotool("mousemove", left + 20, top + 10, "click", "--repeat", 2, 1)
-    for words in (("Alpha", "one", "two"), ("beta", "", "B")):
-        for word in words:
-            program.type(word)
-            if words != ("beta", "", "B") or word != "B":
-                program.keys("Tab")
+    click(left + 20, top + 10, "--repeat", 2)
+    program.type("wrong")
+    program.keys("ctrl+z")
+    for word in ("Alpha", "one", "two", "beta", ""):
+        program.type(word)
+        program.keys("Tab")
+    program.type("B")
+    program.keys("Return", "Return")
+    program.type("no")
+    program.keys("Escape")
+
+    program.press("Copier la liste dans le presse-papiers")
+    click(left + 20, top + 10)
+    program.keys("ctrl+v")
+    program.wait_for("four rows", lambda: Atspi.Table.get_n_rows(table) == 4)
+    xdotool("mousemove", left + 250, top + 10, "mousedown", 1)
+    move_slowly((left + 250, top + 10), (left + 250, top + 75))
+    xdotool("mouseup", 1)
+    cells = lambda column: [Atspi.Table.get_accessible_at(table, row, column).get_name() for row in range(4)]  # noqa: E731
+    program.wait_for("the moved row", lambda: cells(0) == ["Alpha", "beta", "beta", "Alpha"])
+    click(left + 450, top + 50, "--repeat", 2)
+    program.keys("ctrl+a")
+    program.type("B")
+    assert cells(1) == ["one", "", "", "one"]
 
 
-def check_cover(program, main):
-    """While a dialog hangs on this window, the other one takes no click."""
+def check_cover(program, place):
+    """While a dialog hangs on this window, the other one takes no click. Both clicks come by the same way, in order."""
     program.press("Traiter")
     dialog = program.dialog()
-    left, top, width, height = program.extents(main)
-    xdotool("mousemove", left + width - 60, top + 85, "click", 1)
+    button = next(node for node in nodes(dialog) if node.get_name() == "Continuer")
+    click(*place)
     program.wait_for("the dialog in front again", lambda: has(dialog, "active"))
-    assert len(program.windows(dialogs=True)) == 1, "the covered window has opened a chooser"
+    texts = [text_of(node) for node in nodes(dialog) if node.get_role_name() == "text"]
+    left, top, width, height = program.extents(button)
+    click(left + width // 2, top + height // 2)
+    program.wait_until_gone(dialog)
+    assert not program.windows(dialogs=True), "the covered window has opened a chooser"
+    return texts
 
 
 def main(command):
@@ -69,7 +101,7 @@ def main(command):
         with files.preferences.open("a", encoding="utf-8") as preferences:
             preferences.write("PathSpecA :@: \nTabSpecAorg :@: \nTabSpecAdest1 :@: \nTabSpecAdest2 :@: \n")
         with Program([command], private_environment(files.home)) as program:
-            window = program.window()
+            left, top, width, height = program.extents(program.find("push button", "Ouvrir Url"))
             program.press("Spécial A", "check box")
             program.front = "Spécial A"
             before, over, after = drag(program, command, original)
@@ -79,8 +111,8 @@ def main(command):
             program.set_text(program.find("text", "Dest 1 :"), "first.txt")
             program.set_text(program.find("text", "Dest 2 :"), "second.txt")
             edit(program)
-            check_cover(program, window)
-            assert program.answer("Continuer") == [f"{REPORT}\n • 2 x “Alpha”\n • 1 x “beta”"]
+            found = check_cover(program, (left + width // 2, top - height // 2))
+            assert found == [f"{REPORT}\n • 2 x “Alpha”\n • 1 x “beta”\n • 1 x “beta”\n • 2 x “Alpha”"], found
             expected = "one,  and one é\n", "two, B and two é\n"
             program.wait_for("both files", lambda: (files.home / "second.txt").exists())
             assert tuple((files.home / name).read_text("utf-8") for name in ("first.txt", "second.txt")) == expected
@@ -88,7 +120,7 @@ def main(command):
             program.press("Quitter")
             assert program.wait_for_end() == 0
             assert program.stderr() == "", program.stderr()
-        assert "TabSpecAdest2 :@: second.txt\ttwo\tB\n" in files.preferences.read_text("utf-8")
+        assert "TabSpecAdest2 :@: second.txt\ttwo\tB\tB\ttwo\n" in files.preferences.read_text("utf-8")
 
 
 main(*sys.argv[1:])

@@ -3,6 +3,7 @@
 
 #include "app/App.h"
 #include "mainwindow/WinMain.h"
+#include "specialA/WinSpecA.h"
 #include "support/Fncts.h"
 #include "support/PathForm.h"
 #include "tests/TemporaryFolder.h"

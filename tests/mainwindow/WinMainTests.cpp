@@ -54,6 +54,23 @@ TEST_F(MainWindow, ARefusedTextStandsWhereItsViewIs)
     }
 }
 
+TEST_F(MainWindow, ARunDisablesTheOtherWindowToo)
+{
+    Open();
+    window->SegButtSpecA.SetSelected(0, true);
+    window->SegButtSpecA.Pressed(0);
+    auto& special = dynamic_cast<WinSpecA&>(*DesktopApplication::WindowAt(DesktopApplication::WindowCount() - 1));
+    for (const bool idle : {false, true}) {
+        Fncts::DrapMenu = idle;
+        App::Current().EnableMenuBoutons();
+        for (const DesktopUIControl* control : std::initializer_list<DesktopUIControl*>{
+                 &special.PushButtSource, &special.TextFieldOrg, &special.TextFieldDest1, &special.TextFieldDest2,
+                 &special.ListboxRR, &special.PushButtAdd, &special.PushButtSupp, &special.PushButtQuit,
+                 &special.PushButtTrait})
+            EXPECT_EQ(control->Enabled(), idle) << control->Top();
+    }
+}
+
 TEST_F(MainWindow, AModelAddressThatIsNoneIsTold)
 {
     Open("\xEF\xBB\xBFSource Model :@: 1\nSourceUrl :@: ftp://server/model\n");

@@ -28,9 +28,8 @@ inline void ExpectTreatedAsNaively(const String& original, const std::vector<Rep
         dest1 = ReplaceNaively(dest1, row.searched, row.replacement1);
         dest2 = ReplaceNaively(dest2, row.searched, row.replacement2);
     }
-    const std::optional<Treatment> treated = Treat(original, rows);
-    ASSERT_TRUE(treated);
-    EXPECT_EQ(treated->report, report);
-    EXPECT_EQ(treated->dest1, dest1);
-    EXPECT_EQ(treated->dest2, dest2);
+    const Treatment treated = Treat(original, rows);
+    EXPECT_EQ(treated.report, report);
+    EXPECT_EQ(treated.dest1, dest1);
+    EXPECT_EQ(treated.dest2, dest2);
 }

@@ -88,6 +88,15 @@ TEST_F(SpecialA, WritesWhatTheAnswersAllow)
          "x 1",
          {Exists(U"original.txt")},
          1},
+        {"a full folder is kept when the user wants that",
+         U"full",
+         U"two",
+         {1, 2},
+         "",
+         "x 2",
+         "x A",
+         {Exists(U"full")},
+         1},
         {"no name leads out of the folder",
          U"../two",
          U"..",
@@ -105,6 +114,7 @@ TEST_F(SpecialA, WritesWhatTheAnswersAllow)
         const auto original = folder.File("in/original.txt", "x A");
         folder.File("in/taken", "old");
         folder.File("two", "outside");
+        folder.File("in/full/inner", "kept");
         Open(original);
         window->TextFieldDest1.SetText(row.dest1);
         window->TextFieldDest2.SetText(row.dest2);
@@ -121,9 +131,19 @@ TEST_F(SpecialA, WritesWhatTheAnswersAllow)
         EXPECT_EQ(folder.Content("in/original.txt"), row.original);
         EXPECT_EQ(folder.Content("in/taken"), "old");
         EXPECT_EQ(folder.Content("two"), "outside");
+        EXPECT_EQ(folder.Content("in/full/inner"), "kept");
         EXPECT_EQ(std::ssize(probe.Sounds), row.sounds);
         EXPECT_TRUE(Fncts::DrapMenu);
     }
+}
+
+TEST_F(SpecialA, AFullFolderGivesWayWhenTheUserSaysSo)
+{
+    folder.File("one/inner", "given up");
+    Open(folder.File("original.txt", "x A"));
+    window->PushButtTrait_Pressed();
+    EXPECT_EQ(Asked(), (std::vector{found, Exists(U"one")}));
+    EXPECT_EQ(folder.Content("one"), "x 1");
 }
 
 TEST_F(SpecialA, AsksBeforeItWritesAnUnchangedText)
@@ -141,7 +161,6 @@ TEST_F(SpecialA, AsksBeforeItWritesAnUnchangedText)
 TEST_F(SpecialA, HasNoUseForWhatIsNoFile)
 {
     const String missing = U"Le fichier original n'existe pas.[Ok]";
-    std::filesystem::create_symlink(folder.File("text"), folder.Path() / "link");
     Open();
     EXPECT_EQ(window->StTextFichSource.Text(), U"…");
     window->PushButtTrait_Pressed();
@@ -153,6 +172,10 @@ TEST_F(SpecialA, HasNoUseForWhatIsNoFile)
     window->PushButtTrait_Pressed();
     EXPECT_EQ(Asked(), std::vector{missing});
     EXPECT_EQ(window->TextFieldOrg.Text(), U"…");
+
+    std::filesystem::create_symlink(folder.File("text"), gone);
+    window->PushButtTrait_Pressed();
+    EXPECT_EQ(Asked(), std::vector{missing}) << "a link has taken its place";
 
     const auto pipe = folder.Path() / "pipe.txt";
     ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
@@ -200,6 +223,30 @@ TEST_F(SpecialA, TakesDroppedTextFilesOnly)
     EXPECT_EQ(window->TextFieldOrg.Text(), U"…") << "not while anything is under way";
 }
 
+TEST_F(SpecialA, ChoosesAndRevealsItsOriginal)
+{
+    const FolderItem text(folder.File("in/text.txt"));
+    std::filesystem::create_symlink(text.Path(), folder.Path() / "link");
+    Open();
+    probe.ShiftKey = true;
+    window->PushButtSource_Pressed();
+    EXPECT_EQ(probe.Beeps, 1) << "nothing to reveal";
+    probe.ShiftKey = false;
+    probe.Answers = {text, FolderItem(folder.Path()), 1, FolderItem(folder.Path() / "link"), 1, std::nullopt};
+    window->PushButtSource_Pressed();
+    EXPECT_EQ(Asked(), std::vector<String>{U"Choisir un fichier :"});
+    for (const char* what : {"a folder", "an alias"}) {
+        SCOPED_TRACE(what);
+        window->PushButtSource_Pressed();
+        EXPECT_EQ(Asked().back(), U"Vous pouvez seulement sélectionner un fichier texte.[Ok]");
+    }
+    window->PushButtSource_Pressed();
+    EXPECT_EQ(window->TextFieldOrg.Text(), U"text.txt") << "none of the others was taken";
+    probe.ShiftKey = true;
+    window->PushButtSource_Pressed();
+    EXPECT_EQ(probe.Revealed, std::vector{text.NativePath()});
+}
+
 TEST_F(SpecialA, TheTableGrowsAndShrinks)
 {
     app.TabSpecAdest2 = {U"two", U"2", U"lonely"};
@@ -212,11 +259,14 @@ TEST_F(SpecialA, TheTableGrowsAndShrinks)
     window->PushButtSupp_Pressed();
     EXPECT_EQ(window->ListboxRR.LastRowIndex(), 1);
     window->ListboxRR.SetSelectedRowIndex(0);
-    window->ListboxRR_TextPasted(U"org\tone\ttwo\n\nx\ty\tz\r\nv");
+    window->ListboxRR_TextPasted(U"…\tone\ttwo\n\nx\ty\tz\r\nv");
     EXPECT_EQ(Row(1), U"x|y|z");
     EXPECT_EQ(Row(2), U"v||");
     window->PushButtSupp_Pressed();
     EXPECT_EQ(Row(0), U"x|y|z") << "the selected row went";
+    window->PushButtSupp_Pressed();
+    EXPECT_EQ(Row(0), U"x|y|z") << "its neighbour isn't selected";
+    EXPECT_EQ(std::exchange(probe.Beeps, 1), 2);
     while (window->ListboxRR.LastRowIndex() < 999)
         window->PushButtAdd_Pressed();
     EXPECT_EQ(probe.Beeps, 1);

@@ -183,6 +183,10 @@ TEST_F(LinkTest, ReleaseComesWhereverThePointerIs)
 TEST_F(LinkTest, KeysPressItInItsMiddle)
 {
     EXPECT_EQ(widget->focusPolicy(), Qt::TabFocus);
+    DesktopButton button(window, {0, 0, 80, 20, Lock::Left | Lock::Top, 2}, U"Ok");
+    button.SetDefault();
+    button.Pressed = [this] { Note("default", 0, 0); };
+    link.SetFocus();
     for (Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
         events.clear();
         QTest::keyClick(widget, key);
