@@ -1,45 +1,59 @@
 #include "toolkit/URLConnection.h"
 
+#include "toolkit/HttpAnswer.h"
 #include "toolkit/core/QtText.h"
 
-#include <QNetworkAccessManager>
-#include <QNetworkReply>
 #include <QPointer>
 #include <QSslConfiguration>
+#include <QSslSocket>
 #include <QTimer>
+#include <QUrl>
 #include <chrono>
 
 namespace {
 
+constexpr int maximumRedirections = 20;
+
+bool IsSecure(const QUrl& url) { return url.scheme() == QLatin1String("https"); }
+
 bool IsFetchable(const QUrl& url)
 {
-    const QString scheme = url.scheme();
-    return url.isValid() && !url.host().isEmpty() &&
-           (scheme == QLatin1String("http") || scheme == QLatin1String("https"));
+    return url.isValid() && !url.host().isEmpty() && (IsSecure(url) || url.scheme() == QLatin1String("http"));
 }
 
-int StatusOf(const QNetworkReply& reply) { return reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt(); }
-
-/// Whether the server has answered in full. Statuses like 404 or 500 are errors to Qt and answers to us; what Qt
-/// numbers lower than those is a connection that failed.
-bool IsAnswer(const QNetworkReply& reply)
+URLConnection::Failure FailureOf(QAbstractSocket::SocketError error)
 {
-    const auto error = reply.error();
-    if (error == QNetworkReply::NoError) return true;
-    return StatusOf(reply) > 0 && error >= QNetworkReply::ContentAccessDenied &&
-           error != QNetworkReply::ProtocolUnknownError && error != QNetworkReply::ProtocolFailure;
+    switch (error) {
+    case QAbstractSocket::ConnectionRefusedError:
+        return URLConnection::Refused;
+    case QAbstractSocket::HostNotFoundError:
+        return URLConnection::HostNotFound;
+    case QAbstractSocket::SslHandshakeFailedError:
+        return URLConnection::Untrusted;
+    default:
+        return URLConnection::NetworkFailed;
+    }
 }
 
-/// Whether fewer bytes came than the server has announced. Qt 6.4 takes that for a complete answer when the end of the
-/// connection comes together with its last bytes.
-bool IsCutOff(const QNetworkReply& reply, qsizetype received)
+/// All on one connection, which is closed behind the answer, and unpacked.
+QByteArray RequestFor(const QByteArray& method, const QUrl& url)
 {
-    const QVariant announced = reply.header(QNetworkRequest::ContentLengthHeader);
-    return announced.isValid() && announced.toLongLong() > received;
+    QByteArray target = url.path(QUrl::FullyEncoded).toLatin1();
+    if (target.isEmpty()) target = "/";
+    if (url.hasQuery()) target += '?' + url.query(QUrl::FullyEncoded).toLatin1();
+    QByteArray request =
+        method + ' ' + target +
+        " HTTP/1.1\r\nHost: " + url.adjusted(QUrl::RemoveUserInfo).authority(QUrl::FullyEncoded).toLatin1() +
+        "\r\nUser-Agent: Tarnivel\r\nAccept: */*\r\nAccept-Encoding: identity\r\nConnection: close\r\n";
+    const QString user = url.userName(QUrl::FullyDecoded) + u':' + url.password(QUrl::FullyDecoded);
+    if (user.size() > 1) request += "Authorization: Basic " + user.toUtf8().toBase64() + "\r\n";
+    return request + "\r\n";
 }
 
 } // namespace
 
+/// Qt's own access to the network isn't used: it reads an endless head in a thread that nothing stops, keeps all of it,
+/// and takes a piece of no size for the end of the answer.
 struct URLConnection::Private {
     explicit Private(URLConnection& connection)
         : owner(connection)
@@ -47,80 +61,120 @@ struct URLConnection::Private {
         timer.setSingleShot(true);
     }
 
-    void Start(QNetworkReply* request);
-    void Collect();
+    void Fetch(const QUrl& target);
+    void Read(bool isEnd);
+    void Break(QAbstractSocket::SocketError error);
     void Finish();
-    void FailLater(int number, QString words);
-    void Fail(int number, const QString& words);
+    void Redirect();
+    void FailLater(const RuntimeException& error, std::chrono::seconds time);
+    void Fail(const RuntimeException& error);
+    void Drop();
     /// Drops the request under way and what came of it.
-    QByteArray Clear();
+    HttpAnswer Clear();
 
     URLConnection& owner;
-    // Made at the first request: it costs a thread and some memory.
-    std::unique_ptr<QNetworkAccessManager> manager;
-    QPointer<QNetworkReply> reply;
-    QByteArray received;
+    QPointer<QTcpSocket> socket;
+    QByteArray method;
+    QUrl link;
+    HttpAnswer answer;
+    int redirections = 0;
     QTimer timer;
 };
 
-void URLConnection::Private::Start(QNetworkReply* request)
+void URLConnection::Private::Fetch(const QUrl& target)
 {
-    reply = request;
-    QObject::connect(request, &QNetworkReply::readyRead, &timer, [this] { Collect(); });
-    QObject::connect(request, &QNetworkReply::finished, &timer, [this] { Finish(); });
+    Drop();
+    answer = {};
+    link = target;
+    auto* const secure = IsSecure(link) ? new QSslSocket : nullptr;
+    socket = secure ? secure : new QTcpSocket;
+    const auto ask = [this] { socket->write(RequestFor(method, link)); };
+    QObject::connect(socket, &QTcpSocket::readyRead, &timer, [this] { Read(false); });
+    QObject::connect(socket, &QTcpSocket::errorOccurred, &timer, [this](auto error) { Break(error); });
+    if (secure) {
+        secure->setPeerVerifyMode(owner.AllowCertificateValidation ? QSslSocket::AutoVerifyPeer
+                                                                   : QSslSocket::VerifyNone);
+        QObject::connect(secure, &QSslSocket::encrypted, &timer, ask);
+        secure->connectToHostEncrypted(link.host(QUrl::FullyEncoded), static_cast<quint16>(link.port(443)));
+    } else {
+        QObject::connect(socket, &QTcpSocket::connected, &timer, ask);
+        socket->connectToHost(link.host(QUrl::FullyEncoded), static_cast<quint16>(link.port(80)));
+    }
 }
 
-void URLConnection::Private::Collect()
+void URLConnection::Private::Read(bool isEnd)
 {
-    received += reply->readAll();
-    if (received.size() > MaximumSize)
-        Fail(QNetworkReply::UnknownContentError, QStringLiteral("The answer is longer than %1 bytes").arg(MaximumSize));
+    try {
+        answer.Take(socket->readAll().toStdString());
+        if (isEnd) answer.End();
+    } catch (const RuntimeException& error) {
+        return Fail(error);
+    }
+    if (!answer.IsComplete()) return;
+    if (answer.Location.empty())
+        Finish();
+    else
+        Redirect();
+}
+
+void URLConnection::Private::Break(QAbstractSocket::SocketError error)
+{
+    if (error == QAbstractSocket::RemoteHostClosedError) return Read(true);
+    // A socket may fail while it is still being told to connect.
+    const RuntimeException failure(FailureOf(error), FromQt(socket->errorString()));
+    Drop();
+    FailLater(failure, std::chrono::seconds(0));
 }
 
 void URLConnection::Private::Finish()
 {
-    const QPointer<QNetworkReply> finished = reply;
-    Collect();
-    // The rest was too much, and the request has failed by it.
-    if (reply != finished) return;
-    if (!IsAnswer(*reply)) {
-        Fail(reply->error(), reply->errorString());
-        return;
-    }
-    if (IsCutOff(*reply, received.size())) {
-        Fail(QNetworkReply::RemoteHostClosedError, QStringLiteral("The connection ended within the answer"));
-        return;
-    }
-    const String url = FromQt(reply->url().toString());
-    const Int64 status = StatusOf(*reply);
-    const QByteArray content = Clear();
+    const String url = FromQt(link.toString());
+    const HttpAnswer complete = Clear();
     // A copy: what is called may set the event anew.
-    if (const auto event = owner.ContentReceived) event(url, status, content.toStdString());
+    if (const auto event = owner.ContentReceived) event(url, complete.Status, complete.Content);
 }
 
-void URLConnection::Private::FailLater(int number, QString words)
+void URLConnection::Private::Redirect()
 {
-    QObject::connect(&timer, &QTimer::timeout, &timer,
-                     [this, number, words = std::move(words)] { Fail(number, words); });
+    const QUrl target = link.resolved(QUrl(QString::fromStdString(answer.Location)));
+    if (++redirections > maximumRedirections)
+        Fail({TooManyRedirections, U"Too many redirects"});
+    else if (!IsFetchable(target) || (IsSecure(link) && !IsSecure(target)))
+        Fail({NoWebServer, U"Redirected to what is not fetched: " + FromQt(target.toString())});
+    else
+        Fetch(target);
 }
 
-void URLConnection::Private::Fail(int number, const QString& words)
+void URLConnection::Private::FailLater(const RuntimeException& error, std::chrono::seconds time)
 {
-    const RuntimeException error(number, FromQt(words));
+    timer.disconnect();
+    // A copy: the failure disconnects what it is called by.
+    QObject::connect(&timer, &QTimer::timeout, &timer, [this, error] { Fail(RuntimeException(error)); });
+    timer.start(time);
+}
+
+void URLConnection::Private::Fail(const RuntimeException& error)
+{
     Clear();
     if (const auto event = owner.Error) event(error);
 }
 
-QByteArray URLConnection::Private::Clear()
+void URLConnection::Private::Drop()
 {
-    timer.stop();
-    timer.disconnect();
-    if (QNetworkReply* const old = std::exchange(reply, nullptr)) {
+    if (QTcpSocket* const old = std::exchange(socket, nullptr)) {
         old->disconnect(&timer);
         old->abort();
         old->deleteLater();
     }
-    return std::exchange(received, {});
+}
+
+HttpAnswer URLConnection::Private::Clear()
+{
+    timer.stop();
+    timer.disconnect();
+    Drop();
+    redirections = 0;
+    return std::exchange(answer, {});
 }
 
 URLConnection::URLConnection()
@@ -134,26 +188,12 @@ void URLConnection::Send(StringView method, StringView url, int timeout)
 {
     private_->Clear();
     const QUrl link(ToQt(url).trimmed());
-    if (!IsFetchable(link)) {
-        private_->FailLater(QNetworkReply::ProtocolUnknownError,
-                            QStringLiteral("No address of a web server: %1").arg(ToQt(url)));
-        private_->timer.start(0);
-        return;
-    }
-    private_->FailLater(QNetworkReply::TimeoutError, QStringLiteral("No answer within %1 seconds").arg(timeout));
-    private_->timer.start(std::chrono::seconds(timeout));
-
-    QNetworkRequest request(link);
-    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::NoLessSafeRedirectPolicy);
-    // A compressed answer is mostly sent without its length, by which alone a part can be told from the whole.
-    request.setRawHeader("Accept-Encoding", "identity");
-    if (!AllowCertificateValidation) {
-        QSslConfiguration security = request.sslConfiguration();
-        security.setPeerVerifyMode(QSslSocket::VerifyNone);
-        request.setSslConfiguration(security);
-    }
-    if (!private_->manager) private_->manager = std::make_unique<QNetworkAccessManager>();
-    private_->Start(private_->manager->sendCustomRequest(request, ToQt(method).toUpper().toLatin1()));
+    if (!IsFetchable(link))
+        return private_->FailLater({NoWebServer, U"No address of a web server: " + String(url)},
+                                   std::chrono::seconds(0));
+    private_->FailLater({Late, U"No answer within " + ToText(timeout) + U" seconds"}, std::chrono::seconds(timeout));
+    private_->method = ToQt(method).toUpper().toLatin1();
+    private_->Fetch(link);
 }
 
 void URLConnection::Disconnect() { private_->Clear(); }

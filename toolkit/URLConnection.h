@@ -25,11 +25,28 @@ public:
     /// The answer of the server, an error page included; the bytes as they came. One that was sent without its length
     /// ends where the connection does.
     std::function<void(const String& url, Int64 httpStatus, const Bytes& content)> ContentReceived;
-    /// No server, no answer in time, an answer that broke off, or one of more than `MaximumSize` bytes.
+    /// No server, no answer in time, an answer that broke off, or one that is beyond the limits.
     std::function<void(const RuntimeException& error)> Error;
 
-    /// 64 MiB, some thousand times the size of a large scenery_packs.ini.
-    static constexpr Int64 MaximumSize = Int64{64} << 20;
+    /// What `Error` gives as the number.
+    enum Failure : std::uint16_t {
+        Refused = 1,
+        HungUp = 2,
+        HostNotFound = 3,
+        Late = 4,
+        Untrusted = 6,
+        TooManyRedirections = 10,
+        NetworkFailed = 99,
+        TooLong = 299,
+        NoWebServer = 301,
+        NoHttp = 399
+    };
+
+    /// 8 MiB, some hundred times the size of a large scenery_packs.ini. By that the whole program stays below 128 MiB
+    /// during a fetch, whatever the server sends, and below 1 GiB when a text area shows the worst that fits: a tab
+    /// takes it 100 bytes, an empty line 250.
+    static constexpr Int64 MaximumSize = Int64{8} << 20;
+    static constexpr Int64 MaximumLines = 250'000;
 
 private:
     struct Private;

@@ -45,8 +45,19 @@ struct Client : URLConnection {
     String errorMessage;
 };
 
-/// Qt's numbers, which the user gets to see.
-enum : Int64 { Fine, Refused, HungUp, NotFound, Late, Untrusted = 6, Redirects = 10, TooLong = 299, Unknown = 301 };
+/// The numbers that the user gets to see.
+enum : Int64 {
+    Fine,
+    Refused,
+    HungUp,
+    NotFound,
+    Late,
+    Untrusted = 6,
+    Redirects = 10,
+    TooLong = 299,
+    Unknown = 301,
+    NoHttp = 399
+};
 
 /// A head and a page of which more is announced than comes.
 std::string Page(const std::string& head, const std::string& page, std::size_t missing = 0)
@@ -58,7 +69,8 @@ TEST(URLConnection, GivesTheAnswerOrAnError)
 {
     const std::string moved = "302 Found\r\nLocation: ",
                       pieces = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n";
-    const std::string raw = "\xff\xfe\0\r\n\xc3"s, much(URLConnection::MaximumSize, '.');
+    const std::string raw = "\xff\xfe\0\r\n\xc3"s, much(URLConnection::MaximumSize, '.'),
+                      lines(URLConnection::MaximumLines, '\n');
     const struct {
         const char* name;
         std::string answer;
@@ -75,16 +87,29 @@ TEST(URLConnection, GivesTheAnswerOrAnError)
         {"a bad request is content too", Page("400 Bad Request", "what?"), Wait, Fine, 400, "what?"},
         {"a failure of the server is content too", Page("500 Oops", "oops"), Wait, Fine, 500, "oops"},
         {"a redirection is followed", Page(moved + "/elsewhere", ""), Wait, Fine, 200, "elsewhere"},
+        {"some more may come before it", "HTTP/1.1 103 Hints\r\n\r\n" + Page("200 OK", "hi"), Wait, Fine, 200, "hi"},
+        {"a page without content has none", "HTTP/1.1 204 No\r\n\r\n", Wait, Fine, 204, ""},
+        {"a redirection to nowhere is content", Page("302 Found", "where?"), Wait, Fine, 302, "where?"},
         {"a redirection to itself comes to an end", Page(moved + "/page", ""), Wait, Redirects, 0, ""},
         {"a redirection to a file is not followed", Page(moved + "file:///etc/fstab", ""), Wait, Unknown, 0, ""},
         {"a page that breaks off is an error", Page("200 OK", "hel", 2), Close, HungUp, 0, ""},
         {"so is one that breaks off late", Page("200 OK", std::string(300'000, '.'), 1), Close, HungUp, 0, ""},
+        {"so is one that breaks off in pieces", pieces + "3\r\nhel\r\n", Close, HungUp, 0, ""},
         {"a server that hangs up is an error", "", Close, HungUp, 0, ""},
-        {"what is no HTTP is an error", "220 smtp ready\r\n", Close, HungUp, 0, ""},
+        {"what is no HTTP is an error", "220 smtp ready\r\n", Wait, NoHttp, 0, ""},
+        {"so is a piece of no size", pieces + "3\r\nhel\r\nzz\r\nlo", Wait, NoHttp, 0, ""},
+        {"and one that is longer than it says", pieces + "3\r\nhello\r\n0\r\n\r\n", Wait, NoHttp, 0, ""},
+        {"and a length below 0", "HTTP/1.1 200 OK\r\nContent-Length: -5\r\n\r\nhello", Wait, NoHttp, 0, ""},
+        {"and two lengths", Page("200 OK\r\ncontent-length:2", "hello"), Wait, NoHttp, 0, ""},
+        {"and a form that we don't know", Page("200 OK\r\nTransfer-Encoding: gzip", "hello"), Wait, NoHttp, 0, ""},
         {"a server that says nothing runs out of time", "", Wait, Late, 0, ""},
         {"a head without its page runs out of time", Page("200 OK", "", 50), Wait, Late, 0, ""},
+        {"a head without an end is an error", "HTTP/1.1 200 OK\r\n" + much, Wait, TooLong, 0, ""},
         {"a page that drips for ever runs out of time", "HTTP/1.1 200 OK\r\n\r\n", GoOnForEver, Late, 0, ""},
-        {"a page above the limit is an error", Page("200 OK", much + "."), Wait, TooLong, 0, ""},
+        {"a page of the size of the limit is content", Page("200 OK", much), Wait, Fine, 200, much},
+        {"a page above it is an error", Page("200 OK", much + "."), Wait, TooLong, 0, ""},
+        {"so are more lines than the limit", Page("200 OK", lines + "\r"), Wait, TooLong, 0, ""},
+        {"but not as many", Page("200 OK", lines), Wait, Fine, 200, lines},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -98,6 +123,18 @@ TEST(URLConnection, GivesTheAnswerOrAnError)
         EXPECT_EQ(client.content, row.content);
         EXPECT_EQ(server.Requests.left(15), "GET /page HTTP/");
     }
+}
+
+TEST(URLConnection, AsksForOneUnpackedPage)
+{
+    const TestServer server(Page("200 OK", ""), Wait);
+    Client client;
+    client.Send(U"Get", U" http://u%20:p@" + server.Url.substr(7, server.Url.size() - 12) + U"?q=é x#part", 10);
+    EXPECT_TRUE(client.Reaches(1));
+    const auto address = QString::fromStdU32String(server.Url).mid(7).chopped(5).toLatin1();
+    EXPECT_EQ(server.Requests, "GET /?q=%C3%A9%20x HTTP/1.1\r\nHost: " + address +
+                                   "\r\nUser-Agent: Tarnivel\r\nAccept: */*\r\nAccept-Encoding: identity\r\n"
+                                   "Connection: close\r\nAuthorization: Basic dSA6cA==\r\n\r\n");
 }
 
 TEST(URLConnection, TellsAnAddressWithoutAServerByAnErrorAfterSend)
@@ -148,23 +185,32 @@ TEST(URLConnection, TrustsAnUnknownServerOnlyWhenToldTo)
 {
     const TemporaryFolder folder;
     const auto key = QString::fromStdString(folder.Path() / "key"),
-               page = QString::fromStdString(folder.Path() / "crt");
+               certificate = QString::fromStdString(folder.Path() / "crt");
     if (QProcess::execute("openssl", {"req", "-x509", "-newkey", "ec", "-pkeyopt", "ec_paramgen_curve:prime256v1",
-                                      "-nodes", "-days", "2", "-subj", "/CN=x", "-keyout", key, "-out", page}) != 0)
+                                      "-nodes", "-days", "2", "-subj", "/CN=x", "-keyout", key, "-out", certificate}) !=
+        0)
         GTEST_SKIP() << "no openssl to make a certificate";
     auto security = QSslConfiguration::defaultConfiguration();
     security.setPrivateKey(QSslKey(QByteArray::fromStdString(folder.Content("key")), QSsl::Ec));
-    security.setLocalCertificateChain(QSslCertificate::fromPath(page));
+    security.setLocalCertificateChain(QSslCertificate::fromPath(certificate));
 
+    const std::string page(3'000'000, '.');
     for (const bool isChecked : {true, false}) {
-        const TestServer server(Page("200 OK", "hello"), Wait, &security);
+        const TestServer server("HTTP/1.1 200 OK\r\n\r\n" + page, Close, &security);
         Client client;
         client.AllowCertificateValidation = isChecked;
         client.Send(U"Get", server.Url, 10);
         EXPECT_TRUE(client.Reaches(1));
-        EXPECT_EQ(client.content, isChecked ? "" : "hello");
+        EXPECT_EQ(client.content, isChecked ? "" : page);
         EXPECT_EQ(client.errorNumber, isChecked ? Untrusted : Fine);
     }
+
+    const TestServer server(Page("302 Found\r\nLocation: http://127.0.0.1/", ""), Wait, &security);
+    Client client;
+    client.AllowCertificateValidation = false;
+    client.Send(U"Get", server.Url, 10);
+    EXPECT_TRUE(client.Reaches(1));
+    EXPECT_EQ(client.errorNumber, Unknown) << "a redirection from a safe server to an unsafe one";
 }
 
 } // namespace
