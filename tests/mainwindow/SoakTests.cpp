@@ -1,0 +1,85 @@
+#include "tests/mainwindow/MainWindowTest.h"
+
+#include <unistd.h>
+
+namespace {
+
+/// Bytes of memory that belong to this process alone.
+std::size_t PrivateBytes()
+{
+    std::size_t total = 0, resident = 0, shared = 0;
+    std::ifstream("/proc/self/statm") >> total >> resident >> shared;
+    return (resident - shared) * static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+}
+
+std::ptrdiff_t OpenFiles()
+{
+    const std::filesystem::directory_iterator files("/proc/self/fd");
+    return std::distance(begin(files), end(files));
+}
+
+class Soak : public MainWindow {
+protected:
+    static constexpr int packs = 300;
+
+    void OpenAll()
+    {
+        std::string model = header, source = header;
+        for (int pack = 0; pack < packs; ++pack) {
+            model += "SCENERY_PACK Custom Scenery/" + std::to_string(pack) + "/\n";
+            source += "SCENERY_PACK Custom Scenery/" + std::to_string(packs - pack) + "/\n";
+        }
+        Open("Afficher Bouton Special A :@: True\nTabSpecAorg :@: model.ini\tscenery\nTabSpecAdest1 :@: a\tx\n"
+             "PathSpecA :@: " +
+             Encodings::UTF8.Encode(Fncts::AbsPath_f(FolderItem(folder.File("model.ini", model)), true)) + "\n");
+        Choose(window->TextFieldMod1, folder.Path() / "model.ini");
+        Choose(window->TextFieldSpack, folder.File("Custom Scenery/scenery_packs.ini", source));
+        Choose(window->TextFieldArchiv, folder.Folder("archives"));
+    }
+
+    void DoAll()
+    {
+        window->ChBoxArchiv.SetValue(true);
+        Run();
+        window->TextAreaAff.Select(0, std::ssize(window->TextAreaAff.Text()));
+        window->BtnEnabDis_Pressed();
+        window->BtnSave_Pressed();
+        std::filesystem::remove_all(folder.Path() / "archives"); // two of one second would have one name
+        folder.Folder("archives");
+        window->TextFieldCherch.SetText(U"299");
+        window->PushButtCherch_Pressed();
+        window->SegButtSpecA.SetSelected(0, true);
+        window->SegButtSpecA.Pressed(0);
+        dynamic_cast<WinSpecA&>(*DesktopApplication::WindowAt(DesktopApplication::WindowCount() - 1))
+            .PushButtTrait_Pressed();
+        window->SegButtSpecA.SetSelected(0, false);
+        window->SegButtSpecA.Pressed(0);
+        probe.Asked.clear();
+        probe.Sounds.clear();
+    }
+};
+
+TEST_F(Soak, FiveHundredRoundsLeaveNothingBehind)
+{
+    OpenAll();
+    for (int round = 0; round < 50; ++round)
+        DoAll();
+#ifdef __SANITIZE_ADDRESS__
+    constexpr int last = 100; // memory that was given back is kept for a while, and counted
+#else
+    constexpr int last = 500;
+#endif
+    const std::size_t before = PrivateBytes();
+    const std::ptrdiff_t files = OpenFiles();
+    for (int round = 50; round < last; ++round) {
+        DoAll();
+        ASSERT_FALSE(HasFailure()) << round;
+    }
+    EXPECT_EQ(OpenFiles(), files);
+    const std::size_t after = PrivateBytes();
+    std::cout << before << " bytes after 50 rounds, " << after << " after " << last << '\n';
+    if (last == 500) EXPECT_LT(after, before + before / 20);
+    EXPECT_TRUE(folder.Content("a").starts_with("I\n1000 version\nx\nx_PACK")) << "each round has done its work";
+}
+
+} // namespace
