@@ -78,7 +78,9 @@ TEST_F(Soak, FiveHundredRoundsLeaveNothingBehind)
     EXPECT_EQ(OpenFiles(), files);
     const std::size_t after = PrivateBytes();
     std::cout << before << " bytes after 50 rounds, " << after << " after " << last << '\n';
-    if (last == 500) EXPECT_LT(after, before + before / 20);
+    if (last == 500) {
+        EXPECT_LT(after, before + before / 20);
+    }
     EXPECT_TRUE(folder.Content("a").starts_with("I\n1000 version\nx\nx_PACK")) << "each round has done its work";
 }
 
