@@ -19,6 +19,7 @@ App::App(int& argc, char** argv)
     : DesktopApplication(argc, argv, U"Tarnivel", String(Build::Version))
 {
     current = this;
+    SetDesktopEntry(U"fr.kavesti.tarnivel", U"tarnivel");
     menuBar_.ApplePrefs.Action = [this] { return ApplePrefs_Action(); };
     menuBar_.FichSaveFile.Action = [this] { return FichSaveFile_Action(); };
     menuBar_.FichSelArchivDoss.Action = [this] { return FichSelArchivDoss_Action(); };

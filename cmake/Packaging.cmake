@@ -11,7 +11,7 @@ if(APPLE)
 endif()
 install(TARGETS tarnivel_sound LIBRARY DESTINATION lib/tarnivel/modules)
 install(DIRECTORY ${PROJECT_BINARY_DIR}/resources/ DESTINATION ${CMAKE_INSTALL_DATADIR}/tarnivel
-  FILES_MATCHING PATTERN *.wav PATTERN *.ttf PATTERN *.qm PATTERN CMakeFiles EXCLUDE)
+  FILES_MATCHING PATTERN *.wav PATTERN *.ttf PATTERN *.png PATTERN *.qm PATTERN CMakeFiles EXCLUDE)
 install(FILES packaging/${application}.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES packaging/${application}.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(FILES resources/icon/tarnivel.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps

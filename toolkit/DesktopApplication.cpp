@@ -3,9 +3,11 @@
 #include "toolkit/Dialogs.h"
 #include "toolkit/MenuBar.h"
 #include "toolkit/SessionEnd.h"
+#include "toolkit/core/FolderItem.h"
 #include "toolkit/core/QtText.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
@@ -86,6 +88,20 @@ DesktopApplication::DesktopApplication(int& argc, char** argv, String name, Stri
     if (private_->platformTexts.load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"),
                                      QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&private_->platformTexts);
+}
+
+void DesktopApplication::SetDesktopEntry(StringView entry, StringView icon)
+{
+    QApplication::setDesktopFileName(ToQt(entry));
+#ifndef Q_OS_MACOS // where the bundle has the icon
+    const std::optional<FolderItem> resources = ResourceFolder();
+    if (!resources) return;
+    QIcon pictures;
+    for (const int size : {16, 32, 64})
+        pictures.addFile(QStringLiteral("%1/%2_%3.png").arg(ToQt(resources->NativePath()), ToQt(icon)).arg(size),
+                         QSize(size, size));
+    QApplication::setWindowIcon(pictures);
+#endif
 }
 
 DesktopApplication::~DesktopApplication() { current = nullptr; }

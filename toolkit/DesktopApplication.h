@@ -19,6 +19,11 @@ public:
 
     const String Name, Version;
 
+    /// Tells the desktop which entry of its menu the windows belong to: `entry` is that file's name without ".desktop".
+    /// The windows have the pictures `icon`_16.png, `icon`_32.png and `icon`_64.png of the resources. To be called
+    /// once, before the first window.
+    static void SetDesktopEntry(StringView entry, StringView icon);
+
     /// The bar of every window that is made with one. Items are checked by `MenuBarSelected` before a menu is seen and
     /// before a shortcut acts, and act only when they are enabled then.
     void SetMenuBar(DesktopMenuBar menuBar);
