@@ -33,8 +33,8 @@ function(house_library name)
   endif()
 endfunction()
 
-# house_bundle(name): makes the program a macOS bundle, with the resources and the module for sounds inside. The file
-# types are those of app/FileTypes.h.
+# house_bundle(name): makes the program a macOS bundle, with the resources, the icon and the module for sounds inside.
+# The file types are those of app/FileTypes.h.
 function(house_bundle name)
   file(STRINGS ${PROJECT_SOURCE_DIR}/app/FileTypes.h line REGEX "\\.Extensions = ")
   string(REGEX MATCHALL "\\.[a-z0-9]+" extensions "${line}")
@@ -49,8 +49,11 @@ function(house_bundle name)
   set_target_properties(${name} PROPERTIES
     MACOSX_BUNDLE ON
     MACOSX_BUNDLE_INFO_PLIST ${PROJECT_BINARY_DIR}/Info.plist)
+  set(resources $<TARGET_BUNDLE_CONTENT_DIR:${name}>/Resources)
   add_custom_command(TARGET ${name} POST_BUILD
-    COMMAND ${CMAKE_COMMAND} -E copy_directory ${PROJECT_BINARY_DIR}/resources $<TARGET_BUNDLE_CONTENT_DIR:${name}>/Resources
+    COMMAND ${CMAKE_COMMAND} -E copy_directory ${PROJECT_BINARY_DIR}/resources ${resources}
+    COMMAND ${CMAKE_COMMAND} -E rm -rf ${resources}/CMakeFiles ${resources}/cmake_install.cmake ${resources}/CTestTestfile.cmake
+    COMMAND ${CMAKE_COMMAND} -E copy ${PROJECT_SOURCE_DIR}/resources/icon/tarnivel.icns ${resources}
     COMMAND ${CMAKE_COMMAND} -E copy $<TARGET_FILE:tarnivel_sound> $<TARGET_FILE_DIR:${name}>
     VERBATIM)
 endfunction()
