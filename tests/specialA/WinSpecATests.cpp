@@ -158,6 +158,31 @@ TEST_F(SpecialA, AsksBeforeItWritesAnUnchangedText)
     EXPECT_EQ(folder.Content("two"), "X 2") << "the other is written all the same";
 }
 
+TEST_F(SpecialA, StaysAliveInALongTreatment)
+{
+    std::string text;
+    for (int word = 0; word < 60'000; ++word)
+        text += "w" + std::to_string(word % 5000) + ' ';
+    for (int row = 1; row < 500; ++row)
+        app.TabSpecAorg.push_back(U"w" + ToText(5 * row) + U" ");
+    Open(folder.File("long.txt", text));
+    int ticks = 0, ticksWithBar = 0;
+    Timer watch(20);
+    watch.Action = [&] {
+        ++ticks;
+        ticksWithBar += static_cast<int>(window->ProgressTrait.Visible());
+        window->Close();
+    };
+    watch.SetRunMode(Timer::RunModes::Multiple);
+    probe.WhileAsking = [&] { watch.SetRunMode(Timer::RunModes::Off); };
+    window->PushButtTrait_Pressed();
+    EXPECT_GT(ticksWithBar, 0);
+    EXPECT_GT(ticks, ticksWithBar) << "the bar comes after half a second";
+    EXPECT_FALSE(window->ProgressTrait.Visible());
+    EXPECT_TRUE(window->Visible()) << "no close in the middle";
+    EXPECT_GE(probe.Beeps, ticks);
+}
+
 TEST_F(SpecialA, HasNoUseForWhatIsNoFile)
 {
     const String missing = U"Le fichier original n'existe pas.[Ok]";
