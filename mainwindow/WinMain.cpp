@@ -76,6 +76,10 @@ void WinMain::NameControls()
     PushButtCherch.SetTooltip(Btn_Chercher_HT());
     StaticTextVersion.SetTooltip(Btn_Historic());
 
+    // Heard alone, buttons of one caption must tell of which field they are.
+    BtnSelFichModel.SetAccessibleName(Btn_SelectFichier() + U", " + RdButtSourceA());
+    BtnSelArchivDoss.SetAccessibleName(Btn_SelectDossier() + U", " + ChBoxArchive());
+    BtnSelFichSpack.SetAccessibleName(Btn_SelectFichier() + U", " + StTextScenPack());
     RadGrpSrc.SetAccessibleName(RdButtSourceA() + U" / " + RdButtSourceB());
     TextFieldMod1.SetAccessibleName(RdButtSourceA());
     TextFieldMod2.SetAccessibleName(RdButtSourceB());
@@ -161,6 +165,7 @@ void WinMain::Event_Opening()
     App::Current().DrapOkQuit = false;
     StaticTextVersion.SetText(U"v." + App::Current().Version);
     StaticTextVersion.SetTooltip(Fncts::TypeCompil() + U" - " + stamp);
+    StaticTextVersion.SetAccessibleName(Btn_Historic() + U" " + StaticTextVersion.Text());
 
     if (const String failure = StartFailure(); !failure.empty()) return RefuseStart(failure);
     PrefsCharger();

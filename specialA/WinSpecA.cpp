@@ -81,6 +81,8 @@ void WinSpecA::NameControls()
     TextFieldDest1.SetAccessibleName(LabDest1());
     TextFieldDest2.SetAccessibleName(LabDest2());
     ListboxRR.SetAccessibleName(WinSpecA_Title());
+    ListboxRR.SetColumnNames({LabOrg(), LabDest1(), LabDest2()});
+    PushButtSupp.SetAccessibleName(Menu_EditClear());
     CanvFocus.SetAccessibleName(WinSpecA_Title());
     ProgressTrait.SetAccessibleName(Btn_Trait());
 }

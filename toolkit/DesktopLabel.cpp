@@ -3,6 +3,7 @@
 #include "toolkit/DocumentText.h"
 #include "toolkit/core/QtText.h"
 
+#include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
@@ -17,6 +18,12 @@ public:
     /// Null while the label is being made.
     DesktopLabel* owner = nullptr;
 
+    [[nodiscard]] bool IsLink() const { return owner && owner->MouseUp; }
+    void Follow()
+    {
+        if (Press(rect().center())) Release(rect().center());
+    }
+
 protected:
     bool event(QEvent* event) override
     {
@@ -28,7 +35,7 @@ protected:
 
     void showEvent(QShowEvent* event) override
     {
-        const bool stop = owner && owner->MouseUp && owner->TabIndex() >= 0;
+        const bool stop = IsLink() && owner->TabIndex() >= 0;
         setFocusPolicy(stop ? Qt::TabFocus : Qt::NoFocus);
         QLabel::showEvent(event);
     }
@@ -46,7 +53,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override
     {
         if (!IsPress(*event)) return QLabel::keyPressEvent(event);
-        if (Press(rect().center())) Release(rect().center());
+        Follow();
     }
 
     void enterEvent(QEnterEvent*) override
@@ -73,7 +80,7 @@ private:
     [[nodiscard]] bool IsPress(const QKeyEvent& event) const
     {
         const int key = event.key();
-        return owner && owner->MouseUp && (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space);
+        return IsLink() && (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space);
     }
 
     bool Press(QPoint point)
@@ -89,6 +96,43 @@ private:
     }
 
     bool pressed_ = false;
+};
+
+/// What a screen reader is told of a label: whether it is a link, which can be pressed.
+class Announced final : public QAccessibleWidget {
+public:
+    explicit Announced(LabelWidget& label)
+        : QAccessibleWidget(&label)
+        , label_(label)
+    {
+    }
+
+    static QAccessibleInterface* Make(const QString& /*className*/, QObject* object)
+    {
+        auto* const label = dynamic_cast<LabelWidget*>(object);
+        return label ? new Announced(*label) : nullptr;
+    }
+
+    [[nodiscard]] QAccessible::Role role() const override
+    {
+        return label_.IsLink() ? QAccessible::Link : QAccessible::StaticText;
+    }
+    [[nodiscard]] QString text(QAccessible::Text kind) const override
+    {
+        QString text = QAccessibleWidget::text(kind);
+        return kind == QAccessible::Name && text.isEmpty() ? label_.text() : text;
+    }
+    [[nodiscard]] QStringList actionNames() const override
+    {
+        return label_.IsLink() ? QStringList{pressAction()} : QStringList();
+    }
+    void doAction(const QString& name) override
+    {
+        if (name == pressAction() && label_.IsLink()) label_.Follow();
+    }
+
+private:
+    LabelWidget& label_;
 };
 
 Qt::AlignmentFlag AlignmentOf(TextAlignment alignment)
@@ -136,6 +180,7 @@ DesktopLabel::DesktopLabel(DesktopWindow& window, const Placement& placement, St
     }
     auto* const label = static_cast<LabelWidget*>(widget_);
     label->owner = this;
+    QAccessible::installFactory(&Announced::Make);
     label->setTextFormat(Qt::PlainText);
     label->setAlignment(AlignmentOf(style.alignment) | Qt::AlignVCenter);
     QFont font = label->font();

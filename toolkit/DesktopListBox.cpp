@@ -183,6 +183,14 @@ DesktopListBox::DesktopListBox(DesktopWindow& window, const Placement& placement
 {
 }
 
+void DesktopListBox::SetColumnNames(const std::vector<String>& names)
+{
+    QStringList labels;
+    for (const String& name : names)
+        labels << ToQt(name);
+    static_cast<Table*>(widget_)->setHorizontalHeaderLabels(labels);
+}
+
 int DesktopListBox::LastRowIndex() const { return static_cast<Table*>(widget_)->rowCount() - 1; }
 
 String DesktopListBox::CellTextAt(int row, int column) const

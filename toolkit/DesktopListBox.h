@@ -16,6 +16,9 @@ class DesktopListBox : public DesktopUIControl {
 public:
     DesktopListBox(DesktopWindow& window, const Placement& placement, int columns);
 
+    /// What a screen reader calls the columns.
+    void SetColumnNames(const std::vector<String>& names);
+
     /// -1 for an empty table.
     [[nodiscard]] int LastRowIndex() const;
     [[nodiscard]] String CellTextAt(int row, int column) const;

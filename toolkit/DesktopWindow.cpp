@@ -48,7 +48,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    /// To a screen reader a plain widget is none of the windows that it announces.
+    /// To a screen reader a plain widget is none of the windows or dialogs that it announces.
     static QAccessibleInterface* Announce(const QString& className, QObject* object);
     /// Where the main screen begins among several.
     static QPoint MainScreen()
@@ -126,7 +126,7 @@ DesktopWindow::Shell::Shell(DesktopWindow& owner, const WindowStyle& style)
 QAccessibleInterface* DesktopWindow::Shell::Announce(const QString& /*className*/, QObject* object)
 {
     auto* const shell = dynamic_cast<Shell*>(object);
-    return shell ? new QAccessibleWidget(shell, QAccessible::Window) : nullptr;
+    return shell ? new QAccessibleWidget(shell, shell->isModal() ? QAccessible::Dialog : QAccessible::Window) : nullptr;
 }
 
 int DesktopWindow::Shell::MenuHeight() const { return menuBar_ ? menuBar_->heightForWidth(width()) : 0; }

@@ -116,7 +116,11 @@ class Program:
         application = self._application()
         children = (application.get_child_at_index(i) for i in range(application.get_child_count())) if application else ()
         shown = [child for child in children if child and has(child, "showing")]
-        return [child for child in shown if (child.get_role_name() in ("alert", "dialog")) == dialogs]
+        return [child for child in shown if self._is_dialog(child) == dialogs]
+
+    def _is_dialog(self, node):
+        """The modal window that is looked at counts as a window."""
+        return node.get_role_name() in ("alert", "dialog") and node.get_name() != self.front
 
     def window(self):
         """The window that is looked at, once it is on the screen."""

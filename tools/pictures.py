@@ -9,8 +9,8 @@ import sys
 from desktop import Program
 from tour import TOOLS, environment, make_sample, shoot, texts, tour
 
-WANTED = ("main", "report", "save", "special", "treat", "preferences", "help")
-WITH_WHAT_IS_BEHIND = ("report", "save", "treat")
+WANTED = ("main", "report", "save", "special", "treat1", "preferences", "help")
+WITH_WHAT_IS_BEHIND = ("report", "save", "treat1")
 
 
 def main(command, folder):
@@ -19,7 +19,7 @@ def main(command, folder):
         with Program([command], environment(folder, language)) as program:
             for name in tour(program, texts(language)):
                 if name in WANTED:
-                    picture = TOOLS.parent / "docs" / "pictures" / f"{name}_{language}.png"
+                    picture = TOOLS.parent / "docs" / "pictures" / f"{name.rstrip('1')}_{language}.png"
                     shoot(picture, front=name not in WITH_WHAT_IS_BEHIND)
             program.close()
 

@@ -5,24 +5,14 @@ language and the preferences, is the caller's.
 """
 
 import os
-import pathlib
-import re
 import sys
 
 from desktop import Program
-
-TRANSLATIONS = pathlib.Path(__file__).parent.parent / "resources" / "translations"
-
-
-def captions(french, key):
-    """The text of a key in all languages."""
-    entry = re.compile(rf'id="Localisation\.{key}".*?<translation>(.*?)</translation>', re.DOTALL)
-    found = (entry.search(file.read_text("utf-8")) for file in TRANSLATIONS.glob("*.ts"))
-    return {french} | {match[1] for match in found if match}
+from tour import LANGUAGES, texts
 
 
 def main(command, picture):
-    generate = captions("Générer", "Btn_Generer")
+    generate = {texts(language)["Btn_Generer"] for language in LANGUAGES}
     with Program([command], os.environ) as program:
         program.press(generate)
         for report in program.answer_until(generate):

@@ -20,7 +20,7 @@ LANGUAGES = ("fr", "en", "de", "es", "it", "pt", "nl")
 TOOLS = pathlib.Path(__file__).parent
 TRANSLATIONS = TOOLS.parent / "resources" / "translations"
 # Colours of a dark desktop, in the file in which one of them keeps them.
-DARK = {"Window": (35, 35, 40), "View": (27, 27, 30), "Button": (50, 50, 56), "Selection": (60, 110, 180)}
+DARK = {"Window": "35,35,40", "View": "27,27,30", "Button": "50,50,56", "Selection": "60,110,180"}
 
 
 def texts(language):
@@ -42,38 +42,28 @@ def environment(sample, language, appearance="light"):
     home = pathlib.Path(sample, "home")
     colors = home / ".config" / "kdeglobals"
     colors.parent.mkdir(exist_ok=True)
-    groups = (
-        f"[Colors:{name}]\nBackgroundNormal={red},{green},{blue}\nBackgroundAlternate={red},{green},{blue}\n"
-        "ForegroundNormal=240,240,240\nForegroundInactive=160,160,160\nForegroundLink=100,160,250\n"
-        for name, (red, green, blue) in DARK.items()
-    )
-    colors.write_text("".join(groups) if appearance == "dark" else "")
+    lines = "[Colors:{0}]\nBackgroundNormal={1}\nBackgroundAlternate={1}\nForegroundNormal=240,240,240\n"
+    colors.write_text("".join(lines.format(*group) for group in DARK.items()))
     desktop = {"XDG_CURRENT_DESKTOP": "KDE", "KDE_SESSION_VERSION": "5"} if appearance == "dark" else {}
     return private_environment(home, LANG="C.UTF-8", LANGUAGE=language, LC_ALL="", **desktop)
 
 
 def shoot(path, front=True):
     """A picture of the window in front, with its frame, or of the whole screen, once it stands still."""
-    window = "root"
     before = now = None
     while not now or now != before:
         time.sleep(0.1)
-        if front:
-            asked = subprocess.run(["xdotool", "getactivewindow"], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
-            window = asked.stdout.decode().strip()
+        asked = subprocess.run(["xdotool", "getactivewindow"], capture_output=True, text=True)
+        window = asked.stdout.strip() if front else "root"
         command = ["import", "-window", window, "-frame" if front else "-trim", "+repage", "+dither"]
         before, now = now, subprocess.check_output([*command, "rgb:-"]) if window else None
     subprocess.run([*command, "-colors", "128", f"PNG8:{path}"], check=True)
 
 
-def _await_front(program, find):
-    program.wait_for("an active window", lambda: has(find(), "active"))
-
-
 def _dialogs(program, text, name, *answers):
     """The dialogs that come up one after the other, each answered by the button of a key."""
     for number, answer in enumerate(answers, 1):
-        _await_front(program, program.dialog)
+        program.wait_for("an active dialog", lambda: has(program.dialog(), "active"))
         yield name if len(answers) == 1 else f"{name}{number}"
         program.answer(text[answer])
 
@@ -96,17 +86,11 @@ def _saves(program, text):
     program.set_text(target, file)
 
 
-def _special(program, text):
-    for name, answers in (("treat", ["Btn_Cont"]), ("treat-again", ["Btn_Cont", "Btn_NePasRempl", "Btn_NePasRempl"])):
-        program.press(text["Btn_Trait"])
-        yield from _dialogs(program, text, name, *answers)
-
-
 def _window(program, title, close):
     """A window that has just been asked for; it is shown, and then closed by `close`."""
     program.front = title
     window = program.window()
-    _await_front(program, program.window)
+    program.wait_for("an active window", lambda: has(window, "active"))
     yield
     close()
     program.wait_until_gone(window)
@@ -117,10 +101,9 @@ def tour(program, text):
     """Yields the name of each window and dialog when it is in front."""
     program.front = "Tarnivel"
     program.press(text["Btn_Generer"])
-    _await_front(program, program.dialog)
-    yield "report"
-    program.answer_until(text["Btn_Generer"])
-    _await_front(program, program.window)
+    yield from _dialogs(program, text, "report", "Btn_Ok")
+    program.find("push button", text["Btn_Generer"])
+    program.wait_for("an active window", lambda: has(program.window(), "active"))
     yield "main"
     for menu in ("Menu_Fichier", "Menu_Edit"):
         program.act(program.find("menu item", text[menu]))
@@ -133,7 +116,10 @@ def tour(program, text):
     program.act(special)
     for _ in _window(program, text["WinSpecA_Title"], lambda: program.act(special)):
         yield "special"
-        yield from _special(program, text)
+        original = program.text(program.find("text", text["LabOrg"]))
+        program.set_text(program.find("text", text["LabDest1"]), original)
+        program.press(text["Btn_Trait"])
+        yield from _dialogs(program, text, "treat", "Btn_Cont", "Btn_NePasRempl")
     program.keys("ctrl+comma")
     for _ in _window(program, text["WinPref_Title"], lambda: program.press(text["Btn_Annuler"])):
         yield "preferences"
@@ -145,6 +131,6 @@ def tour(program, text):
     program.press(text["Btn_SauvFichier"])
     yield from _dialogs(program, text, "no-packs", "Btn_Annuler")
     program.keys("ctrl+o")
-    _await_front(program, program.dialog)
+    program.wait_for("an active chooser", lambda: has(program.dialog(), "active"))
     yield "chooser"
     program.keys("Escape")

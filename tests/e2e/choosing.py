@@ -9,11 +9,9 @@ def path_form(path):
 
 def press_beside(program, name):
     """Presses the select button in the row of a field; the field."""
-    field = program.find("text", name)
-    row = program.extents(field)[1]
-    buttons = program.all("push button", ("Sélect fichier", "Sélect dossier"))
-    program.act(min(buttons, key=lambda button: abs(program.extents(button)[1] - row)))
-    return field
+    buttons = program.all("push button")
+    program.act(next(button for button in buttons if button.get_name().endswith(f", {name}")))
+    return program.find("text", name)
 
 
 def open_chooser(program):

@@ -10,12 +10,14 @@ FOLDERS = "Ces dossiers sont dans le dossier “Custom Scenery” mais pas dans 
 SCENERIES = "Ces Sceneries sont dans “scenery_packs.ini” mais pas dans le dossier “Custom Scenery” :"
 CONTROLS = {
     "frame": ["Tarnivel"],
-    "push button": ["Générer", "Sélect fichier", "Ouvrir Url", "Sélect dossier", "Sauv fichier", "Activer / Désactiver",
-                    "Affich Dossier", "Aide", "Chercher", "Effacer"],
+    "push button": ["Générer", "Sélect fichier, Fichier modèle", "Ouvrir Url", "Sélect dossier, Sauv anc Spack",
+                    "Sélect fichier, scenery_packs.ini", "Sauv fichier", "Activer / Désactiver", "Affich Dossier",
+                    "Aide", "Chercher", "Effacer"],
     "text": ["Fichier modèle", "Url modèle", "Sauv anc Spack", "scenery_packs.ini", "Chercher", "Spack Après"],
     "radio button": ["Fichier modèle", "Url modèle"],
     "check box": ["Sauv anc Spack"],
-    "label": ["scenery_packs.ini", "v.1.1.3"],
+    "label": ["scenery_packs.ini"],
+    "link": ["Historique v.1.1.3"],
 }  # fmt: skip
 
 

@@ -52,6 +52,8 @@ def edit(program):
     for rows in (1, 2):
         program.press("+")
         program.wait_for("the row", lambda rows=rows: Atspi.Table.get_n_rows(table) == rows)
+    headers = [node.get_name() for node in nodes(table) if node.get_role_name() == "table column header"]
+    assert headers == ["Original :", "Dest 1 :", "Dest 2 :"], headers
     left, top, _, _ = program.extents(table)
     click(left + 20, top + 10, "--repeat", 2)
     program.type("wrong")

@@ -2,6 +2,7 @@
 #include "toolkit/DesktopControls.h"
 #include "toolkit/DesktopWindow.h"
 
+#include <QAccessible>
 #include <QClipboard>
 #include <QComboBox>
 #include <QDropEvent>
@@ -195,6 +196,16 @@ TEST_F(LinkTest, KeysPressItInItsMiddle)
     DesktopLabel plain(window, {0, 0, 50, 16, Lock::Left | Lock::Top, 1}, U"plain");
     plain.SetName(U"plain");
     EXPECT_EQ(Find<QLabel>("plain").focusPolicy(), Qt::NoFocus);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&Find<QLabel>("plain"))->role(), QAccessible::StaticText);
+}
+
+TEST_F(LinkTest, AScreenReaderKnowsAndPressesIt)
+{
+    QAccessibleInterface* const told = QAccessible::queryAccessibleInterface(widget);
+    EXPECT_EQ(told->role(), QAccessible::Link);
+    EXPECT_EQ(told->text(QAccessible::Name), "v.1");
+    told->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(events, (std::vector<std::string>{"down 24,7", "up 24,7"}));
 }
 
 TEST(TextField, TakesAnItemThatIsPastedOrDroppedAtOnce)
