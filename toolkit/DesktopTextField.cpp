@@ -3,10 +3,13 @@
 #include "toolkit/DocumentText.h"
 #include "toolkit/core/QtText.h"
 
+#include <QClipboard>
 #include <QDropEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QScopedValueRollback>
 #include <QUrl>
 #include <limits>
 
@@ -15,25 +18,15 @@ namespace {
 /// The existing item that a native absolute path or a "file://" address names.
 std::optional<FolderItem> ItemOf(const QString& text)
 {
-    const QUrl url(text);
+    QUrl url(text);
+    // Some programs name this machine.
+    if (url.host() == QLatin1String("localhost")) url.setHost({});
     const QString path = url.isLocalFile() ? url.toLocalFile() : text;
     if (!path.startsWith(u'/') || path.contains(QChar())) return {};
     auto place = std::filesystem::path(path.toStdString()).lexically_normal();
     if (!place.has_filename() && place.has_relative_path()) place = place.parent_path();
     const FolderItem item(std::move(place));
     return item.Exists() ? std::optional(item) : std::nullopt;
-}
-
-/// What an edit put between the parts that both texts share.
-QString Inserted(const QString& before, const QString& after)
-{
-    const auto shorter = std::min(before.size(), after.size());
-    qsizetype head = 0, tail = 0;
-    while (head < shorter && before[head] == after[head])
-        ++head;
-    while (tail < shorter - head && before[before.size() - 1 - tail] == after[after.size() - 1 - tail])
-        ++tail;
-    return after.mid(head, after.size() - head - tail);
 }
 
 class Field final : public QLineEdit {
@@ -62,7 +55,14 @@ protected:
         if ((enter || escape) && !owner_.TakesInput()) return;
         if (enter && owner_.Entered) return owner_.Entered();
         if (escape && owner_.Escaped) return owner_.Escaped();
+        const QScopedValueRollback typing(typing_, !event->matches(QKeySequence::Paste));
         QLineEdit::keyPressEvent(event);
+    }
+
+    void inputMethodEvent(QInputMethodEvent* event) override
+    {
+        const QScopedValueRollback typing(typing_, true);
+        QLineEdit::inputMethodEvent(event);
     }
 
     void dragEnterEvent(QDragEnterEvent* event) override
@@ -88,17 +88,15 @@ private:
         return ItemOf(dropped.urls().front().toString());
     }
 
-    /// A path that came in at once was pasted; one that is typed comes in by single characters.
     void Edited(const QString& text)
     {
+        const QString pasted = Pasted(text).trimmed();
         if (oneLine_ && OneLine(text) != text) {
             const int caret = cursorPosition();
             setText(OneLine(text));
             setCursorPosition(caret);
         }
-        const QString pasted = Inserted(before_, text).trimmed();
-        const std::optional<FolderItem> item =
-            owner_.ItemGiven && owner_.TakesInput() && pasted.size() > 1 ? ItemOf(pasted) : std::optional<FolderItem>();
+        const std::optional<FolderItem> item = owner_.TakesInput() && pasted.size() > 1 ? ItemOf(pasted) : std::nullopt;
         if (!item) {
             before_ = text;
             return;
@@ -107,8 +105,21 @@ private:
         owner_.ItemGiven(*item);
     }
 
+    /// The clipboard's text if the edit put it in front of the caret, or "". Keys other than the one that pastes don't,
+    /// nor does what takes an edit back.
+    [[nodiscard]] QString Pasted(const QString& text) const
+    {
+        if (!owner_.ItemGiven || typing_ || isRedoAvailable()) return {};
+        for (const auto mode : {QClipboard::Clipboard, QClipboard::Selection}) {
+            QString held = QGuiApplication::clipboard()->text(mode);
+            if (!held.isEmpty() && text.left(cursorPosition()).endsWith(held)) return held;
+        }
+        return {};
+    }
+
     DesktopTextField& owner_;
     const bool oneLine_;
+    bool typing_ = false;
     /// The text before the edit that is under way.
     QString before_;
 };

@@ -218,24 +218,36 @@ TEST(TextField, TakesAnItemThatIsPastedOrDroppedAtOnce)
     field.ItemGiven = [&given](const FolderItem& item) { given.push_back(item.NativePath()); };
     auto& line = Find<QLineEdit>("items");
     struct Row {
-        const char* name;
-        const char* pasted;
-        bool taken;
+        const char *name, *before;
+        int selected;
+        const char *pasted, *taken;
     };
-    for (const Row& row : {Row{"a folder", "/usr/", true}, Row{"an address", "file:///usr\n", true},
-                           Row{"nothing there", "/usr/none", false}, Row{"a relative path", "usr", false},
-                           Row{"another address", "http://localhost/usr", false}}) {
+    for (const Row& row :
+         {Row{"a folder", "path form", 0, "/usr/", "/usr"}, Row{"an address", "path form", 4, "file:///usr\n", "/usr"},
+          Row{"an address with this machine's name", "", 0, "file://localhost/usr/bin", "/usr/bin"},
+          Row{"over another of the same name", "Linux:opt:bin", 13, "/usr/bin", "/usr/bin"},
+          Row{"over one in the same folder", "/usr/lib", 8, "/usr/bin", "/usr/bin"},
+          Row{"nothing there", "path form", 0, "/usr/none", nullptr},
+          Row{"a relative path", "path form", 0, "usr", nullptr},
+          Row{"another address", "path form", 0, "http://localhost/usr", nullptr}}) {
         given.clear();
-        field.SetText(U"path form");
+        field.SetText(QString::fromUtf8(row.before).toStdU32String());
+        line.setSelection(0, row.selected);
         QApplication::clipboard()->setText(QString::fromUtf8(row.pasted));
         line.paste();
-        EXPECT_EQ(given, row.taken ? std::vector<String>{U"/usr"} : std::vector<String>{}) << row.name;
-        EXPECT_EQ(field.Text() == U"path form", row.taken) << row.name;
+        EXPECT_EQ(given, row.taken ? std::vector{QString(row.taken).toStdU32String()} : std::vector<String>{})
+            << row.name;
+        EXPECT_EQ(line.text() == row.before, row.taken != nullptr) << row.name;
     }
     given.clear();
+    QApplication::clipboard()->setText("/usr");
     field.SetText(U"");
     QTest::keyClicks(&line, "/usr");
+    line.selectAll();
+    line.del();
+    line.undo();
     EXPECT_EQ(field.Text(), U"/usr");
+    EXPECT_TRUE(given.empty()) << "typing gives nothing, and neither does undoing";
 
     QMimeData data;
     data.setUrls({QUrl::fromLocalFile("/usr")});
@@ -244,7 +256,7 @@ TEST(TextField, TakesAnItemThatIsPastedOrDroppedAtOnce)
     EXPECT_TRUE(enter.isAccepted());
     QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&line, &drop);
-    EXPECT_EQ(given, std::vector<String>{U"/usr"}) << "typing gave nothing, the drop did";
+    EXPECT_EQ(given, std::vector<String>{U"/usr"}) << "dropped";
 }
 
 } // namespace
