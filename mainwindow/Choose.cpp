@@ -64,6 +64,17 @@ std::optional<FolderItem> WinMain::RevealOrChoose(const DesktopTextField& field,
     return Fncts::PasNil_Existe_Alias(chosen, true) ? chosen : std::nullopt;
 }
 
+/// What `take` does with an item that was dropped or pasted; for an alias that leads nowhere a beep.
+std::function<void(const FolderItem& item)> WinMain::IfUsable(void (WinMain::*take)(const FolderItem& item))
+{
+    return [this, take](const FolderItem& item) {
+        if (Fncts::PasNil_Existe_Alias(item, true))
+            (this->*take)(item);
+        else
+            Fncts::BeepNbT(1);
+    };
+}
+
 /// A new file: what a run made of the old one goes.
 void WinMain::TakeModel(const FolderItem& item)
 {
@@ -89,6 +100,10 @@ void WinMain::BtnAffDoss_Pressed()
     const String name(RetScenLigne(TextAreaAff.SelectedText()));
     if (name.empty()) return Fncts::BeepNbT(1);
     std::optional<FolderItem> item = Fncts::GetFitemAbsPath(TextFieldSpack.Text(), false);
-    if (Fncts::PasNil_Existe_Alias(item, false)) item = item->Parent()->Child(name, true);
+    if (Fncts::PasNil_Existe_Alias(item, false)) {
+        // A volume lies in no folder.
+        const std::optional<FolderItem> folder = item->Parent();
+        item = folder ? folder->Child(name, true) : std::nullopt;
+    }
     RevealOrBeep(item, false);
 }

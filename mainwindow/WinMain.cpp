@@ -113,9 +113,9 @@ void WinMain::BindHandlers()
     BtnEnabDis.Pressed = [this] { BtnEnabDis_Pressed(); };
     PushButtCherch.Pressed = [this] { PushButtCherch_Pressed(); };
     PushButtInitCherch.Pressed = [this] { PushButtInitCherch_Pressed(); };
-    TextFieldMod1.ItemGiven = [this](const FolderItem& item) { TakeModel(item); };
-    TextFieldSpack.ItemGiven = [this](const FolderItem& item) { TakeSpack(item); };
-    TextFieldArchiv.ItemGiven = [this](const FolderItem& item) { TakeArchiveFolder(item); };
+    TextFieldMod1.ItemGiven = IfUsable(&WinMain::TakeModel);
+    TextFieldSpack.ItemGiven = IfUsable(&WinMain::TakeSpack);
+    TextFieldArchiv.ItemGiven = IfUsable(&WinMain::TakeArchiveFolder);
     TextFieldCherch.Entered = [this] { PushButtCherch_Pressed(); };
     TextFieldCherch.Escaped = [this] { TextAreaAff.SetFocus(); };
     FindRequested = [this] {

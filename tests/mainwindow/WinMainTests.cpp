@@ -144,6 +144,82 @@ TEST_F(MainWindow, ThePreferencesFillTheControls)
     EXPECT_TRUE(window->SegButtSpecA.Visible());
 }
 
+/// The three views show the same text, which holds a character beyond 16 bits.
+class WideText : public MainWindow {
+protected:
+    WideText()
+    {
+        const std::string packs = "SCENERY_PACK Custom Scenery/😀/\nSCENERY_PACK Custom Scenery/Alpes/\n";
+        for (const char* const pack : {"Custom Scenery/😀", "Custom Scenery/Alpes"})
+            folder.Folder(pack);
+        Open();
+        Choose(window->TextFieldMod1, folder.File("model", header + packs));
+        Choose(window->TextFieldSpack, folder.File("Custom Scenery/scenery_packs.ini", header + packs));
+        Run();
+        text = window->TextAreaAff.Text();
+    }
+    void CaretAt(StringView word) { window->TextAreaAff.Select(IndexOf(window->TextAreaAff.Text(), word), 0); }
+
+    String text;
+};
+
+TEST_F(WideText, LinesAreToggledAsTheKeysSayInTheViewOnScreen)
+{
+    const String on = U"SCENERY_PACK Custom Scenery/Alpes/", off = U"SCENERY_PACK_DISABLED Custom Scenery/Alpes/";
+    for (const int view : {0, 1, 2}) {
+        View(view);
+        for (const auto& [shift, control, line] :
+             {std::tuple(false, false, off), std::tuple(false, true, off), std::tuple(true, false, on),
+              std::tuple(true, false, on), std::tuple(true, true, off)}) {
+            probe.ShiftKey = shift;
+            probe.ControlKey = control;
+            CaretAt(U"Alpes");
+            window->BtnEnabDis_Pressed();
+            EXPECT_EQ(window->TextAreaAff.SelectedText(), line) << view << shift << control;
+        }
+    }
+    for (const int view : {0, 1, 2})
+        EXPECT_EQ(View(view), ReplaceAll(text, on, off));
+    EXPECT_TRUE(probe.Asked.empty());
+
+    window->TextAreaAff.SetText(U"😀\nSCENERY_PACK 😀\r\n");
+    CaretAt(U"PACK");
+    window->BtnEnabDis_Pressed();
+    EXPECT_EQ(window->TextAreaAff.Text(), U"😀\nSCENERY_PACK_DISABLED 😀\r\n");
+    EXPECT_EQ(probe.Asked, std::vector<String>{U"Error ! Please contact the authors.\nBtnEnabDis, TpEof is used in the "
+                                               U"Text !\nPos = 16"});
+}
+
+TEST_F(WideText, WhatIsNotThereIsNeitherRevealedNorTaken)
+{
+    const auto reveal = [this](StringView word) {
+        CaretAt(word);
+        window->BtnAffDoss_Pressed();
+        return std::pair{std::exchange(probe.Beeps, 0), std::exchange(probe.Revealed, {})};
+    };
+    using Revealed = std::vector<String>;
+    EXPECT_EQ(reveal(U"😀/"), std::pair(0, Revealed{(folder.Path() / "Custom Scenery/😀").u32string()}));
+    EXPECT_EQ(reveal(U"1000"), std::pair(1, Revealed{}));
+    std::filesystem::remove(folder.Path() / "Custom Scenery/Alpes");
+    EXPECT_EQ(reveal(U"Alpes"), std::pair(1, Revealed{}));
+    window->TextFieldSpack.SetText(U"Linux:");
+    EXPECT_EQ(reveal(U"😀/"), std::pair(1, Revealed{})) << "a volume lies in no folder";
+
+    const auto link = folder.Path() / "link";
+    std::filesystem::create_symlink("nowhere", link);
+    for (DesktopTextField* const field : {&window->TextFieldMod1, &window->TextFieldSpack, &window->TextFieldArchiv}) {
+        const String before = field->Text();
+        field->ItemGiven(FolderItem(link));
+        EXPECT_EQ(field->Text(), before);
+        EXPECT_EQ(std::exchange(probe.Beeps, 0), 1);
+    }
+    EXPECT_EQ(window->TextAreaAff.Text(), text);
+    folder.File("nowhere");
+    window->TextFieldMod1.ItemGiven(FolderItem(link));
+    EXPECT_EQ(Fncts::GetFitemAbsPath(window->TextFieldMod1.Text(), false)->Path(), link);
+    EXPECT_EQ(window->TextAreaAff.Text(), U"") << "the old model's results are gone";
+}
+
 TEST_F(MainWindow, AStartThatFailsSaysWhyAndQuits)
 {
     probe.ScreenSize = {{779, 460}};
