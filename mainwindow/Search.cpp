@@ -24,4 +24,11 @@ void WinMain::PushButtCherch_Pressed()
         std::max(TextAreaAff.LineNumber(result.selection.start) - linesAbove, Int64{0}));
 }
 
+/// The focus comes back to the field: the next Enter searches on. In the text it would replace the match by a line end.
+void WinMain::TextFieldCherch_Entered()
+{
+    PushButtCherch_Pressed();
+    TextFieldCherch.SetFocus();
+}
+
 void WinMain::PushButtInitCherch_Pressed() { TextFieldCherch.SetText({}); }

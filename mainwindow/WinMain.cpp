@@ -116,7 +116,7 @@ void WinMain::BindHandlers()
     TextFieldMod1.ItemGiven = IfUsable(&WinMain::TakeModel);
     TextFieldSpack.ItemGiven = IfUsable(&WinMain::TakeSpack);
     TextFieldArchiv.ItemGiven = IfUsable(&WinMain::TakeArchiveFolder);
-    TextFieldCherch.Entered = [this] { PushButtCherch_Pressed(); };
+    TextFieldCherch.Entered = [this] { TextFieldCherch_Entered(); };
     TextFieldCherch.Escaped = [this] { TextAreaAff.SetFocus(); };
     FindRequested = [this] {
         TextFieldCherch.SetFocus();

@@ -65,6 +65,7 @@ public:
 
     // Search.cpp
     void PushButtCherch_Pressed();
+    void TextFieldCherch_Entered();
     void PushButtInitCherch_Pressed();
 
     // Choose.cpp

@@ -34,31 +34,23 @@ def set_by_hand(program, files):
     program.wait_for("the typed path as it was typed", lambda: program.text(typed) == str(files.archives))
 
 
-def search(program, area, word):
-    """Ctrl+F, the word, Enter; the selection when the focus is back in the text."""
-    program.keys("ctrl+f")
-    field = program.find("text", SEARCH)
-    program.wait_for("the search field", lambda: has(field, "focused") and not has(area, "focused"))
-    program.type(word)
-    program.wait_for(f"{word} in the field", lambda: program.text(field) == word)
-    program.keys("Return")
-
-
 def check_search(program, area):
-    text, word = program.text(area), "bretagne"
+    text, word, field = program.text(area), "bretagne", program.find("text", SEARCH)
     places = [at for at in range(len(text)) if text[at : at + len(word)].lower() == word]
     assert len(places) > 2, places
+    program.keys("ctrl+f")
+    program.wait_for("the search field", lambda: has(field, "focused") and not has(area, "focused"))
+    program.type(word)
     for place in [*places, places[0]]:
-        search(program, area, word)
+        program.keys("Return")
         expected = (place, place + len(word))
         program.wait_for(f"the match at {expected}", lambda: program.selection(area) == expected)
-        program.wait_for("the focus in the text", lambda: has(area, "focused"))
-    program.keys("ctrl+f")
-    program.wait_for("the focus in the field", lambda: not has(area, "focused"))
-    assert program.selection(area) == expected
+        program.wait_for("the focus in the field", lambda: has(field, "focused"))
     program.keys("Escape")
     program.wait_for("the focus in the text", lambda: has(area, "focused"))
-    search(program, area, "nowhere")
+    assert program.selection(area) == expected
+    program.set_text(field, "nowhere")
+    program.press(SEARCH)
     program.wait_for("no selection", lambda: program.selection(area) == (0, 0))
     assert program.text(area) == text
 

@@ -190,6 +190,37 @@ TEST_F(WideText, LinesAreToggledAsTheKeysSayInTheViewOnScreen)
                                                U"Text !\nPos = 16"});
 }
 
+TEST_F(WideText, AMatchIsSelectedAndTheSoundTellsWhatWasFound)
+{
+    const auto search = [this](StringView word, const auto& ask) {
+        probe.Sounds.clear();
+        window->TextFieldCherch.SetText(word);
+        ask();
+        const DesktopTextArea& area = window->TextAreaAff;
+        return std::tuple{area.SelectionStart(), area.SelectedText(), probe.Sounds};
+    };
+    const auto button = [this] { window->PushButtCherch_Pressed(); };
+    const Int64 first = IndexOf(text, U"Custom"), second = IndexOf(text, U"Custom", first + 1);
+    using Sounds = std::vector<String>;
+    EXPECT_EQ(search(U"alpes", button), std::tuple(second + 15, U"Alpes", Sounds{U"Agrafeuse_t.wav"}));
+    EXPECT_EQ(search(U"alpes", button), std::tuple(second + 15, U"Alpes", Sounds{U"Whit.wav"}));
+    EXPECT_EQ(window->Focus(), &window->TextAreaAff);
+    for (const Int64 place : {first, second, first}) {
+        EXPECT_EQ(search(U"custom", window->TextFieldCherch.Entered),
+                  std::tuple(place, U"Custom", Sounds{U"Agrafeuse_t.wav"}));
+        EXPECT_EQ(window->Focus(), &window->TextFieldCherch) << "the next Enter searches on";
+    }
+    Fncts::DrapMenu = false;
+    EXPECT_EQ(search(U"alpes", button), std::tuple(first, U"Custom", Sounds{}));
+    Fncts::DrapMenu = true;
+    EXPECT_EQ(probe.Beeps, 0);
+    EXPECT_EQ(search(U"", button), std::tuple(first, U"Custom", Sounds{}));
+    EXPECT_EQ(probe.Beeps, 1);
+    EXPECT_EQ(search(U"nowhere", button), std::tuple(0, U"", Sounds{U"Glass_t.wav"}));
+    window->PushButtInitCherch_Pressed();
+    EXPECT_EQ(window->TextFieldCherch.Text(), U"");
+}
+
 TEST_F(WideText, WhatIsNotThereIsNeitherRevealedNorTaken)
 {
     const auto reveal = [this](StringView word) {
