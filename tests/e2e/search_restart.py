@@ -1,4 +1,4 @@
-"""Searching with the keyboard, and all that is set by hand there again after a close, a quit and a kill."""
+"""Searching with the keyboard, and all that is set by hand there again after a close, a quit and a kill in a run."""
 
 import pathlib
 import sys
@@ -6,6 +6,7 @@ import tempfile
 
 from desktop import Program, has, private_environment
 from sample import sample
+from server import Server
 
 MODEL, URL, ARCHIVE, SPACK, SEARCH = "Fichier modèle", "Url modèle", "Sauv anc Spack", "scenery_packs.ini", "Chercher"
 
@@ -88,16 +89,26 @@ def main(command):
             program.press(MODEL, "radio button")
             program.move(33, 120, 730, 600)
             kept = state(program)
-            program.keys("ctrl+q")
+            program.press("Fichier", "menu item")
+            program.press("Quit", "menu item")
             assert program.wait_for_end() == 0
 
-        saved = preferences()
+        saved, server = preferences(), Server(b"")
         with Program([command], private_environment(home)) as program:
             program.wait_for(f"{kept}", lambda: state(program) == kept)
             program.press(URL, "radio button")
+            program.set_text(program.find("text", URL), server.url("/hang"))
+            program.press("Générer")
+            program.wait_for("a run", server.hanging.is_set)
             program.process.kill()
             program.wait_for_end()
+        server.ended.set()
+        server.shutdown()
         assert preferences() == saved
+        with Program([command], private_environment(home)) as program:
+            program.wait_for(f"{kept}", lambda: state(program) == kept)
+            program.keys("ctrl+q")
+            assert program.wait_for_end() == 0
 
 
 main(*sys.argv[1:])
