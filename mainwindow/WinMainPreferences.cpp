@@ -13,21 +13,27 @@ namespace {
 
 constexpr StringView fileName = U"Tarnivel Prefs.txt";
 
-/// The lines of the file; as many as could be read if reading fails, which is told to the user.
-std::vector<String> ReadLines(const FolderItem& file)
+/// Bytes; far above any setting made by hand. A list of more empty texts than that would fill the memory.
+constexpr std::size_t longestLine = 8 << 20;
+
+/// What the file says; if reading fails, which is told to the user, what could be read until then.
+Preferences ReadPreferences(const FolderItem& file)
 {
-    std::vector<String> lines;
+    Preferences preferences;
     try {
         TextInputStream stream = TextInputStream::Open(file);
-        while (!stream.EndOfFile())
-            lines.push_back(Fncts::TextOfBytes(stream.ReadLine()));
+        for (bool isFirst = true; !stream.EndOfFile(); isFirst = false) {
+            const Bytes line = stream.ReadLine();
+            if (line.size() > longestLine) continue;
+            const String text = Fncts::TextOfBytes(line);
+            // An editor may have left the mark of UTF-8 at the start.
+            ReadPreference(preferences, isFirst && text.starts_with(U'\uFEFF') ? Middle(text, 1) : text);
+        }
     } catch (const std::exception&) {
         Fncts::BeepNbT(3);
         MessageBox(U"Error ! Please contact the authors.\nPrefsCharger, problem while reading file!");
     }
-    // An editor may have left the mark of UTF-8 at the start.
-    if (!lines.empty() && lines.front().starts_with(U'\uFEFF')) lines.front().erase(0, 1);
-    return lines;
+    return preferences;
 }
 
 void SetField(DesktopTextField& field, const std::optional<String>& text)
@@ -39,14 +45,14 @@ void SetField(DesktopTextField& field, const std::optional<String>& text)
 
 void WinMain::PrefsCharger()
 {
-    std::vector<String> lines;
     const std::optional<FolderItem> file = Fncts::DossierPref->Child(fileName, true);
-    if (file && file->Exists()) lines = ReadLines(*file);
-
-    Preferences preferences = ReadPreferences(lines);
-    Fncts::AffHelpTag = preferences.AffHelpTag;
+    Preferences preferences = file && file->Exists() ? ReadPreferences(*file) : Preferences();
+    Fncts::AffHelpTag = preferences.AffHelpTag.value_or(true);
     Fncts::CtrlFenetrOuv({this});
-    if (preferences.sourceModelRefused) Fncts::BeepNbT(3);
+    // Beeps last; a broken file is not to hold up the start.
+    constexpr int mostRefusals = 5;
+    for (int refused = 0; refused < std::min(preferences.sourceModelRefused, mostRefusals); ++refused)
+        Fncts::BeepNbT(3);
     if (preferences.sourceModel) RadGrpSrc.SetSelectedIndex(*preferences.sourceModel);
     SetField(TextFieldMod1, preferences.modelFile);
     SetField(TextFieldMod2, preferences.modelUrl);

@@ -39,7 +39,13 @@ void ReadSourceModel(Preferences& preferences, StringView value)
     if (index == 0 || index == 1)
         preferences.sourceModel = static_cast<int>(index);
     else
-        preferences.sourceModelRefused = true;
+        ++preferences.sourceModelRefused;
+}
+
+void ReadField(std::optional<String>& field, StringView value)
+{
+    constexpr std::size_t longest = 65'536;
+    if (value.size() <= longest) field = value;
 }
 
 String WriteBoolean(bool value) { return value ? U"True" : U"False"; }
@@ -75,15 +81,15 @@ constexpr std::array keys = {
         [](const Preferences& p) { return WriteGeometry(p.geometry); }},
     Key{U"Source Model", [](Preferences& p, StringView value) { ReadSourceModel(p, value); },
         [](const Preferences& p) { return ToText(p.sourceModel.value_or(0)); }},
-    Key{U"SourceFile_Path", [](Preferences& p, StringView value) { p.modelFile = value; },
+    Key{U"SourceFile_Path", [](Preferences& p, StringView value) { ReadField(p.modelFile, value); },
         [](const Preferences& p) { return WriteLine(p.modelFile); }},
-    Key{U"SourceUrl", [](Preferences& p, StringView value) { p.modelUrl = value; },
+    Key{U"SourceUrl", [](Preferences& p, StringView value) { ReadField(p.modelUrl, value); },
         [](const Preferences& p) { return WriteLine(p.modelUrl); }},
     Key{U"Archiv Old File", [](Preferences& p, StringView value) { p.archive = ReadBoolean(value); },
         [](const Preferences& p) { return WriteBoolean(p.archive.value_or(false)); }},
-    Key{U"ArchivFolder_Path", [](Preferences& p, StringView value) { p.archiveFolder = value; },
+    Key{U"ArchivFolder_Path", [](Preferences& p, StringView value) { ReadField(p.archiveFolder, value); },
         [](const Preferences& p) { return WriteLine(p.archiveFolder); }},
-    Key{U"SceneryPack_Path", [](Preferences& p, StringView value) { p.spackFile = value; },
+    Key{U"SceneryPack_Path", [](Preferences& p, StringView value) { ReadField(p.spackFile, value); },
         [](const Preferences& p) { return WriteLine(p.spackFile); }},
     Key{U"WspecAheight", [](Preferences& p, StringView value) { p.WspecAheight = ReadInt16(value); },
         [](const Preferences& p) { return ToText(p.WspecAheight); }},
@@ -97,33 +103,16 @@ constexpr std::array keys = {
         [](const Preferences& p) { return WriteList(p.TabSpecAdest2); }},
 };
 
-/// Of this key, which is no longer written, the first line counts.
-bool ReadAffHelpTag(std::span<const String> lines)
-{
-    constexpr StringView prefix = U"Afficher HelpTag :@: ";
-    for (const String& line : lines)
-        if (BeginsWith(line, prefix)) return ReadBoolean(Middle(line, std::ssize(prefix)));
-    return true;
-}
+} // namespace
 
-void ReadLine(Preferences& preferences, StringView line)
+void ReadPreference(Preferences& preferences, StringView line)
 {
     const Int64 end = IndexOf(line, separator);
     if (end < 0) return;
+    const StringView name = Left(line, end), value = Middle(line, end + std::ssize(separator));
+    if (SameText(name, U"Afficher HelpTag") && !preferences.AffHelpTag) preferences.AffHelpTag = ReadBoolean(value);
     for (const Key& key : keys)
-        if (SameText(key.name, Left(line, end)))
-            return key.read(preferences, Middle(line, end + std::ssize(separator)));
-}
-
-} // namespace
-
-Preferences ReadPreferences(std::span<const String> lines)
-{
-    Preferences preferences;
-    preferences.AffHelpTag = ReadAffHelpTag(lines);
-    for (const String& line : lines)
-        ReadLine(preferences, line);
-    return preferences;
+        if (SameText(key.name, name)) return key.read(preferences, value);
 }
 
 String WritePreferences(const Preferences& preferences)

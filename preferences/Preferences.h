@@ -8,7 +8,6 @@
 #include "toolkit/core/Text.h"
 
 #include <optional>
-#include <span>
 #include <vector>
 
 /// A window's place in points. The values of a fresh one fit no screen.
@@ -19,15 +18,16 @@ struct WindowGeometry {
 
 /// What the file says; an optional without a value leaves its control as it is.
 struct Preferences {
-    bool AffHelpTag = true;
+    /// The old key: of this one the first line counts.
+    std::optional<bool> AffHelpTag = {};
     bool DrapAffBtnSpecA = false;
     /// Percent; -1 stands for none.
     Int16 volume = -1;
     WindowGeometry geometry;
     /// 0 the model file, 1 the model URL.
     std::optional<int> sourceModel;
-    /// A line gave the source another number than 0 or 1. It was passed over.
-    bool sourceModelRefused = false;
+    /// How many lines gave the source another number than 0 or 1. They were passed over.
+    int sourceModelRefused = 0;
     std::optional<String> modelFile, modelUrl, archiveFolder, spackFile;
     std::optional<bool> archive;
     /// Points.
@@ -36,8 +36,10 @@ struct Preferences {
     std::vector<String> TabSpecAorg, TabSpecAdest1, TabSpecAdest2;
 };
 
-/// The settings of the lines of a preferences file; it never fails.
-Preferences ReadPreferences(std::span<const String> lines);
+/// Takes over the setting of one line of a preferences file, after those of the lines before it; it never fails.
+///
+/// A path or an address of more than 65,536 characters is passed over: no field could show it in good time.
+void ReadPreference(Preferences& preferences, StringView line);
 
 /// The whole file: a line for each setting, in a fixed order. Line ends inside the four paths and addresses of the main
 /// window are left out; the old key of `AffHelpTag` is not written.

@@ -10,8 +10,10 @@ namespace {
 Preferences Read(StringView text)
 {
     const String lined = ReplaceLineEndings(text, U"\n");
-    const std::vector<StringView> lines = Split(lined, U"\n");
-    return ReadPreferences(std::vector<String>(lines.begin(), lines.end()));
+    Preferences preferences;
+    for (const StringView line : Split(lined, U"\n"))
+        ReadPreference(preferences, line);
+    return preferences;
 }
 
 } // namespace

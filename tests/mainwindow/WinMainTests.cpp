@@ -251,6 +251,19 @@ TEST_F(WideText, WhatIsNotThereIsNeitherRevealedNorTaken)
     EXPECT_EQ(window->TextAreaAff.Text(), U"") << "the old model's results are gone";
 }
 
+TEST_F(MainWindow, HugePreferencesHoldNothingUp)
+{
+    std::string large;
+    large.resize(25'000'000, 'x');
+    Open("SourceFile_Path :@: a\nSourceFile_Path :@: " + large.substr(0, 70'000) + "\nSceneryPack_Path :@: " + large +
+         "\nTabSpecAorg :@: " + std::string(large.size(), '\t') + std::string(1'000'000, '\n') +
+         "Source Model :@: 1\n");
+    EXPECT_EQ(window->TextFieldMod1.Text(), U"a");
+    EXPECT_EQ(window->TextFieldSpack.Text(), U"");
+    EXPECT_TRUE(app->TabSpecAorg.empty());
+    EXPECT_EQ(window->RadGrpSrc.SelectedIndex(), 1);
+}
+
 TEST_F(MainWindow, AStartThatFailsSaysWhyAndQuits)
 {
     probe.ScreenSize = {{779, 460}};

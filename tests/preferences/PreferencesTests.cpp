@@ -4,20 +4,12 @@
 
 namespace {
 
-Preferences Read(std::initializer_list<const char32_t*> lines)
+Preferences Read(const std::vector<StringView>& lines)
 {
-    return ReadPreferences(std::vector<String>(lines.begin(), lines.end()));
-}
-
-TEST(Preferences, AnEmptyFileGivesTheDefaults)
-{
-    const Preferences preferences = Read({});
-    EXPECT_TRUE(preferences.AffHelpTag);
-    EXPECT_FALSE(preferences.DrapAffBtnSpecA);
-    EXPECT_EQ(preferences.volume, -1);
-    EXPECT_EQ(preferences.geometry, (WindowGeometry{-1, -1, 0, 0}));
-    EXPECT_FALSE(preferences.sourceModel || preferences.modelFile || preferences.archive || preferences.spackFile);
-    EXPECT_TRUE(preferences.TabSpecAorg.empty());
+    Preferences preferences;
+    for (const StringView line : lines)
+        ReadPreference(preferences, line);
+    return preferences;
 }
 
 TEST(Preferences, EachKeyGoesToItsSetting)
@@ -60,13 +52,13 @@ TEST(Preferences, EachKeyGoesToItsSetting)
 TEST(Preferences, OfTwoLinesTheLaterWinsButForTheOldHelpKey)
 {
     EXPECT_EQ(Read({U"SourceUrl :@: a", U"sourceurl :@: b"}).modelUrl, U"b");
-    EXPECT_FALSE(Read({U"afficher HelpTag :@: False", U"Afficher HelpTag :@: True"}).AffHelpTag);
+    EXPECT_EQ(Read({U"afficher HelpTag :@: False", U"Afficher HelpTag :@: True"}).AffHelpTag, false);
 }
 
 TEST(Preferences, NumbersOutOfRangeDoNoHarm)
 {
     EXPECT_EQ(Read({U"Source Model :@: 0", U"Source Model :@: 2"}).sourceModel, 0);
-    EXPECT_TRUE(Read({U"Source Model :@: 2"}).sourceModelRefused);
+    EXPECT_EQ(Read({U"Source Model :@: 2", U"Source Model :@: -1"}).sourceModelRefused, 2);
     EXPECT_EQ(Read({U"Volume Sonore :@: 1e300"}).volume, 0);
     EXPECT_EQ(Read({U"Volume Sonore :@: nan"}).volume, 0);
     EXPECT_EQ(Read({U"Volume Sonore :@: -99999999999999999999"}).volume, 0);
@@ -88,8 +80,7 @@ TEST(Preferences, AFileIsWrittenAsItWasRead)
                           U"TabSpecAorg :@: name\ta\t\n"
                           U"TabSpecAdest1 :@: \n"
                           U"TabSpecAdest2 :@: x\n";
-    const std::vector<StringView> lines = Split(golden, U"\n");
-    Preferences preferences = ReadPreferences(std::vector<String>(lines.begin(), lines.end()));
+    Preferences preferences = Read(Split(golden, U"\n"));
     EXPECT_EQ(WritePreferences(preferences), golden);
     preferences.modelUrl = U"https\r\n://\rmodel\n";
     EXPECT_EQ(WritePreferences(preferences), golden) << "a pasted line end breaks no line";
