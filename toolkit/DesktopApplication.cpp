@@ -12,6 +12,7 @@
 #include <QLocale>
 #include <QTranslator>
 #include <algorithm>
+#include <csignal>
 #include <cstdio>
 #include <utility>
 
@@ -82,6 +83,8 @@ DesktopApplication::DesktopApplication(int& argc, char** argv, String name, Stri
     , private_(std::make_unique<Private>(argc, argv))
 {
     current = this;
+    // A file above the user's limit of sizes is an error of its writer, and no end of the program.
+    std::signal(SIGXFSZ, SIG_IGN);
     QApplication::setApplicationName(ToQt(Name));
     QApplication::setApplicationVersion(ToQt(Version));
     QApplication::setQuitOnLastWindowClosed(false);

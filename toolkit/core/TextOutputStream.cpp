@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <tuple>
 #include <unistd.h>
@@ -13,21 +14,25 @@
 
 namespace {
 
-void CheckWritable(int descriptor)
+void CheckWritable(int descriptor, Int64 size)
 {
     struct stat status = {};
     Check(fstat(descriptor, &status) == 0);
     if (!S_ISREG(status.st_mode)) throw SystemError(EINVAL);
     if ((status.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0) throw SystemError(EACCES);
+    struct rlimit limit = {};
+    Check(getrlimit(RLIMIT_FSIZE, &limit) == 0);
+    // The old content is written over to its end.
+    if (static_cast<rlim_t>(std::max<Int64>(size, status.st_size)) > limit.rlim_cur) throw SystemError(EFBIG);
 }
 
 /// Asks for the room that the new content needs, while the old content is still there.
 void Reserve([[maybe_unused]] int descriptor, [[maybe_unused]] Int64 size)
 {
 #ifdef __linux__
+    if (size <= 0 || fallocate(descriptor, FALLOC_FL_KEEP_SIZE, 0, size) == 0) return;
     // A file system that can't tell answers with another error, which says nothing about the room.
-    if (size > 0 && fallocate(descriptor, FALLOC_FL_KEEP_SIZE, 0, size) != 0 && errno == ENOSPC)
-        throw SystemError(ENOSPC);
+    if (errno == ENOSPC || errno == EDQUOT || errno == EFBIG) throw SystemError(errno);
 #endif
 }
 
@@ -42,7 +47,7 @@ TextOutputStream TextOutputStream::Create(const FolderItem& file, Int64 size)
     const int descriptor = open(file.Path().c_str(), O_WRONLY | O_CREAT | O_NONBLOCK | O_CLOEXEC, 0666);
     Check(descriptor >= 0);
     TextOutputStream stream(descriptor);
-    CheckWritable(descriptor);
+    CheckWritable(descriptor, size);
     Reserve(descriptor, size);
     return stream;
 }

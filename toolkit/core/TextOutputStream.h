@@ -16,7 +16,8 @@ public:
     /// Opens an existing regular file, whose content is replaced, or makes a new one. A file that nobody may write is
     /// refused, also to a user who could write it all the same, and left as it is; so is a folder, a pipe or a device.
     ///
-    /// `size` bytes are going to be written: where the file system can tell that they don't fit, the file is refused.
+    /// `size` bytes are going to be written: where they are above the user's limit or quota, or the file system can
+    /// tell that they don't fit, the file is refused.
     static TextOutputStream Create(const FolderItem& file, Int64 size);
 
     TextOutputStream(TextOutputStream&& other) noexcept
