@@ -11,7 +11,6 @@
 #include <QLineEdit>
 #include <QMimeData>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QUrl>
 
 namespace {
@@ -113,41 +112,6 @@ TEST_F(ControlTest, CodeFiresNoEvents)
     QTest::mouseClick(&Find<QPushButton>("segment"), Qt::LeftButton);
     QTest::keyClick(&Find<QPushButton>("segment"), Qt::Key_Space);
     EXPECT_EQ(events, (std::vector{10, 11})) << "the segment comes up, then goes down";
-}
-
-TEST_F(ControlTest, ButtonsArePressedByMouseAndKeyUnlessDisabled)
-{
-    DesktopButton button(window, {0, 0, 100, 20}, U"Run");
-    button.SetName(U"run");
-    int pressed = 0;
-    button.Pressed = [&] { ++pressed; };
-    ShowActive(window);
-    auto& widget = Find<QPushButton>("run");
-    QTest::mouseClick(&widget, Qt::LeftButton);
-    QTest::keyClick(&widget, Qt::Key_Space);
-    EXPECT_EQ(pressed, 2);
-    button.SetEnabled(false);
-    EXPECT_FALSE(button.Enabled());
-    QTest::mouseClick(&widget, Qt::LeftButton);
-    EXPECT_EQ(pressed, 2);
-}
-
-TEST_F(ControlTest, ChoicesAreExclusive)
-{
-    DesktopRadioGroup group(window, {0, 0, 126, 45});
-    group.SetName(U"group");
-    group.SetInitialValue(U"Fichier & modèle\nUrl modèle");
-    ShowActive(window);
-    EXPECT_EQ(group.SelectedIndex(), 0);
-    group.SetSelectedIndex(1);
-    group.SetSelectedIndex(7);
-    EXPECT_EQ(group.SelectedIndex(), 1) << "a choice that isn't there changes nothing";
-    const auto choices = Find<QWidget>("group").findChildren<QRadioButton*>();
-    ASSERT_EQ(choices.size(), 2);
-    QTest::mouseClick(choices[0], Qt::LeftButton, {}, {5, choices[0]->height() / 2});
-    EXPECT_EQ(group.SelectedIndex(), 0);
-    EXPECT_FALSE(choices[1]->isChecked());
-    EXPECT_NEAR(choices[0]->height(), choices[1]->height(), 1);
 }
 
 struct LinkTest : ControlTest {

@@ -84,25 +84,6 @@ TEST(Desktop, RevealsAnItemOrElseOpensItsFolder)
     bus.waitForFinished();
 }
 
-TEST(Probe, TakesThePlaceOfTheDesktop)
-{
-    const OpenedLinks opened;
-    Probe probe;
-    System::Beep();
-    System::GotoURL(U"no link");
-    OpenItem(FolderItem("/tmp"));
-    RevealItem(FolderItem("/etc"));
-    probe.ShiftKey = probe.AltKey = probe.ControlKey = true;
-    probe.ScreenSize = {640, 480};
-    EXPECT_EQ(probe.Beeps, 1);
-    EXPECT_EQ(probe.Links, std::vector{U"no link"s});
-    EXPECT_EQ(probe.Opened, std::vector{U"/tmp"s});
-    EXPECT_EQ(probe.Revealed, std::vector{U"/etc"s});
-    EXPECT_TRUE(Keyboard::AsyncShiftKey() && Keyboard::AsyncAltKey() && Keyboard::AsyncControlKey());
-    EXPECT_EQ(DesktopDisplay::DisplayAt(0).Height, 480);
-    EXPECT_TRUE(opened.urls.isEmpty());
-}
-
 TEST(Timer, FiresOnceOrAgainUntilItIsOff)
 {
     using enum Timer::RunModes;

@@ -172,26 +172,4 @@ TEST(Chooser, GivesWhatTheUserHasNamed)
     }
 }
 
-TEST(Probe, AnswersDialogsAndRecordsThem)
-{
-    Probe probe;
-    const FolderItem file("/packs.ini");
-    probe.Answers = {2, 3, 0, file, std::nullopt};
-    int calls = 0;
-    probe.WhileAsking = [&] { calls += probe.Asked.empty() ? 0 : 1; };
-    const MessageDialog full{0, U"Really?", U"It is gone then.", U"Yes", U"No", U"Later"};
-    EXPECT_EQ(full.ShowModal(), Button::Cancel);
-    EXPECT_EQ((MessageDialog{0, U"Note", {}, U"OK", {}, U"More"}.ShowModal()), Button::Alternate);
-    EXPECT_EQ(full.ShowModal(), Button::None);
-    EXPECT_EQ((OpenFileDialog{U"A file:", {}, {}}.ShowModal()->Path()), file.Path());
-    EXPECT_FALSE((SelectFolderDialog{U"A folder:", {}}.ShowModal()));
-    MessageBox(U"Error !");
-    EXPECT_EQ(full.ShowModal(), Button::Action) << "no answer is left";
-    EXPECT_FALSE((OpenFileDialog{U"Next:", {}, {}}.ShowModal()));
-    const String all = U"Really?\nIt is gone then.[Yes][No][Later]";
-    EXPECT_EQ(probe.Asked,
-              (std::vector<String>{all, U"Note[OK][More]", all, U"A file:", U"A folder:", U"Error !", all, U"Next:"}));
-    EXPECT_EQ(calls, 8);
-}
-
 } // namespace

@@ -186,12 +186,4 @@ TEST_F(MenuTest, ABlockedWindowDropsWhatAScreenReaderDoes)
     EXPECT_EQ(events, "select menu popup button segment ") << "free again, it serves everybody";
 }
 
-TEST_F(MenuTest, QuitAsksTheWindows)
-{
-    std::vector<bool> asked;
-    window.CancelClosing = [&](bool appQuitting) { return asked.push_back(appQuitting), true; };
-    Item("Quit").trigger();
-    EXPECT_EQ(asked, std::vector{true});
-}
-
 } // namespace

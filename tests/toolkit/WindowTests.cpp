@@ -189,15 +189,4 @@ TEST(Application, AnExceptionOfAHandlerIsToldAndTheLoopGoesOn)
               (std::vector{start + U"std::bad_alloc", start + U"no \u261E", start + U"Unknown exception"}));
 }
 
-TEST(Application, YieldingLetsTimersFire)
-{
-    DesktopWindow window({.title = U"W", .width = 400, .height = 300});
-    bool fired = false;
-    Timer timer(0);
-    timer.Action = [&] { fired = true; };
-    timer.SetRunMode(Timer::RunModes::Single);
-    DesktopApplication::YieldToPlatform();
-    EXPECT_TRUE(fired);
-}
-
 } // namespace
