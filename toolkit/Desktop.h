@@ -5,7 +5,8 @@
 
 namespace System {
 void Beep();
-/// Opens a link with the program that the desktop uses for it. The text goes out as it stands.
+/// Opens a link with the program that the desktop uses for it. The text goes out as it stands, but for one that is no
+/// link, such as a name without a scheme: nothing is opened.
 void GotoURL(StringView url);
 } // namespace System
 
