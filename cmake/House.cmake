@@ -14,6 +14,8 @@ if(NOT APPLE)
 endif()
 if(TARNIVEL_SANITIZE)
   target_compile_options(house_flags INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  # An empty optional or an index too large.
+  target_compile_definitions(house_flags INTERFACE _GLIBCXX_ASSERTIONS)
   target_link_options(house_flags INTERFACE -fsanitize=address,undefined)
 endif()
 if(TARNIVEL_FUZZ)
