@@ -7,7 +7,6 @@ FOLDER gets the sheet in half its size, and the rows and single pictures in full
 import pathlib
 import subprocess
 import sys
-import tempfile
 
 from desktop import Program
 from tour import LANGUAGES, environment, make_sample, shoot, texts, tour
@@ -15,13 +14,12 @@ from tour import LANGUAGES, environment, make_sample, shoot, texts, tour
 
 def row(command, folder, language, appearance):
     pictures = []
-    with tempfile.TemporaryDirectory() as sample:
-        make_sample(sample, "720,400")
-        with Program([command], environment(sample, language, appearance)) as program:
-            for name in tour(program, texts(language)):
-                pictures.append(f"{folder}/{appearance}_{language}_{name}.png")
-                shoot(pictures[-1], front=not name.startswith("Menu"))
-            program.close()
+    make_sample(f"{folder}/sample", "720,400")
+    with Program([command], environment(f"{folder}/sample", language, appearance)) as program:
+        for name in tour(program, texts(language)):
+            pictures.append(f"{folder}/{appearance}_{language}_{name}.png")
+            shoot(pictures[-1], front=not name.startswith("Menu"))
+        program.close()
     return append("+append", pictures, f"{folder}/{appearance}_{language}.png")
 
 
