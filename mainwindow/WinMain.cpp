@@ -134,6 +134,7 @@ void WinMain::BindHandlers()
     StaticTextVersion.MouseEnter = [this] { StaticTextVersion_MouseEnter(); };
     StaticTextVersion.MouseExit = [this] { StaticTextVersion_MouseExit(); };
     BtnAide.Pressed = [this] { BtnAide_Pressed(); };
+    SegButtSpecA.SetShortcut(U"Ctrl+Shift+A"); // the Tab key passes it by
     SegButtSpecA.Pressed = [this](int) { SegButtSpecA_Pressed(); };
     PushButtDebug.Pressed = [this] { PushButtDebug_Pressed(); };
     TimerQuit.Action = [this] { TimerQuit_Action(); };

@@ -180,3 +180,8 @@ void DesktopSegmentedButton::SetSelected(int segmentIndex, bool selected)
     const QSignalBlocker silence(widget_);
     if (segmentIndex == 0) static_cast<QPushButton*>(widget_)->setChecked(selected);
 }
+
+void DesktopSegmentedButton::SetShortcut(StringView keys)
+{
+    static_cast<QPushButton*>(widget_)->setShortcut(QKeySequence(ToQt(keys)));
+}

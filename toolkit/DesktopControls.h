@@ -127,6 +127,8 @@ public:
 
     [[nodiscard]] bool Selected(int segmentIndex) const;
     void SetSelected(int segmentIndex, bool selected);
+    /// Keys such as "Ctrl+S" (Cmd on macOS) that press the button wherever the focus in its window is.
+    void SetShortcut(StringView keys);
 
     std::function<void(int segmentIndex)> Pressed;
 };

@@ -23,7 +23,7 @@ def set_preferences(program, volume, button):
 
 
 def use_special(program, files):
-    program.press("Spécial A", "check box")
+    program.keys("ctrl+shift+a")
     program.front = "Spécial A"
     program.press("Choisir fichier…")
     dialog = open_chooser(program)

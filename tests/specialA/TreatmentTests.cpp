@@ -69,7 +69,8 @@ TEST(Treatment, StaysWithinItsMeans)
     EXPECT_EQ(grown.dest2, std::nullopt) << "a variant of 100,000,000";
     EXPECT_EQ(grown.dest1, String(101, U'b'));
     const String periodic(200'000, U'a');
-    EXPECT_EQ(Treat(periodic, Rows{{String(100'000, U'A') + U"b", U"", U""}}).dest1, periodic) << "found missing without a look at each pair of places";
+    EXPECT_EQ(Treat(periodic, Rows{{String(100'000, U'A') + U"b", U"", U""}}).dest1, periodic)
+        << "found missing without a look at each pair of places";
 }
 
 TEST(Treatment, RandomTextsAsTheNaiveWay)
