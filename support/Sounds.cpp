@@ -19,17 +19,14 @@ Sound* LoadForGood(StringView fileName)
     return file ? Sound::OpenAsSound(*file).release() : nullptr;
 }
 
-/// Starts a second voice of a sound that plays; whether there was one to be had.
-bool PlayOver(const Sound& sound)
+/// Starts a second voice of a sound that plays.
+void PlayOver(const Sound& sound)
 {
     // Never destroyed, as above.
     static auto& voices = *new std::vector<std::unique_ptr<Sound>>;
     std::erase_if(voices, [](const auto& voice) { return !voice->IsPlaying(); });
-    auto voice = sound.Clone();
-    if (!voice) return false;
-    voice->Play();
-    voices.push_back(std::move(voice));
-    return true;
+    voices.push_back(sound.Clone());
+    voices.back()->Play();
 }
 
 } // namespace
@@ -61,8 +58,8 @@ void PlayT(Sound* sound)
     try {
         if (!sound->IsPlaying())
             sound->Play();
-        else if (!PlayOver(*sound))
-            throttle.Penalise();
+        else
+            PlayOver(*sound);
     } catch (const std::exception&) {
         throttle.Penalise();
     }

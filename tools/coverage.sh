@@ -6,8 +6,8 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 build=build/coverage
 cmake -G Ninja -B $build -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS=--coverage >/dev/null
-cmake --build $build | tail -n 1
 find $build -name '*.gcda' -delete
+cmake --build $build | tail -n 1
 tools/ctest.sh coverage -E EndToEnd | tail -n 1
 
 cd $build
@@ -16,8 +16,8 @@ for source in ../../{engine,support}/*.cpp ../../preferences/Preferences.cpp ../
     source=${source#../../}
     gcov -t "${source%/*}"/CMakeFiles/*.dir/"${source##*/}.gcda"
 done | awk -F: '
-    $2 == 0 && $3 == "Source" { file = sub("^../../", "", $4) ? $4 : "" }
-    $2 == 0 || !file || $1 ~ /-$/ || seen[file, $2]++ { next }
+    $2 == 0 && $3 == "Source" { file = sub("^../../", "", $4) && $4 ~ /cpp$/ ? $4 : "" }
+    $2 == 0 || !file || $3 == "}" || $1 ~ /-$/ || seen[file, $2]++ { next }
     { lines[file]++ }
     $1 ~ /[#=]$/ { missed[file]++; text = text file ":" $2 + 0 ":" substr($0, 16) "\n" }
     END {

@@ -1,4 +1,5 @@
 #include "specialA/WinSpecA.h"
+#include "support/FileHelpers.h"
 #include "tests/faults/FaultTest.h"
 
 #include <cerrno>
@@ -99,6 +100,18 @@ TEST_F(Faults, OfThePreferencesAreToldAndLeaveTheOldOrTheNewOnes)
         const bool told = Told(preferencesFailed) > 0;
         EXPECT_TRUE(told ? content == oldPreferences || IsBlankAfter(content, written) : content == written) << content;
     });
+}
+
+TEST_F(Faults, OfAnOlderDataFolderThatKeepsItsNameAreTold)
+{
+    setenv("XDG_CONFIG_HOME", (folder.Path() / "config").c_str(), 1);
+    before = {{folder.Path() / "config/Tarnivel/Tarnivel Prefs.txt", "old"}, {folder.Path() / "data/other", ""}};
+    const auto act = [] { Fncts::DefDossAppDataPref(); };
+    const std::vector<std::string> calls = Attempt({}, act);
+    const auto renaming = std::ranges::find(calls, "rename /data/Tarnivel") - calls.begin();
+    Attempt({static_cast<int>(renaming) + 1, EACCES}, act);
+    EXPECT_EQ(Told(U"Error ! Please contact the authors.\nDefDossAppDataPref"), 1);
+    EXPECT_EQ(folder.Content("data/Tarnivel/Tarnivel Prefs.txt"), "old");
 }
 
 TEST_F(Faults, OfATreatmentAreToldForEachVariant)

@@ -115,10 +115,24 @@ TEST_F(Dialogs, AWindowHasOneCover)
     Fncts::CtrlDsFenetrDiag(&asking_, true);
     EXPECT_EQ(Told(), U"CtrlDsFenetrDiag, there is more than one 'LabBlockUI' in window 'other'");
     second.SetName(U"");
+    other_.Cover().SetLocks(Lock::Top);
+    Fncts::CtrlDsFenetrDiag(&asking_, true);
+    EXPECT_EQ(Told(), U"CtrlDsFenetrDiag, 'LabBlockUI' should be Lock Left and Lock Top");
+    EXPECT_TRUE(other_.IsCovered());
+    Fncts::CmLabBlockUI(3, nullptr, nullptr, nullptr);
+    EXPECT_EQ(Told(), U"CmLabBlockUI, Which case ? TampNbre = 3");
     other_.Cover().SetName(U"");
     Fncts::CtrlDsFenetrDiag(&asking_, true);
     EXPECT_EQ(Told(), U"CtrlDsFenetrDiag, there is not 'LabBlockUI' in window 'other'");
     Fncts::CtrlDsFenetrDiag(&asking_, false);
+}
+
+TEST_F(Dialogs, WindowsThatOpenBeforeTheirTimeAreTold)
+{
+    Fncts::CtrlFenetrOuv({&asking_, &other_});
+    EXPECT_TRUE(probe_.Asked.empty());
+    Fncts::CtrlFenetrOuv({});
+    EXPECT_EQ(Told(), U"PrefsCharger, Windows launched before read AffHelpTag !\n • 'asking'\n • 'other'");
 }
 
 TEST_F(Dialogs, TextFieldsMoveUpAndTheFocusComesBack)

@@ -53,7 +53,10 @@ TEST(Removal, LeavesWhatAliasesLeadToAndAFailureStopsTheWatchedOnes)
     const FolderItem fixed("/proc/self/status"); // Not even the superuser removes it.
     EXPECT_TRUE(Fncts::RemoveFileOrFolder(fixed, false));
     EXPECT_FALSE(Fncts::ArretUrg);
-    EXPECT_TRUE(Fncts::RemoveFileOrFolder(fixed, true));
+    for (const FolderItem& item : {fixed, FolderItem("/proc/self/fdinfo")}) {
+        Fncts::ArretUrg = false;
+        EXPECT_TRUE(Fncts::RemoveFileOrFolder(item, true) && Fncts::ArretUrg) << item.Path();
+    }
     EXPECT_TRUE(Fncts::RemoveFileOrFolder(file, true));
     EXPECT_EQ(disk.Content("outside/kept"), "x");
     EXPECT_FALSE(Fncts::RemoveFileOrFolder(file, false));
@@ -73,6 +76,16 @@ TEST(Application, IsInTheFolderOfTheBundleOrOfTheExecutable)
     EXPECT_EQ(Fncts::FolderOfApplication(FolderItem("/Apps/T.app/Contents/MacOS/T")).Path(), "/Apps");
     EXPECT_EQ(Fncts::FolderOfApplication(FolderItem("/opt/bin/tarnivel")).Path(), "/opt/bin");
     EXPECT_EQ(Fncts::FolderOfApplication(FolderItem("/")).Path(), "/") << "no folder is left above";
+    EXPECT_EQ(Fncts::RetDossCetApp().Path(), fs::read_symlink("/proc/self/exe").parent_path());
+}
+
+TEST(Revealing, OpensAVolumeAndShowsAllElseInItsFolder)
+{
+    const Probe probe;
+    Fncts::RevealEltFinder(FolderItem("/"));
+    Fncts::RevealEltFinder(FolderItem("/proc"));
+    EXPECT_EQ(probe.Opened, std::vector<String>{U"/"});
+    EXPECT_EQ(probe.Revealed, std::vector<String>{U"/proc"});
 }
 
 /// A user's home of its own.
