@@ -1,6 +1,7 @@
 #include "engine/Checks.h"
 #include "engine/Names.h"
 #include "engine/SceneryText.h"
+#include "engine/Sorting.h"
 #include "tests/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -25,12 +26,7 @@ String TextFor(const std::vector<StringView>& names)
 
 TEST(Checks, TestModelScen)
 {
-    struct Row {
-        const char* name;
-        std::vector<StringView> names;
-        String report;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, std::vector<StringView>, String> rows[] = {
         {"no line", {}, U""},
         {"different names", {U"a", U"-b", U"aa"}, U""},
         {"both states of a pack are one scenery twice", {U"A", U"-A"}, twice + U"\n - A"},
@@ -40,9 +36,9 @@ TEST(Checks, TestModelScen)
         {"accents count in full", {U"é", U"e", U"É"}, twice + U"\n - É"},
         {"a deeper path names the same scenery", {U"a/x", U"a/y"}, twice + U"\n - a"},
     };
-    for (const Row& row : rows) {
-        const String text = TextFor(row.names);
-        EXPECT_EQ(TestModelScen(LinesOf(text)), row.report) << row.name;
+    for (const auto& [name, names, report] : rows) {
+        const String text = TextFor(names);
+        EXPECT_EQ(TestModelScen(LinesOf(text)), report) << name;
     }
     const StringView outside = U"SCENERY_PACK x/\nSCENERY_PACK x/\n\n\nSCENERY_PACK Custom Scenery/a";
     EXPECT_EQ(TestModelScen(LinesOf(outside)), U"");
@@ -50,28 +46,13 @@ TEST(Checks, TestModelScen)
 
 TEST(Checks, TestFolderScen)
 {
-    struct Row {
-        const char* name;
-        std::vector<const char*> folders;
-        std::vector<StringView> names;
-        String report;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, std::vector<const char*>, std::vector<StringView>, String> rows[] = {
         {"nothing on either side", {}, {}, U""},
         {"each has its folder, whatever the case", {"Alpes", "corse"}, {U"alpes", U"-CORSE"}, U""},
-        {"both sections",
-         {"Corse", "alpes", "Jura"},
-         {U"Jura", U"Bretagne"},
-         unlisted + U"\n - alpes\n - Corse\n \n" + missing + U"\n - Bretagne"},
+        {"both sections", {"C", "b", "J"}, {U"J", U"a"}, unlisted + U"\n - b\n - C\n \n" + missing + U"\n - a"},
         {"only folders", {"a"}, {}, unlisted + U"\n - a"},
-        {"only names, sorted by their lines: enabled ones first",
-         {},
-         {U"-a", U"c", U"B"},
-         missing + U"\n - B\n - c\n - a"},
-        {"a folder answers for one line, the first when sorted",
-         {"a"},
-         {U"a/z", U"A/y", U"-a"},
-         missing + U"\n - a\n - a"},
+        {"only names, sorted by their lines: enabled first", {}, {U"-a", U"c", U"B"}, missing + U"\n - B\n - c\n - a"},
+        {"a folder answers for the first sorted line", {"a"}, {U"a/z", U"A/y", U"-a"}, missing + U"\n - a\n - a"},
         {"a line answers for one folder, the first one", {"A", "a"}, {U"a"}, unlisted + U"\n - a"},
         {"a composed folder for a decomposed name", {"\u00e9"}, {U"e\u0301"}, U""},
         {"a decomposed folder for a composed name", {"e\u0301"}, {U"\u00c9"}, U""},
@@ -82,12 +63,12 @@ TEST(Checks, TestFolderScen)
         {"a colon on disk shows as a slash", {"a:b"}, {}, unlisted + U"\n - a/b"},
         {"a folder whose name begins with a dot counts", {".x"}, {}, unlisted + U"\n - .x"},
     };
-    for (const Row& row : rows) {
+    for (const auto& [name, folders, names, report] : rows) {
         TemporaryFolder temporary;
-        for (const char* folder : row.folders)
+        for (const char* folder : folders)
             temporary.Folder(folder);
-        const String text = TextFor(row.names);
-        EXPECT_EQ(TestFolderScen(LinesOf(text), FolderItem(temporary.Path())), row.report) << row.name;
+        const String text = TextFor(names);
+        EXPECT_EQ(TestFolderScen(LinesOf(text), FolderItem(temporary.Path())), report) << name;
     }
 }
 
@@ -110,6 +91,24 @@ TEST(Checks, Naff)
     EXPECT_EQ(Fncts::Naff(U":a:e\u0301/", true, false), U"/a/e\u0301/");
     EXPECT_EQ(Fncts::Naff(U"/a/e\u0301:", false, true), U":a:e\u0301:");
     EXPECT_EQ(Fncts::Naff(U"", true, true), U"");
+}
+
+TEST(Sorting, SortedOrder)
+{
+    const StringView nul(U"a\0", 2);
+    const std::tuple<const char*, std::vector<StringView>, std::vector<std::size_t>> rows[] = {
+        {"nothing", {}, {}},
+        {"equal texts keep their order", {U"b", U"A", U"a", U"", U"B", U"a", U""}, {3, 6, 1, 2, 5, 0, 4}},
+        {"a beginning comes first, even before a NUL", {U"ab", nul, U"a", U"aa"}, {2, 1, 3, 0}},
+        {"differences behind many equal characters",
+         {U"Custom Scenery/10/", U"custom scenery/10", U"CUSTOM SCENERY/1", U"Custom Scenery/09/zz"},
+         {3, 2, 1, 0}},
+        {"characters count in full, in the order of their numbers",
+         {U"\U00010061", U"\u0161", U"a", U"\u2161", U"\uFF41", U"\u0160"},
+         {2, 1, 5, 3, 4, 0}},
+    };
+    for (const auto& [name, texts, order] : rows)
+        EXPECT_EQ(SortedOrder(texts), order) << name;
 }
 
 } // namespace

@@ -1,8 +1,7 @@
-#include "tests/engine/NaiveEngine.h"
-
 #include "app/localisation/Localisation.h"
 #include "engine/Names.h"
 #include "engine/SceneryText.h"
+#include "tests/engine/Outcome.h"
 
 #include <algorithm>
 
@@ -12,9 +11,8 @@ using Lines = std::vector<String>;
 
 Int64 Search(const Lines& lines, StringView line, Int64 start = 0)
 {
-    for (Int64 i = start; i < std::ssize(lines); ++i) {
+    for (Int64 i = start; i < std::ssize(lines); ++i)
         if (SameText(lines[static_cast<std::size_t>(i)], line)) return i;
-    }
     return -1;
 }
 
@@ -29,16 +27,14 @@ Lines Cut(StringView text)
 
 void Sort(Lines& lines)
 {
-    std::stable_sort(lines.begin(), lines.end(),
-                     [](const String& left, const String& right) { return FoldCase(left) < FoldCase(right); });
+    std::ranges::stable_sort(lines, {}, [](const String& line) { return FoldCase(line); });
 }
 
 Lines Reduce(const Lines& lines)
 {
     Lines names;
-    for (const String& line : lines) {
+    for (const String& line : lines)
         if (const StringView name = RetScenLigne(line); !name.empty()) names.emplace_back(name);
-    }
     return names;
 }
 
@@ -71,9 +67,10 @@ String CheckFolders(const Lines& sorted, const Lines& folders)
     Lines names = Reduce(sorted);
     String list;
     for (const String& folder : folders) {
-        const auto found = std::find_if(names.begin(), names.end(), [&folder](const String& name) {
+        const auto isOfFolder = [&](StringView name) {
             return SameText(Fncts::NrmStgEnc(name), Fncts::NrmStgEnc(folder));
-        });
+        };
+        const auto found = std::ranges::find_if(names, isOfFolder);
         if (found == names.end())
             list += U"\n - " + folder;
         else
@@ -154,7 +151,7 @@ Outcome RunNaively(StringView modelText, StringView sourceText, const std::vecto
         outcome.text += line + U"\n";
     Sort(source);
     Sort(destination);
-    if (!std::equal(source.begin(), source.end(), destination.begin(), destination.end(), SameText)) {
+    if (!std::ranges::equal(source, destination, SameText)) {
         outcome.reports.emplace_back(Localisation::Txt_ProblemCompInitFinal(), U"");
     } else if (const String report = CheckFolders(destination, folders); !report.empty()) {
         outcome.reports.emplace_back(report, U"");

@@ -28,3 +28,6 @@ inline Outcome RunEngine(StringView model, StringView source, const FolderItem& 
     outcome.resultMarks = std::move(texts.CoulDestSpack);
     return outcome;
 }
+
+/// The reordering once more, as slow and as plain as can be: arrays that are searched from end to end.
+Outcome RunNaively(StringView model, StringView source, const std::vector<String>& folders);

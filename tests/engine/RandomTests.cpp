@@ -8,6 +8,8 @@
 
 namespace {
 
+const String header = U"I\n1000 version\nSCENERY";
+
 class Dice {
 public:
     std::size_t Roll(std::size_t sides) { return std::uniform_int_distribution<std::size_t>(0, sides - 1)(engine_); }
@@ -15,7 +17,7 @@ public:
     /// A short text whose lines meet each other often: as repeats, as twins, in another case.
     String Text(std::size_t mostLines)
     {
-        String text = Roll(9) == 0 ? U"i\n1000 VERSION\nscenery_X" : U"I\n1000 version\nSCENERY";
+        String text = Roll(9) == 0 ? U"i\n1000 VERSION\nscenery_X" : header;
         for (std::size_t lines = Roll(mostLines + 1); lines > 0; --lines)
             text += U"\n" + Line();
         return text.append(Roll(3), U'\n');
@@ -24,7 +26,7 @@ public:
     /// A text of many sceneries, about half of which are in any other such text.
     String LongText(std::size_t lines)
     {
-        String text = U"I\n1000 version\nSCENERY";
+        String text = header;
         for (Int64 number = 0; lines > 0; --lines, number += 1 + static_cast<Int64>(Roll(2)))
             text += U"\nSCENERY_PACK Custom Scenery/Région " + ToText(number) + U"/";
         return Variant(text);
@@ -50,22 +52,11 @@ private:
         static const std::vector<StringView> prefixes = {
             U"SCENERY_PACK ",      U"SCENERY_PACK ", U"SCENERY_PACK_DISABLED ", U"SCENERY_PACK_DISABLED ", U"",
             U"SCENERY_PAC\u212A ", U" SCENERY_PACK "};
-        static const std::vector<StringView> rests = {U"Custom Scenery/a/",
-                                                      U"Custom Scenery/é/",
-                                                      U"Custom Scenery/e\u0301/",
-                                                      U"Custom Scenery/B b/x/y",
-                                                      U"Custom Scenery/c",
-                                                      U"Custom Scenery/d:e/",
-                                                      U"Custom Scenery/f/",
-                                                      U"Custom Scenery/g/",
-                                                      U"*GLOBAL_AIRPORTS*",
-                                                      U"/x/y/",
-                                                      U"x",
-                                                      U"",
-                                                      U"",
-                                                      U"SCENERY_PACK x",
-                                                      U"I",
-                                                      U"scenery_x"};
+        static const std::vector<StringView> rests = Split(
+            U"Custom Scenery/a/|Custom Scenery/é/|Custom Scenery/e\u0301/|Custom Scenery/B b/x/y|Custom Scenery/c|"
+            U"Custom Scenery/d:e/|Custom Scenery/f/|Custom Scenery/g/|*GLOBAL_AIRPORTS*|/x/y/|x|||SCENERY_PACK "
+            U"x|I|scenery_x",
+            U"|");
         String line = String(prefixes[Roll(prefixes.size())]).append(rests[Roll(rests.size())]);
         if (Roll(4) == 0) line = FoldCase(line);
         if (Roll(4) == 0 && !line.empty()) {
@@ -107,6 +98,29 @@ TEST(CreerSpack, DoesWhatTheNaiveEngineDoes)
     EXPECT_EQ(messages.size(), 5U);
     for (const auto& [message, count] : messages)
         EXPECT_GT(count, 20) << testing::PrintToString(message);
+}
+
+TEST(CreerSpack, TakesBadTexts)
+{
+    const String longPath = String(U"\nSCENERY_PACK ").append(1'000'000, U's');
+    const String oneLine = String(U"SCENERY_PACK ").append(10'000'000, U'x');
+    const std::tuple<const char*, String, String> rows[] = {
+        {"no text at all", U"", U""},
+        {"less than a header", U"I\n1000 version", U"I"},
+        {"no body", header, header},
+        {"nothing but line ends", String(9, U'\n'), String(5, U'\n')},
+        {"NULs", header + String(U"\nSCENERY_PACK a\0b\n\0", 19), header + String(U"\n\0\nSCENERY_PACK a\0c", 19)},
+        {"CR in lines", header + U"\nSCENERY_PACK a\r\n\r", header + U"\r\n\r\nSCENERY_PACK a"},
+        {"a line of a million characters", header + longPath, header + longPath + U"y"},
+        {"ten million characters in one line", oneLine, header + U"\n" + oneLine},
+        {"tabs", header + U"\nSCENERY_PACK Custom Scenery/a/\tSCENERY_PACK Custom Scenery/a/",
+         header + U"\nSCENERY_PACK Custom Scenery/\ta/"},
+        {"what no text should hold", header + U"\n\U0010FFFF\n\uFFFE", header + U"\n\uFFFE\n" + char32_t{0xD800}},
+    };
+    const TemporaryFolder empty;
+    const FolderItem dossier(empty.Path());
+    for (const auto& [name, model, source] : rows)
+        EXPECT_TRUE(RunEngine(model, source, dossier) == RunNaively(model, source, {})) << name;
 }
 
 } // namespace

@@ -3,7 +3,7 @@
 
 #include "app/localisation/Localisation.h"
 #include "engine/SceneryText.h"
-#include "tests/engine/NaiveEngine.h"
+#include "tests/engine/Outcome.h"
 
 #include <algorithm>
 #include <set>

@@ -1,6 +1,6 @@
 #include "tests/TemporaryFolder.h"
 #include "tests/engine/Outcome.h"
-#include "toolkit/core/TextEncoding.h"
+#include "toolkit/core/TextInputStream.h"
 
 #include <filesystem>
 #include <set>
@@ -10,11 +10,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string Read(const fs::path& file)
-{
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
+Bytes Read(const fs::path& file) { return TextInputStream::Open(FolderItem(file)).ReadAll(); }
 
 String ReadText(const fs::path& file) { return Encodings::UTF8.Decode(Read(file)); }
 

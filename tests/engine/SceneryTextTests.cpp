@@ -13,43 +13,34 @@ String Refused(StringView text)
 
 TEST(SceneryText, Acceptance)
 {
-    struct Row {
-        const char* name;
-        String raw, text;
-        bool accepted;
-    };
-    const Row rows[] = {
-        {"an empty text is an error", U"", U"### Error ###  empty", false},
-        {"the header alone is accepted", U"I\n1000 version\nSCENERY", U"I\n1000 version\nSCENERY", true},
-        {"21 characters are too few", U"I\n1000 version\nSCENER", Refused(U"I\n1000 version\nSCENER"), false},
-        {"only 22 characters count", U"I\n1000 version\nSCENERY_X", U"I\n1000 version\nSCENERY_X", true},
-        {"case doesn't count, and stays", U"i\n1000 VERSION\nscenery\n", U"i\n1000 VERSION\nscenery\n", true},
-        {"CR LF in the header is refused and kept as it is", U"I\r\n1000 version\r\nSCENERY\r\nx\r",
-         Refused(U"I\r\n1000 version\r\nSCENERY\r\nx\r"), false},
-        {"CR in the header is refused", U"I\r1000 version\rSCENERY", Refused(U"I\r1000 version\rSCENERY"), false},
+    // What isn't accepted becomes nothing here, and an explanation with the text behind it there.
+    const std::tuple<const char*, String, String> rows[] = {
+        {"the header alone is accepted", U"I\n1000 version\nSCENERY", U"I\n1000 version\nSCENERY"},
+        {"21 characters are too few", U"I\n1000 version\nSCENER", U""},
+        {"only 22 characters count", U"I\n1000 version\nSCENERY_X", U"I\n1000 version\nSCENERY_X"},
+        {"case doesn't count, and stays", U"i\n1000 VERSION\nscenery\n", U"i\n1000 VERSION\nscenery\n"},
+        {"CR LF in the header is refused and kept as it is", U"I\r\n1000 version\r\nSCENERY\r\nx\r", U""},
+        {"CR in the header is refused", U"I\r1000 version\rSCENERY", U""},
         {"all kinds of line ends behind the header become LF", U"I\n1000 version\nSCENERY\r\n\r\na\rb\n\rc\n",
-         U"I\n1000 version\nSCENERY\n\na\nb\n\nc\n", true},
-        {"a byte-order mark is no header", U"\uFEFFI\n1000 version\nSCENERY",
-         Refused(U"\uFEFFI\n1000 version\nSCENERY"), false},
-        {"an error text is refused like any other", U"### Error ###7 x", Refused(U"### Error ###7 x"), false},
+         U"I\n1000 version\nSCENERY\n\na\nb\n\nc\n"},
+        {"a byte-order mark is no header", U"\uFEFFI\n1000 version\nSCENERY", U""},
+        {"an error text is refused like any other", U"### Error ###7 x", U""},
         {"NULs are characters", String(U"I\n1000 version\nSCENERY\n\0\r\0", 26),
-         String(U"I\n1000 version\nSCENERY\n\0\n\0", 26), true},
+         String(U"I\n1000 version\nSCENERY\n\0\n\0", 26)},
     };
-    for (const Row& row : rows) {
-        const Acceptance acceptance = AcceptSceneryText(row.raw);
-        EXPECT_EQ(acceptance.text, row.text) << row.name;
-        EXPECT_EQ(acceptance.accepted, row.accepted) << row.name;
+    for (const auto& [name, raw, text] : rows) {
+        const Acceptance acceptance = AcceptSceneryText(raw);
+        EXPECT_EQ(acceptance.text, text.empty() ? Refused(raw) : text) << name;
+        EXPECT_EQ(acceptance.accepted, !text.empty()) << name;
     }
+    EXPECT_EQ(AcceptSceneryText(U"").text, U"### Error ###  empty");
+    EXPECT_FALSE(AcceptSceneryText(U"").accepted);
     EXPECT_EQ(LgTxtDebSpack, 22);
 }
 
 TEST(SceneryText, RetScenLigne)
 {
-    struct Row {
-        const char* name;
-        StringView line, scenery;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, StringView, StringView> rows[] = {
         {"an enabled pack", U"SCENERY_PACK Custom Scenery/Alpes/", U"Alpes"},
         {"a disabled pack", U"SCENERY_PACK_DISABLED Custom Scenery/Alpes/", U"Alpes"},
         {"case doesn't count, the name keeps its own", U"scenery_pack custom scenery/AlPes/", U"AlPes"},
@@ -70,8 +61,8 @@ TEST(SceneryText, RetScenLigne)
         {"a blank line", U"", U""},
         {"nothing is decoded or composed", U"SCENERY_PACK Custom Scenery/e\u0301 %20:é/", U"e\u0301 %20:é"},
     };
-    for (const Row& row : rows)
-        EXPECT_EQ(RetScenLigne(row.line), row.scenery) << row.name;
+    for (const auto& [name, line, scenery] : rows)
+        EXPECT_EQ(RetScenLigne(line), scenery) << name;
 }
 
 TEST(SceneryText, LongTxtTab)
