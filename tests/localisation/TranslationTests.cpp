@@ -26,9 +26,8 @@ std::vector<std::size_t> Shape(const String& text)
 {
     const std::vector<StringView> lines = Split(text, U"\n");
     std::vector<std::size_t> shape;
-    for (std::size_t i = 0; i < lines.size(); ++i) {
+    for (std::size_t i = 0; i < lines.size(); ++i)
         if (lines[i] == U" ") shape.push_back(i);
-    }
     shape.push_back(lines.size());
     return shape;
 }
@@ -86,18 +85,10 @@ INSTANTIATE_TEST_SUITE_P(All, Translations, testing::Values("de", "en", "es", "i
 
 TEST(FrenchTexts, AreWithoutTheirMark)
 {
-    for (const auto& [name, text] : allTexts) {
+    for (const auto& [name, text] : allTexts)
         EXPECT_EQ(IndexOf(text(french), U"‡"), -1) << name;
-    }
     EXPECT_EQ(Localisation::Txt_Attente(french), U"…");
     EXPECT_EQ(Localisation::Infos_Texte(french).size(), 1101U);
-}
-
-TEST(FrenchTexts, StandInForALanguageThatTheProgramDoesNotSpeak)
-{
-    for (const StringView language : {U"sv", U"../translations/tarnivel_de", U"d"}) {
-        EXPECT_EQ(Localisation::Menu_Fichier(language), U"Fichier");
-    }
 }
 
 } // namespace
