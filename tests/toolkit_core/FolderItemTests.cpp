@@ -1,6 +1,7 @@
 #include "tests/TemporaryFolder.h"
 #include "toolkit/core/Exceptions.h"
 #include "toolkit/core/FolderItem.h"
+#include "toolkit/core/TextEncoding.h"
 
 #include <cerrno>
 #include <functional>
@@ -22,11 +23,7 @@ try {
 TEST(FolderItem, FindsItsChildrenByName)
 {
     const TemporaryFolder folder;
-    const struct {
-        const char* name;
-        fs::path onDisk;
-        String wanted;
-    } rows[] = {
+    const std::tuple<const char*, fs::path, String> rows[] = {
         {"a colon", "A:B", U"A:B"},
         {"a line end", "a\nb", U"a\nb"},
         {"a composed letter", "\xC3\xA9", U"é"},
@@ -35,12 +32,12 @@ TEST(FolderItem, FindsItsChildrenByName)
         {"a Kelvin sign by the letter that it is", "\xE2\x84\xAA", U"K"},
         {"a name of 255 bytes", std::string(255, 'x'), String(255, U'x')},
     };
-    for (const auto& row : rows) {
-        const fs::path path = folder.File(row.onDisk);
-        const FolderItem child = FolderItem(folder.Path()).Child(row.wanted).value();
-        EXPECT_EQ(child.Path(), path) << row.name;
-        EXPECT_EQ(CanonicalForm(child.Name()), CanonicalForm(row.wanted)) << row.name;
-        EXPECT_EQ(child.Parent()->Path(), folder.Path()) << row.name;
+    for (const auto& [name, onDisk, wanted] : rows) {
+        const fs::path path = folder.File(onDisk);
+        const FolderItem child = FolderItem(folder.Path()).Child(wanted).value();
+        EXPECT_EQ(child.Path(), path) << name;
+        EXPECT_EQ(CanonicalForm(child.Name()), CanonicalForm(wanted)) << name;
+        EXPECT_EQ(child.Parent()->Path(), folder.Path()) << name;
     }
     (void)folder.File("K");
     EXPECT_EQ(FolderItem(folder.Path()).Child(U"K")->Path(), folder.Path() / "K") << "the exact name comes first";
@@ -83,10 +80,7 @@ TEST(FolderItem, TellsAnAliasFromWhatItLeadsTo)
     const TemporaryFolder temporary;
     const fs::path target = temporary.Folder("real/target");
     const FolderItem folder(temporary.Folder("links"));
-    const struct {
-        const char* name;
-        fs::path leadsTo, destination;
-    } rows[] = {
+    const std::tuple<const char*, fs::path, fs::path> rows[] = {
         {"a link to a folder", target, target},
         {"a link by a way of its own", "../real/./target/", target},
         {"a link to a link", "a link to a folder", target},
@@ -94,15 +88,15 @@ TEST(FolderItem, TellsAnAliasFromWhatItLeadsTo)
         {"a link to a dead link", "a dead link", temporary.Path() / "real/nothing"},
         {"a circle", "a circle", temporary.Path() / "links/a circle"},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        fs::create_symlink(row.leadsTo, folder.Path() / row.name);
-        const String name(row.name, row.name + std::string_view(row.name).size());
-        const FolderItem alias = folder.Child(name, false).value();
-        EXPECT_EQ(alias.Path(), folder.Path() / row.name);
+    for (const auto& [name, leadsTo, destination] : rows) {
+        SCOPED_TRACE(name);
+        fs::create_symlink(leadsTo, folder.Path() / name);
+        const String wanted = Encodings::UTF8.Decode(name);
+        const FolderItem alias = folder.Child(wanted, false).value();
+        EXPECT_EQ(alias.Path(), folder.Path() / name);
         EXPECT_TRUE(alias.IsAlias() && alias.Exists() && !alias.IsFolder());
-        EXPECT_EQ(folder.Child(name)->Path(), row.destination);
-        EXPECT_EQ(folder.Child(name)->IsFolder(), row.destination == target);
+        EXPECT_EQ(folder.Child(wanted)->Path(), destination);
+        EXPECT_EQ(folder.Child(wanted)->IsFolder(), destination == target);
     }
 }
 

@@ -6,15 +6,9 @@ namespace {
 
 using namespace std::string_view_literals;
 
-struct Row {
-    const char* name;
-    std::string_view bytes;
-    StringView text;
-};
-
 TEST(TextEncoding, GivesTheSameTextBack)
 {
-    const Row rows[] = {
+    const std::tuple<const char*, std::string_view, StringView> rows[] = {
         {"a byte-order mark at the start", "\xEF\xBB\xBFI\n", U"\uFEFFI\n"},
         {"a mark of the other byte order", "\xEF\xBF\xBEx", U"\uFFFEx"},
         {"a NUL", "a\0b"sv, {U"a\0b", 3}},
@@ -22,11 +16,11 @@ TEST(TextEncoding, GivesTheSameTextBack)
         {"beyond 16 bits", "\xF0\x9F\x98\x80\xF4\x8F\xBF\xBF", U"😀\U0010FFFF"},
         {"noncharacters", "\xEF\xB7\x90\xEF\xBF\xBF", U"\uFDD0\uFFFF"},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_TRUE(Encodings::UTF8.IsValidData(row.bytes));
-        EXPECT_EQ(Encodings::UTF8.Decode(row.bytes), row.text);
-        EXPECT_EQ(Encodings::UTF8.Encode(row.text), row.bytes);
+    for (const auto& [name, bytes, text] : rows) {
+        SCOPED_TRACE(name);
+        EXPECT_TRUE(Encodings::UTF8.IsValidData(bytes));
+        EXPECT_EQ(Encodings::UTF8.Decode(bytes), text);
+        EXPECT_EQ(Encodings::UTF8.Encode(text), bytes);
     }
 }
 
@@ -46,9 +40,8 @@ TEST(TextEncoding, KeepsCharactersWholeInLongTexts)
     String text;
     for (int i = 0; i < 70'000; ++i)
         text += U"a\uFEFFé😀";
-    for (std::size_t shift = 0; shift < 4; ++shift) {
+    for (std::size_t shift = 0; shift < 4; ++shift)
         EXPECT_TRUE(Encodings::UTF8.Decode(Encodings::UTF8.Encode(text.substr(shift))) == text.substr(shift));
-    }
     const Bytes strays(1'000'000, '\x80');
     EXPECT_TRUE(Encodings::UTF8.Decode(strays) == String(strays.size(), U'\uFFFD'));
 }

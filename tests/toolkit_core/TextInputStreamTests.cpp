@@ -21,11 +21,7 @@ TEST(TextInputStream, ReadsLinesWithEveryLineEnd)
     const TemporaryFolder folder;
     // The reader takes the file in pieces of 65,536 bytes: a line end may lie across two of them.
     const Bytes almost(65'535, 'x');
-    const struct {
-        const char* name;
-        Bytes content;
-        std::vector<Bytes> lines;
-    } rows[] = {
+    const std::tuple<const char*, Bytes, std::vector<Bytes>> rows[] = {
         {"an empty file has no line", "", {}},
         {"LF, CR LF and CR", "a\nb\r\nc\rd\r", {"a", "b", "c", "d"}},
         {"empty lines", "\n\r\n\r\r\n", {"", "", "", ""}},
@@ -33,11 +29,11 @@ TEST(TextInputStream, ReadsLinesWithEveryLineEnd)
         {"CR LF across two pieces", almost + "\r\nb", {almost, "b"}},
         {"CR at the end of a piece", almost + "\rb", {almost, "b"}},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        const FolderItem file(folder.File("file", row.content));
-        EXPECT_EQ(Lines(TextInputStream::Open(file)), row.lines);
-        EXPECT_EQ(TextInputStream::Open(file).ReadAll(), row.content);
+    for (const auto& [name, content, lines] : rows) {
+        SCOPED_TRACE(name);
+        const FolderItem file(folder.File("file", content));
+        EXPECT_EQ(Lines(TextInputStream::Open(file)), lines);
+        EXPECT_EQ(TextInputStream::Open(file).ReadAll(), content);
     }
 }
 

@@ -9,12 +9,7 @@ std::vector<String> Texts(const std::vector<StringView>& views) { return {views.
 
 TEST(Text, IsTheSameWhateverItsCase)
 {
-    struct Row {
-        const char* name;
-        StringView left, right;
-        bool same;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, StringView, StringView, bool> rows[] = {
         {"ASCII letters", U"SCENERY_PACK", U"scenery_pack", true},
         {"a letter with an accent", U"ÉCRINS", U"écrins", true},
         {"a decomposed letter is another text", U"e\u0301", U"é", false},
@@ -26,11 +21,11 @@ TEST(Text, IsTheSameWhateverItsCase)
         {"letters beyond 16 bits", U"𐐀", U"𐐨", true},
         {"a beginning is not the whole", U"Alpes", U"Alpes ", false},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_EQ(SameText(row.left, row.right), row.same);
-        EXPECT_EQ(FoldCase(row.left) == FoldCase(row.right), row.same);
-        EXPECT_EQ(FoldCase(row.left).size(), row.left.size());
+    for (const auto& [name, left, right, same] : rows) {
+        SCOPED_TRACE(name);
+        EXPECT_EQ(SameText(left, right), same);
+        EXPECT_EQ(FoldCase(left) == FoldCase(right), same);
+        EXPECT_EQ(FoldCase(left).size(), left.size());
     }
     EXPECT_EQ(FoldCase(char32_t{0xFFFFFFFF}), char32_t{0xFFFFFFFF}) << "what is no character stays";
 }
@@ -38,12 +33,7 @@ TEST(Text, IsTheSameWhateverItsCase)
 TEST(Text, IsFoundInAnother)
 {
     const String forty(40, U'é');
-    struct Row {
-        const char* name;
-        String text, searched;
-        Int64 start, found;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, String, String, Int64, Int64> rows[] = {
         {"the first of two", U"Alpes/Alpes/", U"alpes", 0, 0},
         {"from the start on", U"Alpes/Alpes/", U"ALPES", 1, 6},
         {"a start below 0 is 0", U"Alpes", U"alpes", -3, 0},
@@ -56,8 +46,8 @@ TEST(Text, IsFoundInAnother)
         {"a long text whatever its case", U"x" + String(40, U'É') + U"x", forty, 1, 1},
         {"a long text that isn't there", String(39, U'É') + U"x" + forty.substr(1), forty, 0, -1},
     };
-    for (const Row& row : rows)
-        EXPECT_EQ(IndexOf(row.text, row.searched, row.start), row.found) << row.name;
+    for (const auto& [name, text, searched, start, found] : rows)
+        EXPECT_EQ(IndexOf(text, searched, start), found) << name;
 }
 
 TEST(Text, IsSearchedInTimeEvenWhenItRepeatsItself)
@@ -70,12 +60,7 @@ TEST(Text, IsSearchedInTimeEvenWhenItRepeatsItself)
 
 TEST(Text, IsCutIntoFields)
 {
-    struct Row {
-        const char* name;
-        StringView text, separator;
-        std::vector<String> fields;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, StringView, StringView, std::vector<String>> rows[] = {
         {"an empty text is one empty field", U"", U",", {U""}},
         {"without a separator it is one field", U"a b", U",", {U"a b"}},
         {"an empty separator separates nothing", U"ab", U"", {U"ab"}},
@@ -84,16 +69,15 @@ TEST(Text, IsCutIntoFields)
         {"a separator of two characters doesn't overlap", U"1---2", U"--", {U"1", U"-2"}},
         {"a NUL is a character like others", {U"a\0b\nc", 5}, U"\n", {String(U"a\0b", 3), U"c"}},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_EQ(Texts(Split(row.text, row.separator)), row.fields);
-        EXPECT_EQ(CountFields(row.text, row.separator), static_cast<Int64>(row.fields.size()));
-        for (std::size_t i = 0; i < row.fields.size(); ++i) {
-            EXPECT_EQ(NthField(row.text, row.separator, static_cast<Int64>(i) + 1), row.fields[i]);
-        }
-        EXPECT_EQ(NthField(row.text, row.separator, static_cast<Int64>(row.fields.size()) + 1), U"");
-        EXPECT_EQ(NthField(row.text, row.separator, 0), U"");
-        EXPECT_TRUE(SameText(Join(Split(row.text, row.separator), row.separator), row.text));
+    for (const auto& [name, text, separator, fields] : rows) {
+        SCOPED_TRACE(name);
+        EXPECT_EQ(Texts(Split(text, separator)), fields);
+        EXPECT_EQ(CountFields(text, separator), static_cast<Int64>(fields.size()));
+        for (std::size_t i = 0; i < fields.size(); ++i)
+            EXPECT_EQ(NthField(text, separator, static_cast<Int64>(i) + 1), fields[i]);
+        EXPECT_EQ(NthField(text, separator, static_cast<Int64>(fields.size()) + 1), U"");
+        EXPECT_EQ(NthField(text, separator, 0), U"");
+        EXPECT_TRUE(SameText(Join(Split(text, separator), separator), text));
     }
 }
 
