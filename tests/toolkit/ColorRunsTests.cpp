@@ -19,34 +19,21 @@ std::string Picture(std::span<const ColorSpan> runs)
 
 TEST(ColorRuns, LaterSpansWin)
 {
-    struct Row {
-        const char* name;
-        std::vector<ColorSpan> spans;
-        const char* picture;
-        std::size_t runs;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, std::vector<ColorSpan>, const char*, std::size_t> rows[] = {
         {"no span leaves the text black", {}, "..........", 0},
         {"a keyword shows within a marked line", {{0, 9, orange}, {2, 3, green}}, "oogggoooo.", 3},
         {"a mark given last hides the keyword", {{2, 3, green}, {0, 9, orange}}, "ooooooooo.", 1},
         {"spans that follow each other keep apart", {{5, 2, red}, {3, 2, green}}, "...ggrr...", 2},
-        {"a span with holes of two others shows between",
-         {{0, 10, orange}, {1, 2, red}, {6, 2, green}},
-         "orrooogg"
-         "oo",
-         5},
+        {"a span shows between two others", {{0, 10, orange}, {1, 2, red}, {6, 2, green}}, "orroooggoo", 5},
         {"of equal spans the last wins", {{1, 4, red}, {1, 4, green}}, ".gggg.....", 1},
-        {"what lies outside the text is left out",
-         {{-3, 5, red}, {8, 50, green}, {10, 1, red}, {99, 1, red}},
-         "rr......gg",
-         2},
+        {"no colour outside", {{-3, 5, red}, {8, 50, green}, {10, 1, red}, {99, 1, red}}, "rr......gg", 2},
         {"a length that overflows ends with the text", {{4, INT64_MAX, red}}, "....rrrrrr", 1},
         {"empty and negative lengths colour nothing", {{4, 0, red}, {5, -3, green}}, "..........", 0},
     };
-    for (const Row& row : rows) {
-        const std::vector<ColorSpan> runs = ColorRuns(row.spans, 10);
-        EXPECT_EQ(Picture(runs), row.picture) << row.name;
-        EXPECT_EQ(runs.size(), row.runs) << row.name;
+    for (const auto& [name, spans, picture, count] : rows) {
+        const std::vector<ColorSpan> runs = ColorRuns(spans, 10);
+        EXPECT_EQ(Picture(runs), picture) << name;
+        EXPECT_EQ(runs.size(), count) << name;
     }
 }
 

@@ -41,27 +41,22 @@ TEST_F(ControlTest, CaptionsAreLiteral)
 
 TEST_F(ControlTest, CaptionsFitTheirControls)
 {
-    struct Row {
-        const char* name;
-        StringView caption;
-        int width, size, smallest, largest;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, StringView, int, int, int, int> rows[] = {
         {"a short caption has the size of the layout", U"Ok", 100, 0, 12, 12},
         {"a caption a little too wide gets smaller", U"Activer / Désactiver", 125, 0, 9, 11},
         {"none gets smaller than 9", U"Sélectionner un dossier pour les archives", 60, 0, 9, 9},
         {"a size of its own", U"☞", 38, 18, 18, 18},
     };
-    for (const Row& row : rows) {
-        DesktopButton button(window, {0, 0, row.width, 20}, row.caption, row.size);
+    for (const auto& [name, caption, width, ownSize, smallest, largest] : rows) {
+        DesktopButton button(window, {0, 0, width, 20}, caption, ownSize);
         button.SetName(U"button");
         const QPushButton& widget = Find<QPushButton>("button");
         const int size = QFontInfo(widget.font()).pixelSize();
-        EXPECT_GE(size, row.smallest) << row.name;
-        EXPECT_LE(size, row.largest) << row.name;
-        EXPECT_TRUE(size == 9 || widget.fontMetrics().horizontalAdvance(widget.text()) <= row.width) << row.name;
+        EXPECT_GE(size, smallest) << name;
+        EXPECT_LE(size, largest) << name;
+        EXPECT_TRUE(size == 9 || widget.fontMetrics().horizontalAdvance(widget.text()) <= width) << name;
         button.SetCaption(U"Ok");
-        EXPECT_EQ(QFontInfo(widget.font()).pixelSize(), row.size ? row.size : 12) << row.name << ", then a short one";
+        EXPECT_EQ(QFontInfo(widget.font()).pixelSize(), ownSize ? ownSize : 12) << name << ", then a short one";
     }
 }
 

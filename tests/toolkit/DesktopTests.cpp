@@ -119,11 +119,7 @@ std::string Wav(char format, char bits, const std::string& before = "")
 
 TEST(Sound, OpensPlainWavFilesOnly)
 {
-    const struct {
-        const char* name;
-        std::string bytes;
-        bool isSound;
-    } rows[] = {
+    const std::tuple<const char*, std::string, bool> rows[] = {
         {"16 bits", Wav(1, 16), true},
         {"another chunk of odd length goes before", Wav(1, 16, "LIST\3\0\0\0abc\0"s), true},
         {"8 bits", Wav(1, 8), false},
@@ -134,9 +130,8 @@ TEST(Sound, OpensPlainWavFilesOnly)
         {"an empty file", "", false},
     };
     const TemporaryFolder folder;
-    for (const auto& row : rows)
-        EXPECT_EQ(Sound::OpenAsSound(FolderItem(folder.File("sound.wav", row.bytes))) != nullptr, row.isSound)
-            << row.name;
+    for (const auto& [name, bytes, isSound] : rows)
+        EXPECT_EQ(Sound::OpenAsSound(FolderItem(folder.File("sound.wav", bytes))) != nullptr, isSound) << name;
     for (const auto& path : {folder.Path() / "missing.wav", folder.Path(), std::filesystem::path("/dev/zero")})
         EXPECT_EQ(Sound::OpenAsSound(FolderItem(path)), nullptr) << path;
 }

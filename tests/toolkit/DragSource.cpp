@@ -7,27 +7,15 @@
 
 namespace {
 
-class Source final : public QWidget {
-public:
-    explicit Source(QString file)
-        : file_(std::move(file))
-    {
-        setWindowTitle(QStringLiteral("Drag source"));
-        setGeometry(900, 500, 200, 200);
-    }
-
-protected:
+struct Source : QWidget {
     void mousePressEvent(QMouseEvent*) override
     {
         auto* const dragged = new QMimeData;
-        dragged->setUrls({QUrl::fromLocalFile(file_)});
+        dragged->setUrls({QUrl::fromLocalFile(QApplication::arguments().at(1))});
         auto* const drag = new QDrag(this);
         drag->setMimeData(dragged);
         drag->exec(Qt::CopyAction);
     }
-
-private:
-    QString file_;
 };
 
 } // namespace
@@ -35,7 +23,9 @@ private:
 int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
-    Source source(QString::fromLocal8Bit(argv[1]));
+    Source source;
+    source.setWindowTitle(QStringLiteral("Drag source"));
+    source.setGeometry(900, 500, 200, 200);
     source.show();
     return QApplication::exec();
 }

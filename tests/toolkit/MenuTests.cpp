@@ -1,4 +1,3 @@
-#include "tests/toolkit/TestMenus.h"
 #include "tests/toolkit/WidgetTest.h"
 #include "toolkit/DesktopControls.h"
 #include "toolkit/DesktopTextArea.h"
@@ -59,12 +58,13 @@ struct MenuTest : ::testing::Test {
 
 TEST_F(MenuTest, ShortcutsAreThoseOfTheText)
 {
-    struct Row {
-        const char *item, *keys;
-    };
-    for (const Row& row : {Row{"Open", "Ctrl+Shift+O"}, Row{"Archive", "Ctrl+Alt+O"}, Row{"Quit", "Ctrl+Q"},
-                           Row{"Preferences", "Ctrl+,"}, Row{"Clear", ""}})
-        EXPECT_EQ(Item(row.item).shortcut().toString(QKeySequence::PortableText).toStdString(), row.keys) << row.item;
+    const std::pair<const char*, const char*> rows[] = {{"Open", "Ctrl+Shift+O"},
+                                                        {"Archive", "Ctrl+Alt+O"},
+                                                        {"Quit", "Ctrl+Q"},
+                                                        {"Preferences", "Ctrl+,"},
+                                                        {"Clear", ""}};
+    for (const auto& [item, keys] : rows)
+        EXPECT_EQ(Item(item).shortcut().toString(QKeySequence::PortableText).toStdString(), keys) << item;
 }
 
 TEST_F(MenuTest, ItemsAreCheckedWhenTheyAreToAct)

@@ -1,7 +1,11 @@
-/// The menu bar of the test application.
+/// The test application and its menu bar.
 #pragma once
 
+#include "toolkit/DesktopApplication.h"
 #include "toolkit/DesktopMenu.h"
+
+/// The one that `main` made.
+DesktopApplication& TestApplication();
 
 struct TestMenus {
     static TestMenus& Current()

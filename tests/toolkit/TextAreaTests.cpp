@@ -31,11 +31,7 @@ struct TextAreaTest : ::testing::Test {
     }
 };
 
-struct Awkward {
-    const char* name;
-    std::u32string_view text;
-};
-const Awkward awkward[] = {
+const std::pair<const char*, StringView> awkward[] = {
     {"nothing", U""},
     {"a last line without its end", U"a\nb"},
     {"one line end", U"\n"},
@@ -52,16 +48,16 @@ const Awkward awkward[] = {
 
 TEST_F(TextAreaTest, GivesBackWhatItWasGiven)
 {
-    for (const Awkward& row : awkward) {
-        area.SetText(row.text);
-        EXPECT_EQ(area.Text(), row.text) << row.name;
+    for (const auto& [name, text] : awkward) {
+        area.SetText(text);
+        EXPECT_EQ(area.Text(), text) << name;
 
         Press(Qt::Key_X);
-        EXPECT_EQ(area.Text(), U"x" + String(row.text)) << row.name << ", after typing";
+        EXPECT_EQ(area.Text(), U"x" + String(text)) << name << ", after typing";
         Press(Qt::Key_Z, Qt::ControlModifier);
-        EXPECT_EQ(area.Text(), row.text) << row.name << ", after undoing";
+        EXPECT_EQ(area.Text(), text) << name << ", after undoing";
         Press(Qt::Key_Z, Qt::ControlModifier);
-        EXPECT_EQ(area.Text(), row.text) << row.name << ", with nothing left to undo";
+        EXPECT_EQ(area.Text(), text) << name << ", with nothing left to undo";
     }
 }
 
@@ -82,14 +78,14 @@ TEST_F(TextAreaTest, GivesBackEveryCharacter)
 
 TEST_F(TextAreaTest, ClipboardCarriesEveryCharacter)
 {
-    for (const Awkward& row : awkward) {
-        if (row.text.empty()) continue;
-        area.SetText(row.text);
+    for (const auto& [name, text] : awkward) {
+        if (text.empty()) continue;
+        area.SetText(text);
         editor->selectAll();
         Press(Qt::Key_C, Qt::ControlModifier);
         area.SetText(U"");
         Press(Qt::Key_V, Qt::ControlModifier);
-        EXPECT_EQ(area.Text(), row.text) << row.name;
+        EXPECT_EQ(area.Text(), text) << name;
     }
     auto* formatted = new QMimeData;
     formatted->setHtml(QStringLiteral("<b>bold</b>"));
@@ -115,27 +111,21 @@ TEST_F(TextAreaTest, KeysOfLineEndsAndTab)
 
 TEST_F(TextAreaTest, OffsetsCountCharacters)
 {
-    struct Row {
-        const char* name;
-        std::u32string_view text;
-        int steps;
-        Int64 start;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, std::u32string_view, int, Int64> rows[] = {
         {"a narrow text", U"ab\ncd", 3, 3},
         {"behind a character of two units", U"a😀b", 2, 2},
         {"behind several of them and a line end", U"😀\n😀😀x", 4, 4},
         {"behind a carried character", U"\u2028\r\u2028x", 3, 3},
     };
-    for (const Row& row : rows) {
-        area.SetText(row.text);
-        for (int i = 0; i < row.steps; ++i)
+    for (const auto& [name, text, steps, start] : rows) {
+        area.SetText(text);
+        for (int i = 0; i < steps; ++i)
             Press(Qt::Key_Right);
-        EXPECT_EQ(area.SelectionStart(), row.start) << row.name;
-        EXPECT_EQ(area.SelectionLength(), 0) << row.name;
+        EXPECT_EQ(area.SelectionStart(), start) << name;
+        EXPECT_EQ(area.SelectionLength(), 0) << name;
         Press(Qt::Key_Home, Qt::ControlModifier | Qt::ShiftModifier);
-        EXPECT_EQ(area.SelectionStart(), 0) << row.name;
-        EXPECT_EQ(area.SelectionLength(), row.start) << row.name;
+        EXPECT_EQ(area.SelectionStart(), 0) << name;
+        EXPECT_EQ(area.SelectionLength(), start) << name;
     }
 
     area.SetText(U"ab");
@@ -195,15 +185,13 @@ TEST_F(TextAreaTest, BearsALongLine)
 TEST_F(TextAreaTest, SelectsCharacters)
 {
     area.SetText(U"a😀\r\né😀b");
-    struct Row {
-        Int64 start, length;
-        std::u32string_view selected;
-    };
-    for (const Row& row : {Row{1, 1, U"😀"}, Row{2, 2, U"\r\n"}, Row{4, 99, U"é😀b"}, Row{99, 1, U""}, Row{0, 0, U""}}) {
-        area.Select(row.start, row.length);
-        EXPECT_EQ(area.SelectedText(), row.selected) << row.start;
-        EXPECT_EQ(area.SelectionStart(), std::min<Int64>(row.start, 7)) << row.start;
-        EXPECT_EQ(area.SelectionLength(), std::ssize(row.selected)) << row.start;
+    const std::tuple<Int64, Int64, StringView> rows[] = {
+        {1, 1, U"😀"}, {2, 2, U"\r\n"}, {4, 99, U"é😀b"}, {99, 1, U""}, {0, 0, U""}};
+    for (const auto& [start, length, selected] : rows) {
+        area.Select(start, length);
+        EXPECT_EQ(area.SelectedText(), selected) << start;
+        EXPECT_EQ(area.SelectionStart(), std::min<Int64>(start, 7)) << start;
+        EXPECT_EQ(area.SelectionLength(), std::ssize(selected)) << start;
     }
 }
 

@@ -1,15 +1,12 @@
 /// What the tests of windows share: the one application object, and a way from a control's name to its Qt widget.
 #pragma once
 
-#include "toolkit/DesktopApplication.h"
+#include "tests/toolkit/TestMenus.h"
 
 #include <QApplication>
 #include <QTest>
 #include <QWidget>
 #include <gtest/gtest.h>
-
-/// The application that `main` made, with the menu bar of the menu tests.
-DesktopApplication& TestApplication();
 
 /// The widget of the control that was named `name`; names are unique within a test.
 template <class Widget>

@@ -12,47 +12,37 @@ constexpr unsigned L = Lock::Left, T = Lock::Top, R = Lock::Right, B = Lock::Bot
 
 TEST(Placement, ControlsFollowTheirLocks)
 {
-    struct Row {
-        const char* name;
-        unsigned locks;
-        Placement expected;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, unsigned, QRect> rows[] = {
         {"left and top stay", L | T, {10, 20, 30, 40}},
         {"no lock stays", 0, {10, 20, 30, 40}},
         {"right and bottom move", R | B, {110, -30, 30, 40}},
         {"opposite edges stretch", L | R | T | B, {10, 20, 130, -10}},
         {"one edge each", T | R, {110, 20, 30, 40}},
     };
-    for (const Row& row : rows) {
+    for (const auto& [name, locks, expected] : rows) {
         DesktopWindow window({.title = U"W", .width = 400, .height = 300, .minimumWidth = 100, .minimumHeight = 100});
-        DesktopLabel control(window, {10, 20, 30, 40, row.locks}, U"x");
+        DesktopLabel control(window, {10, 20, 30, 40, locks}, U"x");
         control.SetName(U"control");
         window.SetWidth(500);
         window.SetHeight(250);
         const auto place = [&] { return QRect(control.Left(), control.Top(), control.Width(), control.Height()); };
-        const QRect expected(row.expected.left, row.expected.top, row.expected.width, row.expected.height);
-        EXPECT_EQ(place(), expected) << row.name;
-        EXPECT_GE(Find<QWidget>("control").height(), 0) << row.name;
+        EXPECT_EQ(place(), expected) << name;
+        EXPECT_GE(Find<QWidget>("control").height(), 0) << name;
         window.Show();
         QApplication::processEvents();
-        EXPECT_EQ(place(), expected) << row.name << ", shown";
+        EXPECT_EQ(place(), expected) << name << ", shown";
         window.SetWidth(400);
         window.SetHeight(300);
         QApplication::processEvents();
-        EXPECT_EQ(place(), QRect(10, 20, 30, 40)) << row.name << ", there and back";
+        EXPECT_EQ(place(), QRect(10, 20, 30, 40)) << name << ", there and back";
     }
 }
 
 TEST(Placement, WindowsKeepTheSizesOfTheirContent)
 {
-    DesktopWindow window({.title = U"W",
-                          .width = 760,
-                          .height = 500,
-                          .minimumWidth = 720,
-                          .minimumHeight = 400,
-                          .maximumWidth = 800,
-                          .hasMenuBar = true});
+    WindowStyle style{.title = U"W", .width = 760, .height = 500, .minimumWidth = 720, .minimumHeight = 400};
+    style.maximumWidth = 800, style.hasMenuBar = true;
+    DesktopWindow window(style);
     DesktopTextField field(window, {158, 13, 460, 22, L | T | R});
     field.SetName(U"field");
     const QWidget& content = *Find<QWidget>("field").parentWidget();
@@ -136,19 +126,6 @@ TEST(Window, AUserClosesItUnlessItObjects)
     Find<QWidget>("label").window()->close();
     EXPECT_FALSE(window.Visible());
     EXPECT_EQ(asked, (std::vector{false, false})) << "each close asks once";
-}
-
-TEST(Application, CountsItsWindows)
-{
-    const Int64 before = DesktopApplication::WindowCount();
-    DesktopWindow first({.title = U"1", .width = 40, .height = 30});
-    {
-        DesktopWindow second({.title = U"2", .width = 40, .height = 30});
-        EXPECT_EQ(DesktopApplication::WindowCount(), before + 2);
-        EXPECT_EQ(DesktopApplication::WindowAt(before), &first);
-        EXPECT_EQ(DesktopApplication::WindowAt(before + 1), &second);
-    }
-    EXPECT_EQ(DesktopApplication::WindowCount(), before + 1);
 }
 
 TEST(Application, QuitEndsTheLoopUnlessAWindowObjects)

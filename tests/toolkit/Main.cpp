@@ -1,7 +1,15 @@
-#include "toolkit/DesktopApplication.h"
+#include "tests/toolkit/TestMenus.h"
 
 #include <cstdlib>
 #include <gtest/gtest.h>
+
+namespace {
+
+DesktopApplication* application = nullptr;
+
+} // namespace
+
+DesktopApplication& TestApplication() { return *application; }
 
 int main(int argc, char** argv)
 {
@@ -11,6 +19,8 @@ int main(int argc, char** argv)
     for (const char* const name : {"http_proxy", "https_proxy", "all_proxy", "HTTP_PROXY", "HTTPS_PROXY", "ALL_PROXY"})
         unsetenv(name);
     setenv("PULSE_SERVER", "unix:/nowhere", 1);
-    const DesktopApplication application(argc, argv, U"Services tests", U"1.0");
+    DesktopApplication theApplication(argc, argv, U"Tests", U"1.0");
+    theApplication.SetMenuBar(TestMenus::Current().Menus());
+    application = &theApplication;
     return RUN_ALL_TESTS();
 }
