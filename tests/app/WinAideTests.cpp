@@ -15,8 +15,7 @@ protected:
         label.MouseUp(x, y);
     }
 
-    char name[8] = "tests";
-    char* argv[2] = {name, nullptr};
+    char program[8] = "tests", *argv[2] = {program, nullptr};
     int argc = 1;
     App app{argc, argv};
     Probe probe;

@@ -58,8 +58,7 @@ protected:
 
     TemporaryFolder folder;
     Probe probe;
-    char name[8] = "tests";
-    char* argv[2] = {name, nullptr};
+    char program[8] = "tests", *argv[2] = {program, nullptr};
     int argc = 1;
     std::optional<App> app;
     std::optional<WinMain> window;

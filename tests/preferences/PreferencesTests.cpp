@@ -88,12 +88,7 @@ TEST(Preferences, AFileIsWrittenAsItWasRead)
 
 TEST(Geometry, AWindowThatDoesNotFitTheScreenGetsTheDefaultPlace)
 {
-    struct Row {
-        const char* name;
-        WindowGeometry stored;
-        bool fits;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, WindowGeometry, bool> rows[] = {
         {"exactly as large as the remaining screen", {0, 48, 1280, 752}, true},
         {"one point too high", {0, 47, 1280, 752}, false},
         {"left of the screen", {-1, 48, 720, 400}, false},
@@ -103,10 +98,9 @@ TEST(Geometry, AWindowThatDoesNotFitTheScreenGetsTheDefaultPlace)
         {"over the bottom edge", {0, 401, 720, 400}, false},
         {"at the end of the numbers", {32767, 32767, 32767, 32767}, false},
     };
-    for (const Row& row : rows)
-        EXPECT_EQ(FitToScreen(row.stored, 720, 400, 1280, 800),
-                  row.fits ? row.stored : (WindowGeometry{30, 60, 1220, 740}))
-            << row.name;
+    for (const auto& [name, stored, fits] : rows)
+        EXPECT_EQ(FitToScreen(stored, 720, 400, 1280, 800), fits ? stored : (WindowGeometry{30, 60, 1220, 740}))
+            << name;
 }
 
 } // namespace

@@ -19,8 +19,7 @@ protected:
         EXPECT_FALSE(Fncts::DrapMenu);
     }
 
-    char name[8] = "tests";
-    char* argv[2] = {name, nullptr};
+    char program[8] = "tests", *argv[2] = {program, nullptr};
     int argc = 1;
     App app{argc, argv};
     Probe probe;
@@ -59,12 +58,10 @@ TEST_F(PreferencesWindow, TakesOverBothSettingsOrNone)
 TEST_F(PreferencesWindow, StandsOnTheMainWindowAndOnTheScreen)
 {
     probe.ScreenSize = {{1000, 800}};
-    const struct {
-        int winMain, left;
-    } rows[] = {{100, 250}, {-300, 0}, {600, 600}};
-    for (const auto& row : rows) {
-        Open(row.winMain);
-        EXPECT_EQ(window->Left(), row.left);
+    const std::pair<int, int> rows[] = {{100, 250}, {-300, 0}, {600, 600}};
+    for (const auto& [leftOfMain, left] : rows) {
+        Open(leftOfMain);
+        EXPECT_EQ(window->Left(), left);
         EXPECT_EQ(window->Top(), 80);
         window->PushButtAnnuler_Pressed();
     }

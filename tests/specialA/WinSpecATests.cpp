@@ -45,8 +45,7 @@ protected:
 
     TemporaryFolder folder;
     Probe probe;
-    char name[8] = "tests";
-    char* argv[2] = {name, nullptr};
+    char program[8] = "tests", *argv[2] = {program, nullptr};
     int argc = 1;
     App app{argc, argv};
     DesktopWindow winMain{{.title = U"Main", .width = 700, .height = 400}};
@@ -57,58 +56,27 @@ protected:
 
 TEST_F(SpecialA, WritesWhatTheAnswersAllow)
 {
+    const String failed = U"Il y a eu une erreur pendant l'écriture du fichier.[Ok]";
     using Answers = std::deque<Probe::Answer>;
-    const struct {
+    struct Row {
         const char* name;
         StringView dest1, dest2;
         Answers answers;
-        const char *one, *two, *original;
+        const char* files; // the first, the second and the original one
         std::vector<String> more;
         int sounds;
-    } rows[] = {
-        {"both are written", U"one", U"two", {}, "x 1", "x 2", "x A", {}, 2},
-        {"nothing after the second button", U"one", U"two", {2}, "", "", "x A", {}, 0},
-        {"without names nothing is written", U"", U"", {}, "", "", "x A", {}, 0},
-        {"one is refused, the other written", U"taken", U"two", {1, 2}, "", "x 2", "x A", {Exists(U"taken")}, 1},
-        {"the same name twice: the second takes the place of the first",
-         U"one",
-         U"one",
-         {},
-         "x 2",
-         "",
-         "x A",
-         {Exists(U"one")},
-         2},
-        {"the original itself, when the user wants it",
-         U"original.txt",
-         U"",
-         {},
-         "",
-         "",
-         "x 1",
-         {Exists(U"original.txt")},
-         1},
-        {"a full folder is kept when the user wants that",
-         U"full",
-         U"two",
-         {1, 2},
-         "",
-         "x 2",
-         "x A",
-         {Exists(U"full")},
-         1},
-        {"no name leads out of the folder",
-         U"../two",
-         U"..",
-         {},
-         "",
-         "",
-         "x A",
-         {U"Il y a eu une erreur pendant l'écriture du fichier.[Ok]",
-          U"Il y a eu une erreur pendant l'écriture du fichier.[Ok]"},
-         0},
     };
-    for (const auto& row : rows) {
+    const Row rows[] = {
+        {"both are written", U"one", U"two", {}, "x 1|x 2|x A", {}, 2},
+        {"nothing after the second button", U"one", U"two", {2}, "||x A", {}, 0},
+        {"without names nothing is written", U"", U"", {}, "||x A", {}, 0},
+        {"one is refused, the other written", U"taken", U"two", {1, 2}, "|x 2|x A", {Exists(U"taken")}, 1},
+        {"of the same name twice the second stays", U"one", U"one", {}, "x 2||x A", {Exists(U"one")}, 2},
+        {"the original when so wanted", U"original.txt", U"", {}, "||x 1", {Exists(U"original.txt")}, 1},
+        {"a full folder is kept when so wanted", U"full", U"two", {1, 2}, "|x 2|x A", {Exists(U"full")}, 1},
+        {"no name leads out of the folder", U"../two", U"..", {}, "||x A", {failed, failed}, 0},
+    };
+    for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
         std::filesystem::remove_all(folder.Path() / "in");
         const auto original = folder.File("in/original.txt", "x A");
@@ -121,17 +89,12 @@ TEST_F(SpecialA, WritesWhatTheAnswersAllow)
         probe.Answers = row.answers;
         probe.Sounds.clear();
         window->PushButtTrait_Pressed();
-        std::vector<String> asked = Asked();
-        ASSERT_FALSE(asked.empty());
-        EXPECT_EQ(asked.front(), found);
-        asked.erase(asked.begin());
-        EXPECT_EQ(asked, row.more);
-        EXPECT_EQ(folder.Content("in/one"), row.one);
-        EXPECT_EQ(folder.Content("in/two"), row.two);
-        EXPECT_EQ(folder.Content("in/original.txt"), row.original);
-        EXPECT_EQ(folder.Content("in/taken"), "old");
-        EXPECT_EQ(folder.Content("two"), "outside");
-        EXPECT_EQ(folder.Content("in/full/inner"), "kept");
+        std::vector<String> asked = row.more;
+        asked.insert(asked.begin(), found);
+        EXPECT_EQ(Asked(), asked);
+        const auto in = [this](const char* name) { return folder.Content(std::filesystem::path("in") / name); };
+        EXPECT_EQ(in("one") + "|" + in("two") + "|" + in("original.txt"), row.files);
+        EXPECT_EQ(in("taken") + in("full/inner") + folder.Content("two"), "oldkeptoutside");
         EXPECT_EQ(std::ssize(probe.Sounds), row.sounds);
         EXPECT_TRUE(Fncts::DrapMenu);
     }
@@ -217,11 +180,7 @@ TEST_F(SpecialA, TakesDroppedTextFilesOnly)
     const auto text = folder.File("text.TXT"), picture = folder.File("picture.png");
     std::filesystem::create_symlink(text, folder.Path() / "link.png");
     std::filesystem::create_symlink(folder.Folder("folder.txt"), folder.Path() / "link.txt");
-    const struct {
-        const char* name;
-        std::vector<FolderItem> items;
-        StringView org;
-    } rows[] = {
+    const std::tuple<const char*, std::vector<FolderItem>, StringView> rows[] = {
         {"a text file", {FolderItem(text)}, U"text.TXT"},
         {"an alias that leads to one", {FolderItem(folder.Path() / "link.png")}, U"text.TXT"},
         {"another file", {FolderItem(picture)}, U"…"},
@@ -231,17 +190,17 @@ TEST_F(SpecialA, TakesDroppedTextFilesOnly)
         {"a file that is gone", {FolderItem(folder.Path() / "gone.txt")}, U"…"},
         {"no file", {}, U"…"},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto& [name, items, org] : rows) {
+        SCOPED_TRACE(name);
         app.PathSpecA.clear();
         Open();
         window->GroupBoxSource_DragEnter();
         EXPECT_TRUE(window->CanvDrag.Visible());
         EXPECT_EQ(window->CanvDrag.Width(), 630);
-        window->GroupBoxSource_DropObject({row.items});
+        window->GroupBoxSource_DropObject({items});
         EXPECT_FALSE(window->CanvDrag.Visible());
-        EXPECT_EQ(window->TextFieldOrg.Text(), row.org);
-        EXPECT_EQ(Asked(), row.org == U"…" ? std::vector{refused} : std::vector<String>());
+        EXPECT_EQ(window->TextFieldOrg.Text(), org);
+        EXPECT_EQ(Asked(), org == U"…" ? std::vector{refused} : std::vector<String>());
     }
     Fncts::DrapMenu = false;
     window->GroupBoxSource_DropObject({{FolderItem(text)}});
