@@ -89,8 +89,7 @@ def main(command):
         assert program.text(program.find("text", "Spack Modèle"))
         choose(program, MODEL, other)
         assert program.text(program.find("text", "Spack Modèle")) == ""
-        assert program.close() == 0
-        assert program.stderr() == "", program.stderr()
+        assert (program.close(), program.stderr()) == (0, "")
 
 
 main(*sys.argv[1:])

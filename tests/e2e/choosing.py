@@ -1,6 +1,7 @@
-"""A user who chooses files and folders in the dialogs for that."""
+"""A user who chooses files, folders and preferences in the dialogs for that."""
 
 from desktop import has
+from gi.repository import Atspi
 
 
 def path_form(path):
@@ -28,3 +29,18 @@ def choose(program, name, path):
     program.keys("Return")
     program.wait_until_gone(dialog)
     program.wait_for(f"{path_form(path)}", lambda: program.text(field) == path_form(path))
+
+
+def set_preferences(program, volume, button="Ok", check=False):
+    """Sets the slider and, if so wanted, the check box of the preferences."""
+    program.keys("ctrl+comma")
+    program.front = "Préférences"
+    slider, window = program.find("slider"), program.window()
+    Atspi.Value.set_current_value(slider, volume)
+    program.wait_for("the volume", lambda: Atspi.Value.get_current_value(slider) == volume)
+    if check:
+        program.act(program.find("check box"))
+        program.wait_for("the check", lambda: has(program.find("check box"), "checked"))
+    program.press(button)
+    program.wait_until_gone(window)
+    program.front = "Tarnivel"

@@ -2,24 +2,11 @@
 
 import sys
 
-from choosing import choose, open_chooser
+from choosing import choose, open_chooser, set_preferences
 from desktop import Program, has, private_environment, xdotool
 from gi.repository import Atspi
 from sample import pack, sample
 from server import Server
-
-
-def set_preferences(program, volume, button):
-    program.keys("ctrl+comma")
-    program.front = "Préférences"
-    slider = program.find("slider")
-    Atspi.Value.set_current_value(slider, volume)
-    program.act(program.find("check box"))
-    program.wait_for("the check", lambda: has(program.find("check box"), "checked"))
-    window = program.window()
-    program.press(button)
-    program.wait_until_gone(window)
-    program.front = "Tarnivel"
 
 
 def use_special(program, files):
@@ -89,14 +76,13 @@ def main(command):
             program.wait_for("the saved text", lambda: files.source_file.read_bytes() == text.encode())
             assert next(files.archives.iterdir()).read_bytes() == old
 
-            set_preferences(program, 35, "Annuler")
+            set_preferences(program, 35, "Annuler", check=True)
             assert not program.all("check box", "Spécial A")
-            set_preferences(program, 35, "Ok")
+            set_preferences(program, 35, check=True)
             use_special(program, files)
             read_help(program)
             program.keys("ctrl+q")
-            assert program.wait_for_end() == 0
-            assert program.stderr() == "", program.stderr()
+            assert (program.wait_for_end(), program.stderr()) == (0, "")
         server.shutdown()
 
         kept = files.preferences.read_text("utf-8")

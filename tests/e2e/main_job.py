@@ -67,8 +67,7 @@ def main(command):
         result = program.text(area)
         assert sorted(result.split("\n")) == sorted([*files.source, ""]), result
         unknown = files.unknown_to_model()
-        known = [line for line in result.split("\n") if pack(line) and pack(line) not in unknown]
-        assert known == files.known_in_model_order(), known
+        assert files.is_in_model_order(result), result
         assert check_colors(program, area, unknown) == {BLACK, GREEN, RED, ORANGE}
 
         edited = result + ENABLED + "Custom Scenery/Ajouté à la main 😀/\n"
@@ -82,8 +81,7 @@ def main(command):
         assert program.text(after) == edited
         check_colors(program, after, unknown)
 
-        assert program.close() == 0
-        assert program.stderr() == "", program.stderr()
+        assert (program.close(), program.stderr()) == (0, "")
 
 
 main(*sys.argv[1:])

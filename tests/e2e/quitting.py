@@ -5,7 +5,7 @@ import subprocess
 import sys
 import time
 
-from desktop import Program, nodes, private_environment, wait_for, xdotool
+from desktop import Program, has, nodes, private_environment, wait_for, xdotool
 from sample import sample
 from server import Server
 
@@ -19,11 +19,6 @@ def quit_by_close_box(program):
     program.close()
 
 
-def quit_by_menu(program):
-    item = next(node for node in nodes(program.window()) if node.get_name() == "Quit")
-    program.act(item)
-
-
 def quit_by_button(program):
     program.front = "Spécial A"
     program.press("Quitter")
@@ -31,7 +26,7 @@ def quit_by_button(program):
 
 WAYS = {
     "the close box": quit_by_close_box,
-    "the menu": quit_by_menu,
+    "the menu": lambda program: program.act(next(n for n in nodes(program.window()) if n.get_name() == "Quit")),
     "Ctrl+Q in Spécial A": lambda program: program.keys("ctrl+q"),
     "Quitter": quit_by_button,
     "SIGTERM": lambda program: program.process.send_signal(signal.SIGTERM),
@@ -43,6 +38,7 @@ def use_special(program, name):
     """Leaves something in the window that only the right quit hands to the preferences."""
     program.press("Spécial A", "check box")
     program.front = "Spécial A"
+    program.wait_for("it in front", lambda: has(program.window(), "active"))
     program.set_text(program.find("text", "Dest 1 :"), name)
     program.front = "Tarnivel"
 
@@ -52,14 +48,13 @@ def check_ways(command, files):
         with Program([command], private_environment(files.home)) as program:
             use_special(program, f"dest{number}")
             quit_by(program)
-            assert program.wait_for_end() == 0, way
-            assert program.stderr() == "", (way, program.stderr())
+            assert (program.wait_for_end(), program.stderr()) == (0, ""), way
         kept = files.preferences.read_text("utf-8")
         assert f"TabSpecAdest1 :@: dest{number}\t" in kept, (way, kept)
 
 
 def check_busy(command, files):
-    """Close box, Ctrl+Q and SIGTERM leave a run, and then a dialog, as they are."""
+    """Close box, Ctrl+Q and SIGTERM leave a run, and then a dialog, as they are. A stopped run leaves nothing behind."""
     server = Server(files.model_file.read_bytes())
     with Program([command], private_environment(files.home)) as program:
         program.act(program.find("radio button", "Url modèle"))
@@ -75,11 +70,13 @@ def check_busy(command, files):
         try_to_quit()
         program.press("Arrêter")
         program.find("push button", "Générer")
+        assert program.text(program.find("text", "Spack Après")) == ""
         program.set_text(program.find("text", "Url modèle"), server.url("/model.ini"))
         program.press("Générer")
         program.dialog()
         try_to_quit()
         program.answer_until("Générer")
+        assert files.is_in_model_order(program.text(program.find("text", "Spack Après")))
         assert program.close() == 0
     server.ended.set()
     server.shutdown()

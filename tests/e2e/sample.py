@@ -31,9 +31,11 @@ class Sample:
     def unknown_to_source(self):
         return packs(self.model) - packs(self.source)
 
-    def known_in_model_order(self):
+    def is_in_model_order(self, text):
+        """Whether the packs that the model knows have its order and their state of before."""
         state = {pack(line): line for line in self.source if pack(line)}
-        return [state[pack(line)] for line in self.model if pack(line) in state]
+        known = [line for line in text.split("\n") if pack(line) and pack(line) not in self.unknown_to_model()]
+        return known == [state[pack(line)] for line in self.model if pack(line) in state]
 
     def folders_not_listed(self):
         return self._folders() - self._listed()

@@ -120,8 +120,7 @@ def main(command):
             assert tuple((files.home / name).read_text("utf-8") for name in ("first.txt", "second.txt")) == expected
             assert original.read_text("utf-8") == "ALPHA, beta and alpha é\n"
             program.press("Quitter")
-            assert program.wait_for_end() == 0
-            assert program.stderr() == "", program.stderr()
+            assert (program.wait_for_end(), program.stderr()) == (0, "")
         assert "TabSpecAdest2 :@: second.txt\ttwo\tB\tB\ttwo\n" in files.preferences.read_text("utf-8")
 
 

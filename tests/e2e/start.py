@@ -1,13 +1,13 @@
-"""Starts on bad ground: preferences of random bytes, no home folder, a home where nothing can be made."""
+"""Starts on bad ground: preferences of random bytes, no home folder, a home where nothing can be made, a small screen."""
 
 import pathlib
 import random
+import subprocess
 import sys
 import tempfile
 
 from desktop import Program, private_environment
-
-FAILURE = "Error ! Please contact the authors.\n \nImpossible to create the Preferences folder."
+from sample import TOOLS
 
 
 def random_preferences(command):
@@ -21,17 +21,26 @@ def random_preferences(command):
             assert program.close() == 0
 
 
-def refused(command, environment):
+def refused(command, environment, failure="Impossible to create the Preferences folder."):
     with Program([command], environment) as program:
         texts = program.answer("Quitter")
-        assert FAILURE in texts, texts
+        assert f"Error ! Please contact the authors.\n \n{failure}" in texts, texts
         assert program.wait_for_end() == 0
 
 
-def main(command):
+def small_screen(command):
+    with tempfile.TemporaryDirectory() as home:
+        refused(command, private_environment(home), "The screen size is too small.")
+        assert not list(pathlib.Path(home).rglob("Tarnivel*")), "a start that failed wrote preferences"
+
+
+def main(command, on_small_screen=False):
+    if on_small_screen:
+        return small_screen(command)
     random_preferences(command)
     refused(command, private_environment())
     refused(command, private_environment("/dev/null"))
+    subprocess.run([TOOLS / "screen.sh", "700x400", sys.executable, __file__, command, "small"], check=True)
 
 
 main(*sys.argv[1:])

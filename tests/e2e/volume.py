@@ -8,8 +8,8 @@ import subprocess
 import sys
 import time
 
+from choosing import set_preferences
 from desktop import Program, private_environment, wait_for
-from gi.repository import Atspi
 from sample import sample
 
 SECONDS, RATE = 1.5, 44100  # of a recording; samples a second
@@ -44,25 +44,13 @@ def loudness(server, play):
     return math.sqrt(sum(sample * sample for sample in samples) / len(samples))
 
 
-def set_volume(program, percent):
-    program.keys("ctrl+comma")
-    program.front = "Préférences"
-    window = program.window()
-    slider = program.find("slider")
-    Atspi.Value.set_current_value(slider, percent)
-    program.wait_for("the volume", lambda: Atspi.Value.get_current_value(slider) == percent)
-    program.press("Ok")
-    program.wait_until_gone(window)
-    program.front = "Tarnivel"
-
-
 def main(command):
     with sample() as files, sound_server(files.home) as server:
         with Program([command], private_environment(files.home, **server)) as program:
             program.front = "Tarnivel"
             heard = {}
             for percent in (100, 20, 0):
-                set_volume(program, percent)
+                set_preferences(program, percent)
                 time.sleep(SECONDS)  # until the sound of the slider has ended
                 program.press("Spécial A", "check box")
                 program.front = "Spécial A"
