@@ -59,12 +59,7 @@ TEST(MessageDialog, AnswersByButtonOrKey)
         dialog.findChild<QTextEdit*>()->setFocus();
         QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
     };
-    const struct {
-        const char* name;
-        std::function<void(QDialog&)> user;
-        String cancel, alternate;
-        Button answer;
-    } rows[] = {
+    const std::tuple<const char*, std::function<void(QDialog&)>, String, String, Button> rows[] = {
         {"Enter is the action button", Presses(Qt::Key_Enter), no, more, Button::Action},
         {"Return is the action button, also from the text", pressesReturnInText, no, more, Button::Action},
         {"Esc is the cancel button", Presses(Qt::Key_Escape), no, more, Button::Cancel},
@@ -74,10 +69,10 @@ TEST(MessageDialog, AnswersByButtonOrKey)
         {"a click on the cancel button, whose caption stands as it is", Clicks("No && never"), no, {}, Button::Cancel},
         {"a click on the alternate button", Clicks("More"), {}, more, Button::Alternate},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        WhenUp(row.user);
-        EXPECT_EQ((MessageDialog{0, U"Really?", {}, yes, row.cancel, row.alternate}.ShowModal()), row.answer);
+    for (const auto& [name, user, cancel, alternate, answer] : rows) {
+        SCOPED_TRACE(name);
+        WhenUp(user);
+        EXPECT_EQ((MessageDialog{0, U"Really?", {}, yes, cancel, alternate}.ShowModal()), answer);
     }
 }
 

@@ -58,13 +58,10 @@ struct MenuTest : ::testing::Test {
 
 TEST_F(MenuTest, ShortcutsAreThoseOfTheText)
 {
-    const std::pair<const char*, const char*> rows[] = {{"Open", "Ctrl+Shift+O"},
-                                                        {"Archive", "Ctrl+Alt+O"},
-                                                        {"Quit", "Ctrl+Q"},
-                                                        {"Preferences", "Ctrl+,"},
-                                                        {"Clear", ""}};
-    for (const auto& [item, keys] : rows)
-        EXPECT_EQ(Item(item).shortcut().toString(QKeySequence::PortableText).toStdString(), keys) << item;
+    std::string keys;
+    for (const char* item : {"Open", "Archive", "Quit", "Preferences", "Clear"})
+        keys += Item(item).shortcut().toString(QKeySequence::PortableText).toStdString() + " ";
+    EXPECT_EQ(keys, "Ctrl+Shift+O Ctrl+Alt+O Ctrl+Q Ctrl+,  ");
 }
 
 TEST_F(MenuTest, ItemsAreCheckedWhenTheyAreToAct)
