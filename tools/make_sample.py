@@ -16,34 +16,13 @@ GLOBAL_AIRPORTS = "*GLOBAL_AIRPORTS*"
 
 # In the order of the model: what stands higher hides what stands lower.
 WANTED = [
-    "LFMN_Nice_Cote_d_Azur",
-    "LFLL_Aéroport Saint-Exupéry",
-    "LFML_Marseille_Provence",
-    "LFKJ_Ajaccio_Bonaparte",
-    "LFRB_Brest_Bretagne",
-    "LSGG_Genève_Cointrin",
-    "EBLG_Liège",
-    GLOBAL_AIRPORTS,
-    "Monuments de Paris",
-    "Châteaux de la Loire",
-    "Phares de Bretagne",
-    "Refuges des Pyrénées",
-    "Forêts des Vosges",
-    "Vignobles d'Alsace",
-    "Côte d'Émeraude",
-    "Lib_Arbres_Feuillus",
-    "Lib_Hangars_Bois",
-    "Lib_Panneaux_Routiers",
-    "Lib_Véhicules",
-    "yy_Overlay_Alpes",
-    "yy_Overlay_Bretagne",
-    "yy_Overlay_Corse",
-    "zz_Ortho_Annecy",
-    "zz_Ortho_Bonifacio",
-    "zzz_Mesh_Alpes",
-    "zzz_Mesh_Bretagne",
-    "zzz_Mesh_Corse",
-]
+    "LFMN_Nice_Cote_d_Azur", "LFLL_Aéroport Saint-Exupéry", "LFML_Marseille_Provence", "LFKJ_Ajaccio_Bonaparte",
+    "LFRB_Brest_Bretagne", "LSGG_Genève_Cointrin", "EBLG_Liège", GLOBAL_AIRPORTS, "Monuments de Paris",
+    "Châteaux de la Loire", "Phares de Bretagne", "Refuges des Pyrénées", "Forêts des Vosges", "Vignobles d'Alsace",
+    "Côte d'Émeraude", "Lib_Arbres_Feuillus", "Lib_Hangars_Bois", "Lib_Panneaux_Routiers", "Lib_Véhicules",
+    "yy_Overlay_Alpes", "yy_Overlay_Bretagne", "yy_Overlay_Corse", "zz_Ortho_Annecy", "zz_Ortho_Bonifacio",
+    "zzz_Mesh_Alpes", "zzz_Mesh_Bretagne", "zzz_Mesh_Corse",
+]  # fmt: skip
 NOT_INSTALLED = "EBLG_Liège"
 WITHOUT_FOLDER = "Vignobles d'Alsace"
 NOT_IN_MODEL = "LFRK_Caen_Carpiquet"
