@@ -127,7 +127,7 @@ TEST_F(SpecialA, StaysAliveInALongTreatment)
     for (int word = 0; word < 60'000; ++word)
         text += "w" + std::to_string(word % 5000) + ' ';
     for (int row = 1; row < 500; ++row)
-        app.TabSpecAorg.push_back(U"w" + ToText(5 * row) + U" ");
+        app.TabSpecAorg.push_back(U"w" + ToText(Int64{5} * row) + U" ");
     Open(folder.File("long.txt", text));
     int ticks = 0, ticksWithBar = 0;
     Timer watch(20);
