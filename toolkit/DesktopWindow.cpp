@@ -34,6 +34,9 @@ public:
     bool keyboardIsBlocked = false;
     QPointer<QWidget> focusBefore;
 
+    /// Activates the dialog that keeps the user from this window: here the keyboard would move nothing.
+    void HandKeyboardOn() const;
+
     /// The window manager keeps this window above that one.
     void StandAbove(const DesktopWindow* other)
     {
@@ -146,10 +149,19 @@ void DesktopWindow::Shell::MoveContent(int left, int top)
     setGeometry(QRect(corner, size()));
 }
 
+void DesktopWindow::Shell::HandKeyboardOn() const
+{
+    QWidget* const dialog = QApplication::activeModalWidget();
+    if (dialog && Blocks(*dialog, *this)) dialog->activateWindow();
+}
+
 bool DesktopWindow::Shell::event(QEvent* event)
 {
     const bool handled = QWidget::event(event);
-    if (event->type() == QEvent::WindowActivate && owner_.Activated) owner_.Activated();
+    if (event->type() != QEvent::WindowActivate) return handled;
+    if (owner_.Activated) owner_.Activated();
+    // The platform activates a window for a press on it, even for one that came just before the dialog was seen.
+    HandKeyboardOn();
     return handled;
 }
 
@@ -224,8 +236,7 @@ void DesktopWindow::Show()
     shell_->raise();
     shell_->activateWindow();
     // Not every desktop hands the keyboard on to the dialog that blocks the window.
-    QWidget* const dialog = QApplication::activeModalWidget();
-    if (dialog && dialog->parentWidget() == shell_.get()) dialog->activateWindow();
+    shell_->HandKeyboardOn();
 }
 
 void DesktopWindow::Close()
