@@ -5,6 +5,7 @@
 #include <QDropEvent>
 #include <QGroupBox>
 #include <QMimeData>
+#include <QTimer>
 #include <QUrl>
 #include <algorithm>
 
@@ -18,6 +19,10 @@ public:
     {
         frame.parentWidget()->setAcceptDrops(true);
         frame.parentWidget()->installEventFilter(this);
+        afterwards_.setSingleShot(true);
+        connect(&afterwards_, &QTimer::timeout, this, [this] {
+            if (owner_.DropObject && owner_.TakesInput()) owner_.DropObject(std::exchange(dropped_, {}));
+        });
     }
 
 protected:
@@ -76,17 +81,15 @@ private:
         event.setDropAction(Qt::CopyAction);
         event.accept();
         // The other program waits for the end of this event, and the handler may ask the user.
-        QMetaObject::invokeMethod(
-            this,
-            [this, item = ItemOf(*event.mimeData())] {
-                if (owner_.DropObject && owner_.TakesInput()) owner_.DropObject(item);
-            },
-            Qt::QueuedConnection);
+        dropped_ = ItemOf(*event.mimeData());
+        afterwards_.start(0);
     }
 
     DesktopGroupBox& owner_;
     QWidget& frame_;
     bool inside_ = false, refused_ = false;
+    DragItem dropped_;
+    QTimer afterwards_;
 };
 
 DesktopGroupBox::DesktopGroupBox(DesktopWindow& window, const Placement& placement, StringView caption)

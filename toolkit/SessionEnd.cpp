@@ -32,7 +32,9 @@ void WakeEventLoop(int /*signal*/)
 void QuitOrGoOn(QSessionManager& manager, const std::function<void()>& quit)
 {
     QEventLoop wait;
-    QTimer::singleShot(QuitTime, &wait, [&wait] { wait.exit(1); });
+    QTimer limit;
+    QObject::connect(&limit, &QTimer::timeout, &wait, [&wait] { wait.exit(1); });
+    limit.start(QuitTime);
     quit();
     // The end of the program ends this loop too, with 0.
     if (wait.exec() != 0 && manager.allowsInteraction()) manager.cancel();
