@@ -14,6 +14,10 @@ String ElementOf(const std::vector<String>& list, std::size_t index)
     return index < list.size() ? list[index] : String();
 }
 
+/// What a screen reader sets, or the name of a file, may hold what parts the elements of a kept list, and the lines of
+/// the file that keeps it.
+String OneElement(StringView text) { return ReplaceAll(ReplaceLineEndings(text, U" "), tab, U" "); }
+
 } // namespace
 
 void WinSpecA::ShowTable()
@@ -31,14 +35,13 @@ void WinSpecA::ShowTable()
 Int16 WinSpecA::FaireTab()
 {
     App& app = App::Current();
-    // The name of a file may hold what parts the elements of a kept list, and the lines of the file that keeps it.
-    app.TabSpecAorg = {ReplaceAll(ReplaceLineEndings(TextFieldOrg.Text(), U" "), tab, U" ")};
-    app.TabSpecAdest1 = {TextFieldDest1.Text()};
-    app.TabSpecAdest2 = {TextFieldDest2.Text()};
+    app.TabSpecAorg = {OneElement(TextFieldOrg.Text())};
+    app.TabSpecAdest1 = {OneElement(TextFieldDest1.Text())};
+    app.TabSpecAdest2 = {OneElement(TextFieldDest2.Text())};
     for (int row = 0; row <= ListboxRR.LastRowIndex(); ++row) {
-        app.TabSpecAorg.push_back(ListboxRR.CellTextAt(row, 0));
-        app.TabSpecAdest1.push_back(ListboxRR.CellTextAt(row, 1));
-        app.TabSpecAdest2.push_back(ListboxRR.CellTextAt(row, 2));
+        app.TabSpecAorg.push_back(OneElement(ListboxRR.CellTextAt(row, 0)));
+        app.TabSpecAdest1.push_back(OneElement(ListboxRR.CellTextAt(row, 1)));
+        app.TabSpecAdest2.push_back(OneElement(ListboxRR.CellTextAt(row, 2)));
     }
     return static_cast<Int16>(ListboxRR.LastRowIndex() + 1);
 }

@@ -266,7 +266,8 @@ TEST_F(SpecialA, HandsAllBackWhenItCloses)
     app.WspecAheight = 450;
     Open(original);
     EXPECT_EQ(window->Height(), 450);
-    window->ListboxRR.AddRow({U"s", U"r1", U"r2"});
+    window->ListboxRR.AddRow({U"s", U"r1", U"r\t\n2"});
+    window->TextFieldDest2.SetText(U"two\twords");
     window->SetHeight(500);
     Fncts::DrapMenu = false;
     window->Close();
@@ -279,7 +280,7 @@ TEST_F(SpecialA, HandsAllBackWhenItCloses)
     EXPECT_EQ(app.WspecAheight, 500);
     EXPECT_EQ(app.PathSpecA, Fncts::AbsPath_f(FolderItem(original), true));
     EXPECT_EQ(app.TabSpecAorg, (std::vector<String>{U"original.txt", U"a", U"s"}));
-    EXPECT_EQ(app.TabSpecAdest2, (std::vector<String>{U"two", U"2", U"r2"}));
+    EXPECT_EQ(app.TabSpecAdest2, (std::vector<String>{U"two words", U"2", U"r  2"})) << "no tab, no line end";
     app.WspecAheight = 900;
     Open();
     EXPECT_EQ(window->Height(), 400) << "no room on the screen";
