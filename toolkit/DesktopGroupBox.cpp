@@ -19,6 +19,7 @@ public:
     {
         frame.parentWidget()->setAcceptDrops(true);
         frame.parentWidget()->installEventFilter(this);
+        frame.window()->installEventFilter(this);
         afterwards_.setSingleShot(true);
         connect(&afterwards_, &QTimer::timeout, this, [this] {
             if (owner_.DropObject && owner_.TakesInput()) owner_.DropObject(std::exchange(dropped_, {}));
@@ -36,6 +37,11 @@ protected:
         case QEvent::DragLeave:
             Leave();
             return true;
+        // A window that a dialog blocks isn't told where the drag goes, nor is any window when its source crashes.
+        case QEvent::WindowBlocked:
+        case QEvent::Enter:
+            Leave();
+            return false;
         case QEvent::Drop:
             Drop(*static_cast<QDropEvent*>(event));
             return true;
