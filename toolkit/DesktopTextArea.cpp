@@ -32,6 +32,11 @@ public:
 
 protected:
     QMimeData* createMimeDataFromSelection() const override;
+    /// A file that misses the field it is meant for leaves no address in the middle of a line.
+    bool canInsertFromMimeData(const QMimeData* source) const override
+    {
+        return !source->hasUrls() && QPlainTextEdit::canInsertFromMimeData(source);
+    }
     void insertFromMimeData(const QMimeData* source) override;
 
 private:

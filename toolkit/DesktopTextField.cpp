@@ -69,6 +69,8 @@ protected:
     {
         if (DroppedItem(*event->mimeData()))
             event->acceptProposedAction();
+        else if (owner_.ItemGiven && event->mimeData()->hasUrls())
+            event->ignore(); // Several items, or none that is there: their addresses are no path.
         else
             QLineEdit::dragEnterEvent(event);
     }

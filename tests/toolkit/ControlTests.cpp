@@ -211,6 +211,9 @@ TEST(TextField, TakesAnItemThatIsPastedOrDroppedAtOnce)
     QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&line, &drop);
     EXPECT_EQ(given, std::vector<String>{U"/usr"}) << "dropped";
+    data.setUrls({QUrl::fromLocalFile("/usr"), QUrl::fromLocalFile("/etc")});
+    QApplication::sendEvent(&line, &enter);
+    EXPECT_FALSE(enter.isAccepted()) << "two items";
 }
 
 } // namespace
