@@ -97,7 +97,7 @@ def treatment(build):
 
 
 def start(build):
-    program = build / "bench/start/empty_window"
+    program = build / "toolkit/bench/empty_window"
     text = output(sys.executable, BENCH / "start/start.py", build / "tarnivel", program)
     rows = rows_of(text)
     pictures = [

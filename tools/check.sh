@@ -25,7 +25,7 @@ mapfile -t scripts < <(tracked run test .ci/run '*.sh')
 format() { clang-format --dry-run --Werror "${code[@]}"; }
 
 qt_outside_toolkit() {
-    tracked '*.cpp' '*.h' | grep -v -e '^toolkit/' -e '^tests/toolkit' -e '^bench/start/' |
+    tracked '*.cpp' '*.h' | grep -v -e '^toolkit/' -e '^tests/toolkit' |
         xargs -r grep -nE '^ *# *include *[<"]Q[A-Za-z]+(/|>|")' || true
 }
 
