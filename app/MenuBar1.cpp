@@ -1,6 +1,6 @@
 #include "app/MenuBar1.h"
 
-#include "app/localisation/Localisation.h"
+#include "localisation/Localisation.h"
 
 MenuBar1::MenuBar1()
     : FichSelFichModel(U"FichSelFichModel", Localisation::Menu_FichSelFichMod(), U"Cmd+Shift+O")

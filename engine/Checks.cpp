@@ -1,9 +1,8 @@
 #include "engine/Checks.h"
 
-#include "app/localisation/Localisation.h"
-#include "engine/Names.h"
 #include "engine/Sorting.h"
 #include "engine/TextNumbers.h"
+#include "localisation/Localisation.h"
 
 #include <algorithm>
 #include <deque>
@@ -112,7 +111,7 @@ Pairing::Pairing(std::span<const String> folders, std::span<const Listing> listi
     std::deque<String> changed;
     std::vector<StringView> names = NamesOf(listings);
     for (StringView& name : names) {
-        if (String form = Fncts::NrmStgEnc(name); form != name) name = changed.emplace_back(std::move(form));
+        if (String form = CanonicalForm(name); form != name) name = changed.emplace_back(std::move(form));
     }
     ofListing_ = names_.Find(names);
     folderCounts_ = CountEach(ofFolder_, names_.Count());

@@ -1,9 +1,9 @@
 #include "engine/CreerSpack.h"
 
-#include "app/localisation/Localisation.h"
 #include "engine/Checks.h"
 #include "engine/Ledger.h"
 #include "engine/SceneryText.h"
+#include "localisation/Localisation.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "app/FileTypes.h"
-#include "app/localisation/Localisation.h"
 #include "engine/SceneryText.h"
+#include "localisation/Localisation.h"
 #include "mainwindow/WinMain.h"
 #include "support/DialogHelpers.h"
 #include "support/FileHelpers.h"

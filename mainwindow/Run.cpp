@@ -1,7 +1,7 @@
 #include "app/App.h"
-#include "app/localisation/Localisation.h"
 #include "engine/CreerSpack.h"
 #include "engine/SceneryText.h"
+#include "localisation/Localisation.h"
 #include "mainwindow/ReportSeries.h"
 #include "mainwindow/WinMain.h"
 #include "support/DialogHelpers.h"

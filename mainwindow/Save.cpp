@@ -1,6 +1,6 @@
 #include "app/App.h"
-#include "app/localisation/Localisation.h"
 #include "engine/SceneryText.h"
+#include "localisation/Localisation.h"
 #include "mainwindow/ArchiveName.h"
 #include "mainwindow/WinMain.h"
 #include "support/DialogHelpers.h"

@@ -3,7 +3,7 @@
 #include "app/Addresses.h"
 #include "app/App.h"
 #include "app/Build.h"
-#include "app/localisation/Localisation.h"
+#include "localisation/Localisation.h"
 #include "support/DialogHelpers.h"
 #include "support/FileHelpers.h"
 #include "support/Fncts.h"

@@ -1,7 +1,7 @@
 #include "preferences/WinPrefs.h"
 
 #include "app/App.h"
-#include "app/localisation/Localisation.h"
+#include "localisation/Localisation.h"
 #include "support/Fncts.h"
 #include "support/Sounds.h"
 #include "toolkit/Desktop.h"

@@ -1,6 +1,6 @@
 #include "app/App.h"
 #include "app/FileTypes.h"
-#include "app/localisation/Localisation.h"
+#include "localisation/Localisation.h"
 #include "specialA/WinSpecA.h"
 #include "support/DialogHelpers.h"
 #include "support/FileHelpers.h"

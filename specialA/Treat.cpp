@@ -1,5 +1,5 @@
 #include "app/App.h"
-#include "app/localisation/Localisation.h"
+#include "localisation/Localisation.h"
 #include "specialA/WinSpecA.h"
 #include "support/DialogHelpers.h"
 #include "support/FileHelpers.h"

@@ -1,7 +1,7 @@
 #include "specialA/WinSpecA.h"
 
 #include "app/App.h"
-#include "app/localisation/Localisation.h"
+#include "localisation/Localisation.h"
 #include "support/Fncts.h"
 #include "support/PathForm.h"
 #include "support/Sounds.h"

@@ -1,7 +1,7 @@
 #include "support/PathForm.h"
 
-#include "engine/Names.h"
 #include "toolkit/DesktopApplication.h"
+#include "toolkit/core/FolderItem.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 #include "engine/Checks.h"
-#include "engine/Names.h"
 #include "engine/SceneryText.h"
 #include "engine/Sorting.h"
 #include "tests/TemporaryFolder.h"
+#include "toolkit/core/FolderItem.h"
 
 #include <gtest/gtest.h>
 

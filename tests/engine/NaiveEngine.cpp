@@ -1,7 +1,7 @@
-#include "app/localisation/Localisation.h"
-#include "engine/Names.h"
 #include "engine/SceneryText.h"
+#include "localisation/Localisation.h"
 #include "tests/engine/Outcome.h"
+#include "toolkit/core/FolderItem.h"
 
 #include <algorithm>
 
@@ -67,9 +67,7 @@ String CheckFolders(const Lines& sorted, const Lines& folders)
     Lines names = Reduce(sorted);
     String list;
     for (const String& folder : folders) {
-        const auto isOfFolder = [&](StringView name) {
-            return SameText(Fncts::NrmStgEnc(name), Fncts::NrmStgEnc(folder));
-        };
+        const auto isOfFolder = [&](StringView name) { return SameText(CanonicalForm(name), CanonicalForm(folder)); };
         const auto found = std::ranges::find_if(names, isOfFolder);
         if (found == names.end())
             list += U"\n - " + folder;

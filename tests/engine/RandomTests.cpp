@@ -1,6 +1,6 @@
-#include "engine/Names.h"
 #include "tests/TemporaryFolder.h"
 #include "tests/engine/RunLaws.h"
+#include "toolkit/core/FolderItem.h"
 
 #include <algorithm>
 #include <map>

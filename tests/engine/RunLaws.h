@@ -1,8 +1,8 @@
 /// What holds for every run over two accepted texts.
 #pragma once
 
-#include "app/localisation/Localisation.h"
 #include "engine/SceneryText.h"
+#include "localisation/Localisation.h"
 #include "tests/engine/Outcome.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
-#include "engine/Names.h"
 #include "tests/fuzz/Input.h"
 #include "tests/support/PathLaws.h"
+#include "toolkit/core/FolderItem.h"
 
 namespace {
 
@@ -11,7 +11,7 @@ bool CanBeAName(const Bytes& name)
            name.find_first_of(std::string_view("/\0", 2)) == Bytes::npos && Encodings::UTF8.IsValidData(name);
 }
 
-String Canonical(const Bytes& name) { return Fncts::NrmStgEnc(Encodings::UTF8.Decode(name)); }
+String Canonical(const Bytes& name) { return CanonicalForm(Encodings::UTF8.Decode(name)); }
 
 } // namespace
 

@@ -1,7 +1,7 @@
-#include "engine/Names.h"
 #include "tests/TemporaryFolder.h"
 #include "tests/engine/RunLaws.h"
 #include "tests/fuzz/Input.h"
+#include "toolkit/core/FolderItem.h"
 
 namespace {
 

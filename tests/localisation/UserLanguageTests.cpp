@@ -1,4 +1,4 @@
-#include "app/localisation/Localisation.h"
+#include "localisation/Localisation.h"
 
 #include <cstdlib>
 #include <gtest/gtest.h>

@@ -155,3 +155,10 @@ void FolderItem::Remove() const
     std::error_code error;
     if (!fs::remove(path_, error)) throw SystemError(error ? error.value() : ENOENT);
 }
+
+String Fncts::Naff(StringView name, bool toPath, bool normalise)
+{
+    String swapped(name);
+    std::ranges::replace(swapped, toPath ? U':' : U'/', toPath ? U'/' : U':');
+    return toPath && normalise ? CanonicalForm(swapped) : swapped;
+}

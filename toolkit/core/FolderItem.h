@@ -93,3 +93,11 @@ FolderItem ExecutableFile();
 
 /// The folder of the program's sounds and translations: beside the program, in "share" or in the bundle.
 std::optional<FolderItem> ResourceFolder();
+
+namespace Fncts {
+/// Swaps ":" and "/" in a file name. A name on disk may hold ":", which the path form needs between names.
+///
+/// With `toPath` the name comes from the disk and each ":" becomes "/"; `normalise` also brings it to the canonical
+/// form. Otherwise the name goes to the disk, each "/" becomes ":", and `normalise` has no effect.
+String Naff(StringView name, bool toPath, bool normalise);
+} // namespace Fncts
