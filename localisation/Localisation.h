@@ -1,86 +1,145 @@
-/// All texts that the program shows to a user.
-///
-/// Each is a function of its own, so that a misspelt name doesn't compile. It looks the text up anew at each call: in
-/// `language`, or in the user's language when that is empty, and in French where the program has no translation.
+/// All texts that the program shows to a user, in French; those of other languages are the program's resources.
 #pragma once
 
 #include "toolkit/core/Text.h"
 
 namespace Localisation {
-String Infos_Texte(StringView language = {});
-String RdButtSourceA(StringView language = {});
-String Btn_OpenUrl(StringView language = {});
-String StTextScenPack(StringView language = {});
-String ChBoxArchive(StringView language = {});
-String Menu_FichSelFichMod(StringView language = {});
-String Menu_FichSelDossArchiv(StringView language = {});
-String Menu_FichSelFichScenPack(StringView language = {});
-String RdButtSourceB(StringView language = {});
-String Btn_SelectDossier(StringView language = {});
-String Btn_SelectFichier(StringView language = {});
-String Btn_SauvFichier(StringView language = {});
-String Btn_SauvFichier_HT(StringView language = {});
-String Btn_Annuler(StringView language = {});
-String Btn_Ok(StringView language = {});
-String Btn_Fermer(StringView language = {});
-String Menu_Edit(StringView language = {});
-String Menu_EditClear(StringView language = {});
-String Menu_EditCopy(StringView language = {});
-String Menu_EditCut(StringView language = {});
-String Menu_EditPaste(StringView language = {});
-String Menu_EditSelectAll(StringView language = {});
-String Menu_Fichier(StringView language = {});
-String WinAide_Title(StringView language = {});
-String Btn_AffDoss(StringView language = {});
-String Btn_AffDoss_HT(StringView language = {});
-String Btn_EnabDis(StringView language = {});
-String Btn_Select_HT(StringView language = {});
-String Btn_EnabDis_HT(StringView language = {});
-String Btn_Arreter(StringView language = {});
-String Btn_Generer(StringView language = {});
-String Btn_Historic(StringView language = {});
-String Btn_Chercher_HT(StringView language = {});
-String PopupAff(StringView language = {});
-String Txt_ProbLignPresDxFois(StringView language = {});
-String Txt_ProbLignEquiv(StringView language = {});
-String Txt_ScenPlusDuneFois(StringView language = {});
-String Txt_UrlDoitCommencer(StringView language = {});
-String Txt_DossDsDossPasDsScen(StringView language = {});
-String Txt_ScenDsScenIniPasDsDoss(StringView language = {});
-String Txt_ProblemCompInitFinal(StringView language = {});
-String Btn_Cont(StringView language = {});
-String Txt_TxtAreaPasScenPack(StringView language = {});
-String Txt_PasAncFichAsauv(StringView language = {});
-String Txt_ImpLocDossSauvAnc(StringView language = {});
-String Txt_ImpLocDossSauvFich(StringView language = {});
-String Txt_SurSauv(StringView language = {});
-String Txt_ErreurEcrNouvScen(StringView language = {});
-String Txt_ErreurCopiAncScen(StringView language = {});
-String Btn_Quit(StringView language = {});
-String WinSpecA_Title(StringView language = {});
-String GrBox_HT(StringView language = {});
-String GrBoxSource(StringView language = {});
-String Btn_ChoisirFich(StringView language = {});
-String LabOrg(StringView language = {});
-String Btn_Trait(StringView language = {});
-String Txt_DropQueFichTxt(StringView language = {});
-String Txt_ChoisirUnFich(StringView language = {});
-String Txt_SelectQueFichTxt(StringView language = {});
-String LabDest1(StringView language = {});
-String LabDest2(StringView language = {});
-String Txt_Attente(StringView language = {});
-String Txt_FichOrgNonDef(StringView language = {});
-String Txt_NomExiste(StringView language = {});
-String Txt_Rempl_Imposs(StringView language = {});
-String Txt_ErreurEcritFich(StringView language = {});
-String Txt_FichPasModif(StringView language = {});
-String Btn_Remplacer(StringView language = {});
-String Btn_NePasRempl(StringView language = {});
-String Txt_NbTrouv(StringView language = {});
-String Btn_CopiList_HT(StringView language = {});
-String Pref_ChBoxAffBtnSpecA(StringView language = {});
-String Menu_Preferences(StringView language = {});
-String WinPref_Title(StringView language = {});
-String StText_VolSfx(StringView language = {});
-String Btn_Aide_HT(StringView language = {});
+
+/// A text and the name that translations know it by. Called like a function it gives the text for the user.
+class Text {
+public:
+    constexpr Text(StringView name, StringView french)
+        : name_(name)
+        , french_(french)
+    {
+    }
+
+    /// Looked up anew at each call: in `language` ("de"), or in the user's language when that is empty, and in French
+    /// where the program has no translation.
+    String operator()(StringView language = {}) const;
+
+private:
+    StringView name_, french_;
+};
+
+// clang-format off
+inline constexpr Text Infos_Texte{U"Infos_Texte",
+    U"Ce programme gère le fichier “scenery_packs.ini” d'X-Plane.\n"
+    U" \n"
+    U"Sélectionnez le fichier Modèle qui contient le scenery dans le bon ordre. Ou sélectionnez le chemin de l'Url "
+    U"vers un fichier Modèle.\n"
+    U" \n"
+    U"Éventuellement, sélectionnez un dossier pour sauvegarder l'ancien “scenery_packs.ini”.\n"
+    U" \n"
+    U"Sélectionnez le fichier “scenery_packs.ini” de votre dossier X-Plane, ce fichier sera réordonné.\n"
+    U" \n"
+    U"Cliquez Lancer.\n"
+    U" \n"
+    U"Sélectionnez “Spack After” dans le PopupMenu. Si certaines lignes sont colorées, cela signifie qu'elles sont "
+    U"dans “scenery_packs.ini” mais pas dans le scenery Modèle.\n"
+    U"Quand “Spack Mod” est sélectionné, si certaines lignes sont colorées, cela signifie qu'elles sont dans le "
+    U"scenery Modèle mais pas dans “scenery_packs.ini”.\n"
+    U" \n"
+    U"Vous pouvez sélectionner une partie du texte dans la Zone de Texte et cliquez le bouton “Enable/Disable” pour "
+    U"inverser “SCENERY_PACK” et “SCENERY_PACK_DISABLED”.\n"
+    U" \n"
+    U"Cliquez le bouton “Sauver” pour sauvegarder le texte contenu dans la zone de texte dans le fichier sélectionné "
+    U"dans le PopupMenu. Rien ne sera modifié dans votre fichier jusqu'à ce que vous cliquiez ce bouton."};
+inline constexpr Text RdButtSourceA{U"RdButtSourceA", U"Fichier modèle"};
+inline constexpr Text Btn_OpenUrl{U"Btn_OpenUrl", U"Ouvrir Url"};
+inline constexpr Text StTextScenPack{U"StTextScenPack", U"scenery_packs.ini"};
+inline constexpr Text ChBoxArchive{U"ChBoxArchive", U"Sauv anc Spack"};
+inline constexpr Text Menu_FichSelFichMod{U"Menu_FichSelFichMod", U"Selectionner fichier modèle"};
+inline constexpr Text Menu_FichSelDossArchiv{U"Menu_FichSelDossArchiv", U"Sélectionner dossier archives"};
+inline constexpr Text Menu_FichSelFichScenPack{U"Menu_FichSelFichScenPack", U"Selectionner fichier scenery_packs"};
+inline constexpr Text RdButtSourceB{U"RdButtSourceB", U"Url modèle"};
+inline constexpr Text Btn_SelectDossier{U"Btn_SelectDossier", U"Sélect dossier"};
+inline constexpr Text Btn_SelectFichier{U"Btn_SelectFichier", U"Sélect fichier"};
+inline constexpr Text Btn_SauvFichier{U"Btn_SauvFichier", U"Sauv fichier"};
+inline constexpr Text Btn_SauvFichier_HT{U"Btn_SauvFichier_HT",
+    U"Sauvegarder le texte affiché ci-dessous dans le fichier sélectionné dans le PopupMenu (donc le modèle ou le "
+    U"Scenery_packs)"};
+inline constexpr Text Btn_Annuler{U"Btn_Annuler", U"Annuler"};
+inline constexpr Text Btn_Ok{U"Btn_Ok", U"Ok"};
+inline constexpr Text Btn_Fermer{U"Btn_Fermer", U"Fermer"};
+inline constexpr Text Menu_Edit{U"Menu_Edit", U"Édition"};
+inline constexpr Text Menu_EditClear{U"Menu_EditClear", U"Effacer"};
+inline constexpr Text Menu_EditCopy{U"Menu_EditCopy", U"Copier"};
+inline constexpr Text Menu_EditCut{U"Menu_EditCut", U"Couper"};
+inline constexpr Text Menu_EditPaste{U"Menu_EditPaste", U"Coller"};
+inline constexpr Text Menu_EditSelectAll{U"Menu_EditSelectAll", U"Tout sélectionner"};
+inline constexpr Text Menu_Fichier{U"Menu_Fichier", U"Fichier"};
+inline constexpr Text WinAide_Title{U"WinAide_Title", U"Aide"};
+inline constexpr Text Btn_AffDoss{U"Btn_AffDoss", U"Affich Dossier"};
+inline constexpr Text Btn_AffDoss_HT{U"Btn_AffDoss_HT",
+    U"Appliqué à la première ligne du texte sélectionné\nOuvre (révéle sur Mac) l'élément dans le Finder"};
+inline constexpr Text Btn_EnabDis{U"Btn_EnabDis", U"Activer / Désactiver"};
+inline constexpr Text Btn_Select_HT{U"Btn_Select_HT", U"⇧ clic sur le bouton pour révéler cet élément"};
+inline constexpr Text Btn_EnabDis_HT{U"Btn_EnabDis_HT",
+    U"Appliqué au texte sélectionné\nPresser la touche ⇧ pour activer\nPresser la touche ⌃ pour désactiver"};
+inline constexpr Text Btn_Arreter{U"Btn_Arreter", U"Arrêter"};
+inline constexpr Text Btn_Generer{U"Btn_Generer", U"Générer"};
+inline constexpr Text Btn_Historic{U"Btn_Historic", U"Historique"};
+inline constexpr Text Btn_Chercher_HT{U"Btn_Chercher_HT", U"Chercher"};
+inline constexpr Text PopupAff{U"PopupAff", U"Spack Modèle\nSpack Avant\nSpack Après"};
+inline constexpr Text Txt_ProbLignPresDxFois{U"Txt_ProbLignPresDxFois",
+    U"Problème, la ligne ci-dessous est présente plus d'une fois :"};
+inline constexpr Text Txt_ProbLignEquiv{U"Txt_ProbLignEquiv", U"Problème, les lignes ci-dessous sont équivalentes :"};
+inline constexpr Text Txt_ScenPlusDuneFois{U"Txt_ScenPlusDuneFois",
+    U"Ces Sceneries sont plus d'une fois dans le SceneryModel :"};
+inline constexpr Text Txt_UrlDoitCommencer{U"Txt_UrlDoitCommencer",
+    U"L'url devrait commencer avec 'http://' o 'https://'."};
+inline constexpr Text Txt_DossDsDossPasDsScen{U"Txt_DossDsDossPasDsScen",
+    U"Ces dossiers sont dans le dossier “Custom Scenery” mais pas dans “scenery_packs.ini” :"};
+inline constexpr Text Txt_ScenDsScenIniPasDsDoss{U"Txt_ScenDsScenIniPasDsDoss",
+    U"Ces Sceneries sont dans “scenery_packs.ini” mais pas dans le dossier “Custom Scenery” :"};
+inline constexpr Text Txt_ProblemCompInitFinal{U"Txt_ProblemCompInitFinal",
+    U"Il y a eu un problème, veuillez comparer le fichier intial avec le fichier final."};
+inline constexpr Text Btn_Cont{U"Btn_Cont", U"Continuer"};
+inline constexpr Text Txt_TxtAreaPasScenPack{U"Txt_TxtAreaPasScenPack",
+    U"Le TextArea ne contient pas de scenery_packs."};
+inline constexpr Text Txt_PasAncFichAsauv{U"Txt_PasAncFichAsauv", U"Il n'y a pas d'ancien fichier à sauvegarder."};
+inline constexpr Text Txt_ImpLocDossSauvAnc{U"Txt_ImpLocDossSauvAnc",
+    U"Impossible de localiser le dossier où sauvegarder l'ancien fichier."};
+inline constexpr Text Txt_ImpLocDossSauvFich{U"Txt_ImpLocDossSauvFich",
+    U"Impossible de localiser le dossier où sauvegarder le fichier."};
+inline constexpr Text Txt_SurSauv{U"Txt_SurSauv", U"Êtes-vous sûr de vouloir enregistrer “¿%” comme “¿%” ?"};
+inline constexpr Text Txt_ErreurEcrNouvScen{U"Txt_ErreurEcrNouvScen",
+    U"Erreur pendant l'écriture du nouveau scenery_packs."};
+inline constexpr Text Txt_ErreurCopiAncScen{U"Txt_ErreurCopiAncScen",
+    U"Erreur pendant la copie de l'ancien (précédent) scenery_packs."};
+inline constexpr Text Btn_Quit{U"Btn_Quit", U"Quitter"};
+inline constexpr Text WinSpecA_Title{U"WinSpecA_Title", U"Spécial A"};
+inline constexpr Text GrBox_HT{U"GrBox_HT",
+    U"Glisser déposer un fichier ici (⇧ clic sur le bouton pour révéler ce fichier dans le Finder)"};
+inline constexpr Text GrBoxSource{U"GrBoxSource", U"Source"};
+inline constexpr Text Btn_ChoisirFich{U"Btn_ChoisirFich", U"Choisir fichier…"};
+inline constexpr Text LabOrg{U"LabOrg", U"Original :"};
+inline constexpr Text Btn_Trait{U"Btn_Trait", U"Traiter"};
+inline constexpr Text Txt_DropQueFichTxt{U"Txt_DropQueFichTxt",
+    U"Vous ne pouvez glisser déposer qu'un fichier contenant du texte ici."};
+inline constexpr Text Txt_ChoisirUnFich{U"Txt_ChoisirUnFich", U"Choisir un fichier :"};
+inline constexpr Text Txt_SelectQueFichTxt{U"Txt_SelectQueFichTxt",
+    U"Vous pouvez seulement sélectionner un fichier texte."};
+inline constexpr Text LabDest1{U"LabDest1", U"Dest 1 :"};
+inline constexpr Text LabDest2{U"LabDest2", U"Dest 2 :"};
+inline constexpr Text Txt_Attente{U"Txt_Attente", U"…"};
+inline constexpr Text Txt_FichOrgNonDef{U"Txt_FichOrgNonDef", U"Le fichier original n'existe pas."};
+inline constexpr Text Txt_NomExiste{U"Txt_NomExiste", U"Un fichier nommé “¿%” existe déjà."};
+inline constexpr Text Txt_Rempl_Imposs{U"Txt_Rempl_Imposs", U"Remplacement impossible !"};
+inline constexpr Text Txt_ErreurEcritFich{U"Txt_ErreurEcritFich",
+    U"Il y a eu une erreur pendant l'écriture du fichier."};
+inline constexpr Text Txt_FichPasModif{U"Txt_FichPasModif",
+    U"Le fichier n'a pas été modifié, souhaitez-vous l'enregistrer tout de même ?"};
+inline constexpr Text Btn_Remplacer{U"Btn_Remplacer", U"Remplacer"};
+inline constexpr Text Btn_NePasRempl{U"Btn_NePasRempl", U"Ne pas remplacer"};
+inline constexpr Text Txt_NbTrouv{U"Txt_NbTrouv", U"Nombre de fois où les textes cherchés ont été trouvés :"};
+inline constexpr Text Btn_CopiList_HT{U"Btn_CopiList_HT", U"Copier la liste dans le presse-papiers"};
+inline constexpr Text Pref_ChBoxAffBtnSpecA{U"Pref_ChBoxAffBtnSpecA", U"Afficher bouton “Spécial A”"};
+inline constexpr Text Menu_Preferences{U"Menu_Preferences", U"Préférences…"};
+inline constexpr Text WinPref_Title{U"WinPref_Title", U"Préférences"};
+inline constexpr Text StText_VolSfx{U"StText_VolSfx", U"Effets sonores :"};
+inline constexpr Text Btn_Aide_HT{U"Btn_Aide_HT", U"Cette version a été compilée pour ¿% le ¿%"};
+// clang-format on
+
 } // namespace Localisation
