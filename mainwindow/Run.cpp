@@ -55,7 +55,8 @@ void WinMain::TimerDebRun_Action()
     if (BeginsWith(url, U"http://") || BeginsWith(url, U"https://"))
         return URLCnctLirePage.Send(U"Get", url, fetchTimeout);
     Fncts::BeepNbT(1);
-    Fncts::MyDialogBox(Localisation::Txt_UrlDoitCommencer(), {}, Localisation::Btn_Ok(), {}, {}, 0, this, true);
+    Fncts::MyDialogBox(
+        {.message = Localisation::Txt_UrlDoitCommencer(), .btnAction = Localisation::Btn_Ok(), .win = this});
     RunSuite();
 }
 
@@ -99,7 +100,8 @@ void WinMain::Reorder(const FolderItem& dossier)
 {
     ReportSeries reports([this](const String& message, const String& explanation) {
         Fncts::BeepNbT(1);
-        Fncts::MyDialogBox(message, explanation, Localisation::Btn_Ok(), {}, {}, 0, this, true);
+        Fncts::MyDialogBox(
+            {.message = message, .explanation = explanation, .btnAction = Localisation::Btn_Ok(), .win = this});
     });
     CreerSpack(texts_, dossier,
                [&reports](const String& message, const String& explanation) { reports.Add(message, explanation); });

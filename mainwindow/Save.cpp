@@ -19,13 +19,13 @@ void WinMain::BtnSave_Pressed() { ActSaveFile(); }
 bool WinMain::AsksToContinue(StringView message, StringView button)
 {
     Fncts::BeepNbT(1);
-    return Fncts::MyDialogBox(message, {}, button, Btn_Annuler(), {}, 0, this, true) == 1;
+    return Fncts::MyDialogBox({.message = message, .btnAction = button, .btnCancel = Btn_Annuler(), .win = this}) == 1;
 }
 
 void WinMain::Tell(StringView message)
 {
     Fncts::BeepNbT(1);
-    Fncts::MyDialogBox(message, {}, Btn_Ok(), {}, {}, 0, this, true);
+    Fncts::MyDialogBox({.message = message, .btnAction = Btn_Ok(), .win = this});
 }
 
 void WinMain::ActSaveFile()

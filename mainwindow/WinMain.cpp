@@ -194,8 +194,8 @@ String WinMain::StartFailure() const
 void WinMain::RefuseStart(StringView failure)
 {
     Fncts::BeepNbT(1);
-    Fncts::MyDialogBox(Join({{U"Error ! Please contact the authors.", U" ", failure}}, EndOfLine::Native), {},
-                       Btn_Quit(), {}, {}, 3, nullptr, true);
+    const String message = U"Error ! Please contact the authors.\n \n" + String(failure);
+    Fncts::MyDialogBox({.message = message, .btnAction = Btn_Quit(), .icon = 3});
     Fncts::DrapMenu = true;
     Fncts::DossierPref.reset();
     Close();

@@ -1,12 +1,12 @@
 #include "app/App.h"
 #include "mainwindow/WinMain.h"
 #include "preferences/Preferences.h"
+#include "support/Diagnostics.h"
 #include "support/FileHelpers.h"
 #include "support/Fncts.h"
 #include "support/Sounds.h"
 #include "support/TextFiles.h"
 #include "toolkit/Desktop.h"
-#include "toolkit/Dialogs.h"
 #include "toolkit/core/TextInputStream.h"
 
 namespace {
@@ -31,7 +31,7 @@ Preferences ReadPreferences(const FolderItem& file)
         }
     } catch (const std::exception&) {
         Fncts::BeepNbT(3);
-        MessageBox(U"Error ! Please contact the authors.\nPrefsCharger, problem while reading file!");
+        TellAuthorsShortly(U"PrefsCharger, problem while reading file!");
     }
     return preferences;
 }
@@ -51,12 +51,12 @@ void WinMain::PrefsCharger()
     Fncts::CtrlFenetrOuv({this});
     // Beeps last; a broken file is not to hold up the start.
     constexpr int mostRefusals = 5;
-    for (int refused = 0; refused < std::min(preferences.sourceModelRefused, mostRefusals); ++refused)
+    for (int refused = 0; refused < std::min(preferences.sourceModel.refused, mostRefusals); ++refused)
         Fncts::BeepNbT(3);
-    if (preferences.sourceModel) RadGrpSrc.SetSelectedIndex(*preferences.sourceModel);
+    if (preferences.sourceModel.index) RadGrpSrc.SetSelectedIndex(*preferences.sourceModel.index);
     SetField(TextFieldMod1, preferences.modelFile);
     SetField(TextFieldMod2, preferences.modelUrl);
-    if (preferences.archive) ChBoxArchiv.SetValue(*preferences.archive);
+    ChBoxArchiv.SetValue(preferences.archive);
     SetField(TextFieldArchiv, preferences.archiveFolder);
     SetField(TextFieldSpack, preferences.spackFile);
 
@@ -85,14 +85,14 @@ void WinMain::PrefsSauver() const
     const auto points = [](int length) { return static_cast<Int16>(length); };
     const String text = WritePreferences({
         .DrapAffBtnSpecA = app.DrapAffBtnSpecA,
+        .archive = ChBoxArchiv.Value(),
         .volume = app.DefVolSon(-1, false),
         .geometry = {points(Left()), points(Top()), points(Width()), points(Height())},
-        .sourceModel = RadGrpSrc.SelectedIndex(),
+        .sourceModel = {.index = RadGrpSrc.SelectedIndex()},
         .modelFile = TextFieldMod1.Text(),
         .modelUrl = TextFieldMod2.Text(),
         .archiveFolder = TextFieldArchiv.Text(),
         .spackFile = TextFieldSpack.Text(),
-        .archive = ChBoxArchiv.Value(),
         .WspecAheight = app.WspecAheight,
         .PathSpecA = app.PathSpecA,
         .TabSpecAorg = app.TabSpecAorg,
@@ -102,5 +102,5 @@ void WinMain::PrefsSauver() const
     const std::optional<FolderItem> file = Fncts::DossierPref->Child(fileName, true);
     if (file && Fncts::SauvFichier(*file, text)) return;
     Fncts::BeepNbT(3);
-    MessageBox(U"Error ! Please contact the authors.\nPrefsSauver, problem while writing file!");
+    TellAuthorsShortly(U"PrefsSauver, problem while writing file!");
 }

@@ -8,61 +8,63 @@ namespace {
 constexpr StringView separator = U" :@: ";
 constexpr StringView tab = U"\t";
 
-bool ReadBoolean(StringView value) { return SameText(value, U"True"); }
-
 /// The number at the start of the value, truncated toward zero; one that no 64-bit integer holds counts as 0.
-Int64 ReadInteger(StringView value)
+Int64 Integer(StringView value)
 {
     constexpr double limit = 9.0e18;
     const double number = std::trunc(Val(value));
     return std::abs(number) < limit ? static_cast<Int64>(number) : 0;
 }
 
-Int16 ReadInt16(StringView value) { return static_cast<Int16>(ReadInteger(value)); }
+void Read(bool& field, StringView value) { field = SameText(value, U"True"); }
+void Read(Int16& field, StringView value) { field = static_cast<Int16>(Integer(value)); }
+void Read(String& field, StringView value) { field = value; }
 
-std::vector<String> ReadList(StringView value)
+void Read(std::vector<String>& field, StringView value)
 {
-    if (value.empty()) return {};
-    const std::vector<StringView> elements = Split(value, tab);
-    return {elements.begin(), elements.end()};
+    field.clear();
+    if (value.empty()) return;
+    for (const StringView element : Split(value, tab))
+        field.emplace_back(element);
 }
 
-void ReadGeometry(WindowGeometry& geometry, StringView value)
+void Read(WindowGeometry& field, StringView value)
 {
-    const auto field = [value](Int64 number) { return ReadInt16(NthField(value, U",", number)); };
-    geometry = {field(1), field(2), field(3), field(4)};
+    Int64 number = 0;
+    for (Int16* const part : {&field.left, &field.top, &field.width, &field.height})
+        Read(*part, NthField(value, U",", ++number));
 }
 
-void ReadSourceModel(Preferences& preferences, StringView value)
+void Read(SourceModel& field, StringView value)
 {
-    const Int64 index = ReadInteger(value);
+    const Int64 index = Integer(value);
     if (index == 0 || index == 1)
-        preferences.sourceModel = static_cast<int>(index);
+        field.index = static_cast<int>(index);
     else
-        ++preferences.sourceModelRefused;
+        ++field.refused;
 }
 
-void ReadField(std::optional<String>& field, StringView value)
+void Read(std::optional<String>& field, StringView value)
 {
     constexpr std::size_t longest = 65'536;
     if (value.size() <= longest) field = value;
 }
 
-String WriteBoolean(bool value) { return value ? U"True" : U"False"; }
+String Write(bool field) { return field ? U"True" : U"False"; }
+String Write(Int16 field) { return ToText(field); }
+String Write(const String& field) { return field; }
+String Write(const std::vector<String>& field)
+{
+    return Join(std::vector<StringView>(field.begin(), field.end()), tab);
+}
+String Write(const SourceModel& field) { return ToText(field.index.value_or(0)); }
 
 /// A pasted line end would break the file into other lines.
-String WriteLine(const std::optional<String>& text) { return ReplaceLineEndings(text.value_or(String()), U""); }
+String Write(const std::optional<String>& field) { return ReplaceLineEndings(field.value_or(String()), U""); }
 
-String WriteList(const std::vector<String>& elements)
+String Write(const WindowGeometry& field)
 {
-    const std::vector<StringView> views(elements.begin(), elements.end());
-    return Join(views, tab);
-}
-
-String WriteGeometry(const WindowGeometry& geometry)
-{
-    return ToText(geometry.left) + U"," + ToText(geometry.top) + U"," + ToText(geometry.width) + U"," +
-           ToText(geometry.height);
+    return Join({{ToText(field.left), ToText(field.top), ToText(field.width), ToText(field.height)}}, U",");
 }
 
 struct Key {
@@ -71,36 +73,29 @@ struct Key {
     String (*write)(const Preferences& preferences);
 };
 
+template <auto Field>
+constexpr Key Setting(StringView name)
+{
+    return {name, [](Preferences& preferences, StringView value) { Read(preferences.*Field, value); },
+            [](const Preferences& preferences) { return Write(preferences.*Field); }};
+}
+
 /// In the order in which they are written.
 constexpr std::array keys = {
-    Key{U"Afficher Bouton Special A", [](Preferences& p, StringView value) { p.DrapAffBtnSpecA = ReadBoolean(value); },
-        [](const Preferences& p) { return WriteBoolean(p.DrapAffBtnSpecA); }},
-    Key{U"Volume Sonore", [](Preferences& p, StringView value) { p.volume = ReadInt16(value); },
-        [](const Preferences& p) { return ToText(p.volume); }},
-    Key{U"Fenetre WinMain", [](Preferences& p, StringView value) { ReadGeometry(p.geometry, value); },
-        [](const Preferences& p) { return WriteGeometry(p.geometry); }},
-    Key{U"Source Model", [](Preferences& p, StringView value) { ReadSourceModel(p, value); },
-        [](const Preferences& p) { return ToText(p.sourceModel.value_or(0)); }},
-    Key{U"SourceFile_Path", [](Preferences& p, StringView value) { ReadField(p.modelFile, value); },
-        [](const Preferences& p) { return WriteLine(p.modelFile); }},
-    Key{U"SourceUrl", [](Preferences& p, StringView value) { ReadField(p.modelUrl, value); },
-        [](const Preferences& p) { return WriteLine(p.modelUrl); }},
-    Key{U"Archiv Old File", [](Preferences& p, StringView value) { p.archive = ReadBoolean(value); },
-        [](const Preferences& p) { return WriteBoolean(p.archive.value_or(false)); }},
-    Key{U"ArchivFolder_Path", [](Preferences& p, StringView value) { ReadField(p.archiveFolder, value); },
-        [](const Preferences& p) { return WriteLine(p.archiveFolder); }},
-    Key{U"SceneryPack_Path", [](Preferences& p, StringView value) { ReadField(p.spackFile, value); },
-        [](const Preferences& p) { return WriteLine(p.spackFile); }},
-    Key{U"WspecAheight", [](Preferences& p, StringView value) { p.WspecAheight = ReadInt16(value); },
-        [](const Preferences& p) { return ToText(p.WspecAheight); }},
-    Key{U"PathSpecA", [](Preferences& p, StringView value) { p.PathSpecA = value; },
-        [](const Preferences& p) { return p.PathSpecA; }},
-    Key{U"TabSpecAorg", [](Preferences& p, StringView value) { p.TabSpecAorg = ReadList(value); },
-        [](const Preferences& p) { return WriteList(p.TabSpecAorg); }},
-    Key{U"TabSpecAdest1", [](Preferences& p, StringView value) { p.TabSpecAdest1 = ReadList(value); },
-        [](const Preferences& p) { return WriteList(p.TabSpecAdest1); }},
-    Key{U"TabSpecAdest2", [](Preferences& p, StringView value) { p.TabSpecAdest2 = ReadList(value); },
-        [](const Preferences& p) { return WriteList(p.TabSpecAdest2); }},
+    Setting<&Preferences::DrapAffBtnSpecA>(U"Afficher Bouton Special A"),
+    Setting<&Preferences::volume>(U"Volume Sonore"),
+    Setting<&Preferences::geometry>(U"Fenetre WinMain"),
+    Setting<&Preferences::sourceModel>(U"Source Model"),
+    Setting<&Preferences::modelFile>(U"SourceFile_Path"),
+    Setting<&Preferences::modelUrl>(U"SourceUrl"),
+    Setting<&Preferences::archive>(U"Archiv Old File"),
+    Setting<&Preferences::archiveFolder>(U"ArchivFolder_Path"),
+    Setting<&Preferences::spackFile>(U"SceneryPack_Path"),
+    Setting<&Preferences::WspecAheight>(U"WspecAheight"),
+    Setting<&Preferences::PathSpecA>(U"PathSpecA"),
+    Setting<&Preferences::TabSpecAorg>(U"TabSpecAorg"),
+    Setting<&Preferences::TabSpecAdest1>(U"TabSpecAdest1"),
+    Setting<&Preferences::TabSpecAdest2>(U"TabSpecAdest2"),
 };
 
 } // namespace
@@ -110,7 +105,7 @@ void ReadPreference(Preferences& preferences, StringView line)
     const Int64 end = IndexOf(line, separator);
     if (end < 0) return;
     const StringView name = Left(line, end), value = Middle(line, end + std::ssize(separator));
-    if (SameText(name, U"Afficher HelpTag") && !preferences.AffHelpTag) preferences.AffHelpTag = ReadBoolean(value);
+    if (SameText(name, U"Afficher HelpTag") && !preferences.AffHelpTag) Read(preferences.AffHelpTag.emplace(), value);
     for (const Key& key : keys)
         if (SameText(key.name, name)) return key.read(preferences, value);
 }

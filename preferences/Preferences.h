@@ -16,20 +16,24 @@ struct WindowGeometry {
     bool operator==(const WindowGeometry&) const = default;
 };
 
+/// Where the model comes from.
+struct SourceModel {
+    /// 0 the model file, 1 the model URL.
+    std::optional<int> index = {};
+    /// How many lines gave another number. They were passed over.
+    int refused = 0;
+};
+
 /// What the file says; an optional without a value leaves its control as it is.
 struct Preferences {
     /// The old key: of this one the first line counts.
     std::optional<bool> AffHelpTag = {};
-    bool DrapAffBtnSpecA = false;
+    bool DrapAffBtnSpecA = false, archive = false;
     /// Percent; -1 stands for none.
     Int16 volume = -1;
     WindowGeometry geometry;
-    /// 0 the model file, 1 the model URL.
-    std::optional<int> sourceModel;
-    /// How many lines gave the source another number than 0 or 1. They were passed over.
-    int sourceModelRefused = 0;
+    SourceModel sourceModel;
     std::optional<String> modelFile, modelUrl, archiveFolder, spackFile;
-    std::optional<bool> archive;
     /// Points.
     Int16 WspecAheight = 0;
     String PathSpecA;

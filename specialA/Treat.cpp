@@ -33,7 +33,8 @@ void WinSpecA::EnableControls(bool idle)
 
 Int16 WinSpecA::Ask(StringView message, StringView action, StringView cancel, Int16 icon)
 {
-    return Fncts::MyDialogBox(message, {}, action, cancel, {}, icon, this, true);
+    return Fncts::MyDialogBox(
+        {.message = message, .btnAction = action, .btnCancel = cancel, .icon = icon, .win = this});
 }
 
 void WinSpecA::Tell(StringView message, Int16 icon) { Ask(message, Btn_Ok(), {}, icon); }

@@ -9,8 +9,6 @@ namespace {
 constexpr StringView folderName = U"fr.Kavesti.Tarnivel Datas", olderFolder = U"Tarnivel",
                      oldestFile = U"Tarnivel Prefs.txt";
 
-bool IsThere(const std::optional<FolderItem>& item) { return item && item->Exists(); }
-
 /// Brings an item of an older version to its new place, or leaves it where it is if it can't be moved: to another file
 /// system, or to where a name is taken. The program can start without it.
 void MoveIfPossible(const FolderItem& item, const FolderItem& folder)
@@ -25,14 +23,14 @@ void MoveIfPossible(const FolderItem& item, const FolderItem& folder)
 /// Makes the data folder from what older versions kept among the preferences, or empty if they kept nothing.
 void MakeDataFolder(const FolderItem& dataFolder, const FolderItem& applicationData, const FolderItem& preferences)
 {
-    if (const auto older = preferences.Child(olderFolder); IsThere(older)) {
+    if (const auto older = preferences.Child(olderFolder); older && older->Exists()) {
         MoveIfPossible(*older, applicationData);
-        if (const auto moved = applicationData.Child(olderFolder); IsThere(moved)) moved->Rename(folderName);
+        if (const auto moved = applicationData.Child(olderFolder); moved && moved->Exists()) moved->Rename(folderName);
         if (!dataFolder.Exists()) dataFolder.CreateFolder();
         return;
     }
     dataFolder.CreateFolder();
-    if (const auto file = preferences.Child(oldestFile); IsThere(file) && dataFolder.Exists())
+    if (const auto file = preferences.Child(oldestFile); file && file->Exists() && dataFolder.Exists())
         MoveIfPossible(*file, dataFolder);
 }
 

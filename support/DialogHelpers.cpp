@@ -32,21 +32,6 @@ int IconType(Int16 icon)
     return icon >= 0 && icon < std::ssize(iconTypes) ? iconTypes[static_cast<std::size_t>(icon)] : -1;
 }
 
-Int16 NumberOf(MessageDialog::Button button)
-{
-    switch (button) {
-    case MessageDialog::Button::Action:
-        return 1;
-    case MessageDialog::Button::Cancel:
-        return 2;
-    case MessageDialog::Button::Alternate:
-        return 3;
-    case MessageDialog::Button::None:
-        break;
-    }
-    return 0;
-}
-
 std::optional<FolderItem> InitialFolder(const std::optional<FolderItem>& start)
 {
     if (start) return Fncts::DossPasPack_f(*start) ? start : start->Parent();
@@ -58,19 +43,15 @@ std::optional<FolderItem> InitialFolder(const std::optional<FolderItem>& start)
 
 namespace Fncts {
 
-Int16 MyDialogBox(StringView message, StringView explanation, StringView btnAction, StringView btnCancel,
-                  StringView btnAlternate, Int16 icon, DesktopWindow* win, bool sheet)
+Int16 MyDialogBox(const Question& question)
 {
-    return InFrame(win, sheet, [&](DesktopWindow* window) {
-        if (btnAction.empty()) TellAuthors(U"My DialogBox, BtnAct = ''");
-        MessageDialog dialog;
-        dialog.IconType = IconType(icon);
-        dialog.Message = message.empty() ? U" " : message;
-        dialog.Explanation = explanation;
-        dialog.ActionButton = btnAction;
-        dialog.CancelButton = btnCancel;
-        dialog.AlternateActionButton = btnAlternate;
-        return NumberOf(dialog.ShowModal(window));
+    return InFrame(question.win, question.sheet, [&](DesktopWindow* window) {
+        if (question.btnAction.empty()) TellAuthors(U"My DialogBox, BtnAct = ''");
+        const MessageDialog dialog{
+            IconType(question.icon),      String(question.message.empty() ? U" " : question.message),
+            String(question.explanation), String(question.btnAction),
+            String(question.btnCancel),   String(question.btnAlternate)};
+        return static_cast<Int16>(dialog.ShowModal(window));
     });
 }
 

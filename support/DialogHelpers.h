@@ -11,15 +11,20 @@ class DesktopWindow;
 
 namespace Fncts {
 
+struct Question {
+    StringView message, explanation = {};
+    /// Captions. The action button must have one; the two others are shown when they have one.
+    StringView btnAction, btnCancel = {}, btnAlternate = {};
+    /// 0 for an ordinary notice, 1 for a warning, 2 for a question, 3 for a failure; any other number shows none.
+    Int16 icon = 0;
+    DesktopWindow* win = nullptr;
+    bool sheet = true;
+};
+
 /// A question or a notice; the result is 1 for the action button, 2 for the cancel button, 3 for the alternate button
 /// and 0 when the dialog was closed by other means.
-///
-/// Cancel and alternate buttons are shown when they have a caption; the action button must have one. `icon` is 0 for an
-/// ordinary notice, 1 for a warning, 2 for a question, 3 for a failure; any other number shows none.
-/// Example: `MyDialogBox(question, U"", Localisation::Btn_Cont(), Localisation::Btn_Annuler(), U"", 0, this, true) ==
-/// 1`
-Int16 MyDialogBox(StringView message, StringView explanation, StringView btnAction, StringView btnCancel,
-                  StringView btnAlternate, Int16 icon, DesktopWindow* win, bool sheet);
+/// Example: `MyDialogBox({.message = text, .btnAction = Btn_Cont(), .btnCancel = Btn_Annuler(), .win = this}) == 1`
+Int16 MyDialogBox(const Question& question);
 
 /// Lets the user choose a file; nothing when the user gave up. The chooser begins in the folder `start`, or in the
 /// folder that holds the file `start`, or in the user's documents. `filter` holds extensions as in ".txt;.ini".

@@ -5,52 +5,7 @@
 #include "toolkit/DesktopApplication.h"
 #include "toolkit/core/Exceptions.h"
 
-namespace {
-
-/// Removes an item; one that has vanished meanwhile is as good as removed.
-void RemoveOne(const FolderItem& item)
-{
-    try {
-        item.Remove();
-    } catch (const IOException&) {
-        if (item.Exists()) throw;
-    }
-}
-
-/// Whether a file is left over, which doesn't keep its neighbours from being removed.
-bool RemoveFile(const FolderItem& file, bool watchStop)
-{
-    try {
-        RemoveOne(file);
-        return file.Exists();
-    } catch (const std::exception&) {
-        if (watchStop) Fncts::ArretUrg = true;
-        return true;
-    }
-}
-
-/// Removes what is in a folder; whether anything is left of it.
-bool EmptyFolder(const FolderItem& folder, bool watchStop)
-{
-    std::vector<FolderItem> files, folders;
-    for (const FolderItem& child : folder.Children()) {
-        DesktopApplication::YieldToPlatform();
-        (child.IsFolder() ? folders : files).push_back(child);
-    }
-    bool failed = false;
-    for (const FolderItem& file : files) {
-        DesktopApplication::YieldToPlatform();
-        failed = RemoveFile(file, watchStop) || failed;
-    }
-    files.clear();
-    for (const FolderItem& subfolder : folders) {
-        DesktopApplication::YieldToPlatform();
-        failed = failed || Fncts::RemoveFileOrFolder(subfolder, watchStop);
-    }
-    return failed;
-}
-
-} // namespace
+#include <algorithm>
 
 namespace Fncts {
 
@@ -74,26 +29,30 @@ bool PasNil_Existe_Alias(const std::optional<FolderItem>& item, bool checkAlias)
 bool RemoveFileOrFolder(const FolderItem& item, bool watchStop)
 {
     if (watchStop && ArretUrg) return true;
-    try {
-        const bool failed = item.IsFolder() && EmptyFolder(item, watchStop);
-        RemoveOne(item);
-        return failed || item.Exists();
-    } catch (const std::exception&) {
-        if (watchStop) ArretUrg = true;
-        return true;
+    bool failed = false;
+    std::vector<FolderItem> children = item.IsFolder() ? item.Children() : std::vector<FolderItem>();
+    std::ranges::stable_partition(children, [](const FolderItem& child) { return !child.IsFolder(); });
+    for (const FolderItem& child : children) {
+        DesktopApplication::YieldToPlatform();
+        if (failed && child.IsFolder()) break;
+        failed = RemoveFileOrFolder(child, watchStop) || failed;
     }
+    try {
+        item.Remove();
+    } catch (const IOException&) {
+        // One that has vanished meanwhile is as good as removed.
+        if (item.Exists() && watchStop) ArretUrg = true;
+    }
+    return item.Exists();
 }
 
-bool IsPackage_f(const FolderItem& item) { return IsPackage(item); }
-
-bool DossPasPack_f(const FolderItem& item) { return item.IsFolder() && !IsPackage_f(item); }
+bool DossPasPack_f(const FolderItem& item) { return item.IsFolder() && !IsPackage(item); }
 
 String Extension_f(const FolderItem& item)
 {
     const String name = item.Name();
-    const std::vector<StringView> fields = Split(name, U".");
-    if (fields.size() < 2 || (fields.size() == 2 && fields.front().empty())) return {};
-    return U"." + String(fields.back());
+    const auto lastDot = name.rfind(U'.');
+    return lastDot == 0 || lastDot == name.npos ? U"" : name.substr(lastDot);
 }
 
 void RevealEltFinder(const FolderItem& item)
@@ -104,9 +63,7 @@ void RevealEltFinder(const FolderItem& item)
         OpenItem(item);
 }
 
-FolderItem RetDossCetApp() { return FolderOfApplication(ExecutableFile()); }
-
-FolderItem FolderOfApplication(const FolderItem& executable)
+FolderItem RetDossCetApp(const FolderItem& executable)
 {
     const auto above = [](const FolderItem& item) { return item.Parent().value_or(item); };
     const FolderItem folder = above(executable);

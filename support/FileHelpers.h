@@ -13,15 +13,11 @@ std::optional<FolderItem> GetItemMoT_f(const std::optional<FolderItem>& item, bo
 bool PasNil_Existe_Alias(const std::optional<FolderItem>& item, bool checkAlias);
 
 /// Removes a file, or a folder with all that is in it; aliases inside go, what they lead to stays. The result is true
-/// when anything is left over; what can't be removed doesn't keep the files beside it.
-///
-/// With `watchStop` a failure also sets `ArretUrg`, and no further folder is begun while that is set.
+/// when anything is left over: what can't be removed keeps the folders beside it, not the files. With `watchStop` a
+/// failure also sets `ArretUrg`, and nothing more is removed while that is set.
 bool RemoveFileOrFolder(const FolderItem& item, bool watchStop);
 
-/// A package is a folder that the platform shows as one file.
-bool IsPackage_f(const FolderItem& item);
-
-/// A folder that is no package.
+/// A folder that is no package: a package is shown as one file by the platform.
 bool DossPasPack_f(const FolderItem& item);
 
 /// The name's extension with its dot: ".gz" of "a.tar.gz", "." of "a.", and "" of "a" and of ".bashrc".
@@ -30,12 +26,8 @@ String Extension_f(const FolderItem& item);
 /// Shows the item selected in the file manager; a volume is opened there instead.
 void RevealEltFinder(const FolderItem& item);
 
-/// The folder that holds the application: the bundle's folder where the program is in a bundle, else the folder of the
-/// executable itself.
-FolderItem RetDossCetApp();
-
-/// The same for any place of the executable.
-FolderItem FolderOfApplication(const FolderItem& executable);
+/// The folder that holds the application: the bundle's folder where the executable is in a bundle, else its own.
+FolderItem RetDossCetApp(const FolderItem& executable = ExecutableFile());
 
 /// Finds the data folder "fr.Kavesti.Tarnivel Datas" or makes it, bringing in what older versions kept elsewhere, and
 /// stores it in `DossierPref`. False when there is none; a failure of the file system on the way is reported to the

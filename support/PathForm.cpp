@@ -43,32 +43,16 @@ std::vector<FolderItem> DrivesNamed(const String& name)
     return drives;
 }
 
-/// Where the folders lead to from a drive, or the last place on the way there.
-FolderItem Walk(FolderItem item, std::span<const String> folders)
+/// Where the folders lead to from a drive, or nothing where one is missing.
+std::optional<FolderItem> Walk(FolderItem item, std::span<const String> folders)
 {
     for (const String& name : folders) {
         DesktopApplication::YieldToPlatform();
         const auto child = item.Child(name, false);
-        if (!child) break;
+        if (!child || !child->Exists()) return std::nullopt;
         item = *child;
-        if (!item.Exists()) break;
     }
     return item;
-}
-
-std::optional<FolderItem> ChooseDrive(const String& volume, std::span<const String> folders, const String* leaf)
-{
-    std::optional<FolderItem> chosen;
-    for (const FolderItem& drive : DrivesNamed(volume)) {
-        DesktopApplication::YieldToPlatform();
-        const FolderItem folder = Walk(drive, folders);
-        if (!folder.Exists()) continue;
-        if (leaf == nullptr) return drive;
-        const auto item = folder.Child(*leaf, false);
-        if (item && item->Exists()) return drive;
-        if (!chosen) chosen = drive;
-    }
-    return chosen;
 }
 
 } // namespace
@@ -92,16 +76,19 @@ std::optional<FolderItem> GetFitemAbsPath(StringView path, bool followAlias)
 {
     const std::vector<String> names = NamesOfPath(path);
     if (names.front().empty()) return std::nullopt;
-    const String* const leaf = names.size() > 1 ? &names.back() : nullptr;
-    const auto folders = std::span(names).subspan(1, leaf == nullptr ? 0 : names.size() - 2);
+    const bool isDrive = names.size() == 1;
+    const auto folders = std::span(names).subspan(1, isDrive ? 0 : names.size() - 2);
 
-    std::optional<FolderItem> item = ChooseDrive(names.front(), folders, leaf);
-    for (const String& name : folders) {
-        DesktopApplication::YieldToPlatform();
-        if (!item) return std::nullopt;
-        item = item->Child(name, false);
+    std::optional<FolderItem> chosen;
+    for (const FolderItem& drive : DrivesNamed(names.front())) {
+        if (isDrive) return drive;
+        const auto folder = Walk(drive, folders);
+        const auto item = folder ? folder->Child(names.back(), false) : std::nullopt;
+        if (!item) continue;
+        if (!chosen || item->Exists()) chosen = folder->Child(names.back(), followAlias);
+        if (item->Exists()) break;
     }
-    return item && leaf != nullptr ? item->Child(*leaf, followAlias) : item;
+    return chosen;
 }
 
 } // namespace Fncts

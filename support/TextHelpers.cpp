@@ -27,23 +27,8 @@ Bytes NettoiBadEncod(std::string_view text, const TextEncoding& encoding)
     return {};
 }
 
-String MenuLabEt(StringView text, bool toLabel, Int16 kind)
-{
-    constexpr Int16 keepsDoubled = 2;
-    if (kind < 0 || kind > 3) {
-        TellAuthors(U"MenuLabEt, CeTypObj = " + ToText(kind));
-        return String(text);
-    }
-    if (toLabel) return ReplaceAll(text, U"&", U"&&");
-    return kind == keepsDoubled ? String(text) : ReplaceAll(text, U"&&", U"&");
-}
-
 void PressPapTxt(StringView text) { Clipboard::SetText(text); }
 
-String TypeCompil()
-{
-    constexpr StringView processor = U"Mac INTEL", width = U" 64-bit", toolchain = U" (Lumbra", release = U"2023r4";
-    return Join({{processor, width, toolchain, release, U")"}}, U"");
-}
+String TypeCompil() { return U"Mac INTEL 64-bit (Lumbra2023r4)"; }
 
 } // namespace Fncts

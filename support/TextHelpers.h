@@ -13,10 +13,6 @@ String FracTexte(StringView text, Int16 part);
 /// ASCII, so that valid characters of several bytes go too. Three beeps and "" for what stays invalid all the same.
 Bytes NettoiBadEncod(std::string_view text, const TextEncoding& encoding);
 
-/// The text as a control's label: with `toLabel` each "&" is doubled, without it each "&&" becomes "&" again. `kind` is
-/// the kind of the control, 0 to 3; labels of kind 2 keep a doubled "&". Another kind gives a message for the authors.
-String MenuLabEt(StringView text, bool toLabel, Int16 kind);
-
 /// Puts the text on the clipboard.
 void PressPapTxt(StringView text);
 

@@ -17,7 +17,7 @@ struct MessageDialog {
     /// button.
     String ActionButton, CancelButton, AlternateActionButton;
 
-    enum class Button { None, Action, Cancel, Alternate };
+    enum class Button { None = 0, Action = 1, Cancel = 2, Alternate = 3 };
     /// Shows the dialog and returns when it is answered; None when it was closed by other means. With a window it hangs
     /// on that window and blocks it; else it blocks the program.
     [[nodiscard]] Button ShowModal(DesktopWindow* window = nullptr) const;

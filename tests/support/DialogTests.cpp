@@ -35,7 +35,12 @@ class Dialogs : public ::testing::Test {
 protected:
     static Int16 Ask(DesktopWindow* win, bool sheet = true)
     {
-        return Fncts::MyDialogBox(U"Really?", U"", U"Yes", U"No", U"Later", 0, win, sheet);
+        return Fncts::MyDialogBox({.message = U"Really?",
+                                   .btnAction = U"Yes",
+                                   .btnCancel = U"No",
+                                   .btnAlternate = U"Later",
+                                   .win = win,
+                                   .sheet = sheet});
     }
     /// What was told last, without the words that stand above each message for the authors.
     [[nodiscard]] String Told() const { return probe_.Asked.back().substr(36); }
@@ -55,9 +60,9 @@ TEST_F(Dialogs, TheButtonPressedIsTheResultAndTheProgramIsQuietMeanwhile)
         EXPECT_FALSE(Fncts::DrapDiagBox);
     }
     EXPECT_EQ(probe_.Asked.back(), U"Really?[Yes][No][Later]");
-    Fncts::MyDialogBox(U"", U"More", U"Ok", U"", U"", 3, nullptr, true);
+    Fncts::MyDialogBox({.message = U"", .explanation = U"More", .btnAction = U"Ok", .icon = 3});
     EXPECT_EQ(probe_.Asked.back(), U" \nMore[Ok]");
-    Fncts::MyDialogBox(U"No action", U"", U"", U"", U"", 0, &asking_, true);
+    Fncts::MyDialogBox({.message = U"No action", .btnAction = U"", .win = &asking_});
     EXPECT_EQ(probe_.Asked[5], U"Error !\nPlease contact the authors.\nMy DialogBox, BtnAct = ''");
     EXPECT_EQ(probe_.Asked.size(), 7U) << "the dialog is shown all the same";
 }

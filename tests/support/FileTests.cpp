@@ -73,9 +73,9 @@ TEST(Extension, IsWhatFollowsTheLastDot)
 
 TEST(Application, IsInTheFolderOfTheBundleOrOfTheExecutable)
 {
-    EXPECT_EQ(Fncts::FolderOfApplication(FolderItem("/Apps/T.app/Contents/MacOS/T")).Path(), "/Apps");
-    EXPECT_EQ(Fncts::FolderOfApplication(FolderItem("/opt/bin/tarnivel")).Path(), "/opt/bin");
-    EXPECT_EQ(Fncts::FolderOfApplication(FolderItem("/")).Path(), "/") << "no folder is left above";
+    EXPECT_EQ(Fncts::RetDossCetApp(FolderItem("/Apps/T.app/Contents/MacOS/T")).Path(), "/Apps");
+    EXPECT_EQ(Fncts::RetDossCetApp(FolderItem("/opt/bin/tarnivel")).Path(), "/opt/bin");
+    EXPECT_EQ(Fncts::RetDossCetApp(FolderItem("/")).Path(), "/") << "no folder is left above";
     EXPECT_EQ(Fncts::RetDossCetApp().Path(), fs::read_symlink("/proc/self/exe").parent_path());
 }
 

@@ -24,15 +24,4 @@ TEST(NettoiBadEncod, KeepsTheBytesThatStandAlone)
     EXPECT_EQ(Fncts::NettoiBadEncod(ascii + '\xFF', Encodings::UTF8), ascii) << "in one pass";
 }
 
-TEST(MenuLabEt, DoublesAmpersandsAndBack)
-{
-    const Probe probe;
-    EXPECT_EQ(Fncts::MenuLabEt(U"a&b&&", true, 3), U"a&&b&&&&");
-    EXPECT_EQ(Fncts::MenuLabEt(U"a&&b&&&", false, 0), U"a&b&&");
-    EXPECT_EQ(Fncts::MenuLabEt(U"a&&b", false, 2), U"a&&b") << "labels of kind 2 keep pairs";
-    EXPECT_TRUE(probe.Asked.empty());
-    EXPECT_EQ(Fncts::MenuLabEt(U"a&b", true, 4), U"a&b");
-    EXPECT_EQ(probe.Asked, std::vector<String>{U"Error !\nPlease contact the authors.\nMenuLabEt, CeTypObj = 4"});
-}
-
 } // namespace
