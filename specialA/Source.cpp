@@ -18,7 +18,7 @@ std::optional<FolderItem> DroppedText(const DragItem& dragged)
 {
     if (dragged.FolderItems.size() != 1 || !dragged.FolderItems.front().Exists()) return {};
     std::optional<FolderItem> item = Fncts::GetItemMoT_f(dragged.FolderItems.front(), true);
-    if (!item || item->IsAlias() || item->IsFolder() || !App::ExtInFileType(Fncts::Extension_f(*item))) return {};
+    if (!item || item->IsFolder() || !App::ExtInFileType(Fncts::Extension_f(*item))) return {};
     return item;
 }
 
@@ -30,25 +30,18 @@ bool WinSpecA::FairePath()
     // A label of the toolkit shows "&" as it stands: nothing is doubled here.
     App::Current().PathSpecA = usable ? Fncts::AbsPath_f(*FichOrg, true) : String();
     StTextFichSource.SetText(usable ? App::Current().PathSpecA : Txt_Attente());
-    const String name = usable ? FichOrg->Name() : Txt_Attente();
-    if (TextFieldOrg.Text() != name) TextFieldOrg.SetText(name);
+    TextFieldOrg.SetText(usable ? FichOrg->Name() : Txt_Attente());
     return usable;
 }
 
 void WinSpecA::ActButtSource(std::optional<FolderItem> item)
 {
-    if (!item) {
-        std::optional<FolderItem> start;
-        if (FichOrg) start = FichOrg->IsFolder() ? Fncts::GetItemMoT_f(FichOrg, false) : FichOrg->Parent();
-        item = Fncts::MyDialogLoad(start, Txt_ChoisirUnFich(), FileTypes::TextPlain.Extensions, this, true);
-        if (!item) return;
-    }
-    if (item->IsFolder() || item->IsAlias()) {
-        Fncts::BeepNbT(1);
+    if (!item) item = Fncts::MyDialogLoad(FichOrg, Txt_ChoisirUnFich(), FileTypes::TextPlain.Extensions, this, true);
+    if (!item) return;
+    if (item->IsFolder() || item->IsAlias())
         Tell(Txt_SelectQueFichTxt(), 0);
-    } else {
-        FichOrg = Fncts::GetItemMoT_f(item, false);
-    }
+    else
+        FichOrg = std::move(item);
     FairePath();
 }
 
@@ -63,9 +56,7 @@ void WinSpecA::PushButtSource_Pressed()
 
 bool WinSpecA::GroupBoxSource_DragEnter()
 {
-    const auto points = [](int length) { return static_cast<Int16>(length); };
-    AffCanvDrag(points(GroupBoxSource.Left()), points(GroupBoxSource.Top()), points(GroupBoxSource.Width()),
-                points(GroupBoxSource.Height()));
+    AffCanvDrag(GroupBoxSource.Left(), GroupBoxSource.Top(), GroupBoxSource.Width(), GroupBoxSource.Height());
     return false;
 }
 
@@ -76,21 +67,14 @@ void WinSpecA::GroupBoxSource_DropObject(const DragItem& item)
     AffCanvDrag(0, 0, -1, -1);
     if (!Fncts::DrapMenu) return Fncts::BeepNbT(1);
     if (std::optional<FolderItem> dropped = DroppedText(item)) return ActButtSource(std::move(dropped));
-    Fncts::BeepNbT(1);
     Tell(Txt_DropQueFichTxt(), 0);
 }
 
-void WinSpecA::AffCanvDrag(Int16 left, Int16 top, Int16 width, Int16 height)
+void WinSpecA::AffCanvDrag(int left, int top, int width, int height)
 {
-    const bool hides = width < 0 || height < 0;
-    if (hides) {
-        CanvDrag.SetVisible(false);
-        CanvDrag.Refresh();
-    }
-    constexpr int parkedSize = 20, parkedTop = 2;
-    CanvDrag.SetLeft(hides ? PushButtSource.Left() + PushButtSource.Width() - parkedSize : left);
-    CanvDrag.SetTop(hides ? parkedTop : top);
-    CanvDrag.SetWidth(hides ? parkedSize : width);
-    CanvDrag.SetHeight(hides ? parkedSize : height);
-    if (!hides) CanvDrag.SetVisible(true);
+    CanvDrag.SetVisible(width >= 0);
+    CanvDrag.SetLeft(left);
+    CanvDrag.SetTop(top);
+    CanvDrag.SetWidth(width);
+    CanvDrag.SetHeight(height);
 }

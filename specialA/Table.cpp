@@ -9,11 +9,6 @@ namespace {
 
 constexpr StringView tab = U"\t";
 
-String ElementOf(const std::vector<String>& list, std::size_t index)
-{
-    return index < list.size() ? list[index] : String();
-}
-
 /// What a screen reader sets, or the name of a file, may hold what parts the elements of a kept list, and the lines of
 /// the file that keeps it.
 String OneElement(StringView text) { return ReplaceAll(ReplaceLineEndings(text, U" "), tab, U" "); }
@@ -22,14 +17,17 @@ String OneElement(StringView text) { return ReplaceAll(ReplaceLineEndings(text, 
 
 void WinSpecA::ShowTable()
 {
-    const App& app = App::Current();
-    if (!app.TabSpecAorg.empty()) TextFieldOrg.SetText(app.TabSpecAorg.front());
-    if (!app.TabSpecAdest1.empty()) TextFieldDest1.SetText(app.TabSpecAdest1.front());
-    if (!app.TabSpecAdest2.empty()) TextFieldDest2.SetText(app.TabSpecAdest2.front());
-    const std::size_t longest = std::max({app.TabSpecAorg.size(), app.TabSpecAdest1.size(), app.TabSpecAdest2.size()});
+    App& app = App::Current();
+    std::size_t longest = 1;
+    for (const auto* list : {&app.TabSpecAorg, &app.TabSpecAdest1, &app.TabSpecAdest2})
+        longest = std::max(longest, list->size());
+    for (auto* list : {&app.TabSpecAorg, &app.TabSpecAdest1, &app.TabSpecAdest2})
+        list->resize(longest);
+    TextFieldOrg.SetText(app.TabSpecAorg.front());
+    TextFieldDest1.SetText(app.TabSpecAdest1.front());
+    TextFieldDest2.SetText(app.TabSpecAdest2.front());
     for (std::size_t i = 1; i < longest; ++i)
-        ListboxRR.AddRow(
-            {ElementOf(app.TabSpecAorg, i), ElementOf(app.TabSpecAdest1, i), ElementOf(app.TabSpecAdest2, i)});
+        ListboxRR.AddRow({app.TabSpecAorg[i], app.TabSpecAdest1[i], app.TabSpecAdest2[i]});
 }
 
 Int16 WinSpecA::FaireTab()
@@ -56,22 +54,25 @@ void WinSpecA::PushButtSupp_Pressed()
 {
     const int last = ListboxRR.LastRowIndex(), selected = ListboxRR.SelectedRowIndex();
     if (selected >= 0) return ListboxRR.RemoveRowAt(selected);
-    const auto isEmpty = [&](int column) { return ListboxRR.CellTextAt(last, column).empty(); };
-    if (last >= 0 && isEmpty(0) && isEmpty(1) && isEmpty(2)) return ListboxRR.RemoveRowAt(last);
+    if (last >= 0 && Line(last) == U"\t\t") return ListboxRR.RemoveRowAt(last);
     Fncts::BeepNbT(1);
 }
 
 String WinSpecA::Heading() const
 {
-    return Join({{TextFieldOrg.Text(), TextFieldDest1.Text(), TextFieldDest2.Text()}}, tab);
+    return TextFieldOrg.Text() + U"\t" + TextFieldDest1.Text() + U"\t" + TextFieldDest2.Text();
+}
+
+String WinSpecA::Line(int row) const
+{
+    return ListboxRR.CellTextAt(row, 0) + U"\t" + ListboxRR.CellTextAt(row, 1) + U"\t" + ListboxRR.CellTextAt(row, 2);
 }
 
 void WinSpecA::PushButtCopiList_Pressed()
 {
     String text = Heading() + U"\n\n";
     for (int row = 0; row <= ListboxRR.LastRowIndex(); ++row)
-        text += ListboxRR.CellTextAt(row, 0) + U"\t" + ListboxRR.CellTextAt(row, 1) + U"\t" +
-                ListboxRR.CellTextAt(row, 2) + U"\n";
+        text += Line(row) + U"\n";
     Fncts::PlayT(Fncts::_x_Bip::Bip());
     Fncts::PressPapTxt(text);
 }

@@ -13,16 +13,6 @@
 
 using namespace Localisation;
 
-namespace {
-
-void SetIdle(bool idle)
-{
-    Fncts::DrapMenu = idle;
-    App::Current().EnableMenuBoutons();
-}
-
-} // namespace
-
 void WinSpecA::EnableControls(bool idle)
 {
     for (DesktopUIControl* control : std::initializer_list<DesktopUIControl*>{
@@ -37,23 +27,26 @@ Int16 WinSpecA::Ask(StringView message, StringView action, StringView cancel, In
         {.message = message, .btnAction = action, .btnCancel = cancel, .icon = icon, .win = this});
 }
 
-void WinSpecA::Tell(StringView message, Int16 icon) { Ask(message, Btn_Ok(), {}, icon); }
+void WinSpecA::Tell(StringView message, Int16 icon)
+{
+    Fncts::BeepNbT(1);
+    Ask(message, Btn_Ok(), {}, icon);
+}
 
 void WinSpecA::PushButtTrait_Pressed()
 {
     CanvFocus.SetFocus();
-    if (!FairePath()) {
-        Fncts::BeepNbT(1);
-        return Tell(Txt_FichOrgNonDef(), 0);
-    }
-    SetIdle(false);
+    if (!FairePath()) return Tell(Txt_FichOrgNonDef(), 0);
+    Fncts::DrapMenu = false;
+    App::Current().EnableMenuBoutons();
     try {
         TreatOriginal();
     } catch (const std::bad_alloc&) {
         ProgressTrait.SetVisible(false);
-        TellWriteError();
+        Tell(Txt_ErreurEcritFich(), 1);
     }
-    SetIdle(true);
+    Fncts::DrapMenu = true;
+    App::Current().EnableMenuBoutons();
 }
 
 void WinSpecA::TreatOriginal()
@@ -88,23 +81,17 @@ Treatment WinSpecA::TreatVisibly(StringView original)
     return treated;
 }
 
-void WinSpecA::TellWriteError()
-{
-    Fncts::BeepNbT(1);
-    Tell(Txt_ErreurEcritFich(), 1);
-}
-
 void WinSpecA::WriteDestination(StringView name, const std::optional<String>& text, StringView original)
 {
     if (name.empty()) return;
-    if (!text) return TellWriteError();
+    if (!text) return Tell(Txt_ErreurEcritFich(), 1);
     if (SameText(*text, original)) {
         Fncts::BeepNbT(1);
         if (Ask(Txt_FichPasModif(), Btn_Cont(), Btn_Arreter(), 0) != 1) return;
     }
     const std::optional<FolderItem> target = FreeTarget(name);
     if (!target) return;
-    if (!Fncts::SauvFichier(*target, *text)) return TellWriteError();
+    if (!Fncts::SauvFichier(*target, *text)) return Tell(Txt_ErreurEcritFich(), 1);
     Fncts::PlayT(Fncts::_x_Msg::Msg());
 }
 
@@ -114,7 +101,7 @@ std::optional<FolderItem> WinSpecA::FreeTarget(StringView name)
     std::optional<FolderItem> target = folder ? folder->Child(name, false) : std::nullopt;
     if (!target) {
         // A name that no file can have, or that would lead out of the folder.
-        TellWriteError();
+        Tell(Txt_ErreurEcritFich(), 1);
         return {};
     }
     if (!target->Exists()) return target;
@@ -122,7 +109,6 @@ std::optional<FolderItem> WinSpecA::FreeTarget(StringView name)
     const String named = Fncts::FracTexte(question, 1) + String(name) + Fncts::FracTexte(question, 2);
     if (Ask(named, Btn_Remplacer(), Btn_NePasRempl(), 0) != 1) return {};
     if (!Fncts::RemoveFileOrFolder(*target, false)) return target;
-    Fncts::BeepNbT(1);
     Tell(Txt_Rempl_Imposs(), 1);
     return {};
 }

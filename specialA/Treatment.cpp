@@ -3,53 +3,28 @@
 #include "specialA/FoldedText.h"
 
 #include <algorithm>
-#include <array>
 #include <unordered_set>
 
 namespace {
 
-/// A row made ready for searching.
+/// A row that searches for something.
 struct Step {
-    Needle needle;
-    std::array<Replacement, 2> replacements;
+    const ReplacementRow& row;
+    Needle needle{row.searched};
     Int64 count = 0;
 };
 
-std::vector<Step> StepsOf(std::span<const ReplacementRow> rows)
-{
-    std::vector<Step> steps;
-    for (const ReplacementRow& row : rows)
-        if (!row.searched.empty())
-            steps.push_back({Needle(row.searched), {Replacement(row.replacement1), Replacement(row.replacement2)}});
-    return steps;
-}
-
-/// Where a text can be cut so that no match is.
+/// The first piece of a text: some thousand characters, or more where it can't be cut so that no match is.
 ///
 /// A character that no row searches for is never part of a match, and stays where it is whatever the rows do beside it.
 /// What lies between two of them can be treated by itself, in a piece that the processor's caches hold.
-class Cuts {
-public:
-    explicit Cuts(std::span<const Step> steps)
-    {
-        for (const Step& step : steps)
-            searched_.insert(step.needle.Folded().begin(), step.needle.Folded().end());
-    }
-
-    /// The first piece of a text: some thousand characters, or more where it can't be cut.
-    [[nodiscard]] StringView First(StringView text) const
-    {
-        constexpr std::size_t wanted = 8000;
-        for (std::size_t end = wanted; end < text.size(); ++end)
-            if (!searched_.contains(FoldCase(text[end]))) return text.substr(0, end);
-        return text;
-    }
-
-private:
-    std::unordered_set<char32_t> searched_;
-};
-
-constexpr std::array destinations{&Treatment::dest1, &Treatment::dest2};
+StringView FirstPiece(StringView text, const std::unordered_set<char32_t>& searched)
+{
+    constexpr std::size_t wanted = 8000;
+    for (std::size_t end = wanted; end < text.size(); ++end)
+        if (!searched.contains(FoldCase(text[end]))) return text.substr(0, end);
+    return text;
+}
 
 /// Adds what is found in a piece to the counts of the steps.
 void CountIn(StringView piece, std::span<Step> steps, const std::function<void()>& stepDone)
@@ -63,7 +38,7 @@ void CountIn(StringView piece, std::span<Step> steps, const std::function<void()
 
 /// Appends a variant of a piece to its destination, which becomes nothing when it would have more than `most`
 /// characters.
-void AppendVariant(StringView piece, std::span<const Step> steps, std::size_t number, Int64 most,
+void AppendVariant(StringView piece, std::span<const Step> steps, String ReplacementRow::*replacement, Int64 most,
                    std::optional<String>& destination, const std::function<void()>& stepDone)
 {
     FoldedText variant(piece);
@@ -71,19 +46,9 @@ void AppendVariant(StringView piece, std::span<const Step> steps, std::size_t nu
         stepDone();
         if (!destination) continue;
         const Int64 room = most - std::ssize(*destination);
-        if (!variant.Replace(step.needle, step.replacements[number], room)) destination.reset();
+        if (!variant.Replace(step.needle, step.row.*replacement, room)) destination.reset();
     }
     if (destination) destination->append(variant.Text());
-}
-
-String ReportOf(std::span<const ReplacementRow> rows, std::span<const Step> steps)
-{
-    String report;
-    auto step = steps.begin();
-    for (const ReplacementRow& row : rows)
-        if (!row.searched.empty())
-            report.append(EndOfLine::Native).append(U" • " + ToText((step++)->count) + U" x “" + row.searched + U"”");
-    return report;
 }
 
 } // namespace
@@ -91,27 +56,34 @@ String ReportOf(std::span<const ReplacementRow> rows, std::span<const Step> step
 Treatment Treat(StringView original, std::span<const ReplacementRow> rows,
                 const std::function<void(Int64 done, Int64 total)>& progress)
 {
-    std::vector<Step> steps = StepsOf(rows);
-    const Cuts cuts(steps);
-    Treatment treatment;
-    for (const auto destination : destinations)
-        (treatment.*destination).emplace().reserve(original.size());
+    std::vector<Step> steps;
+    std::unordered_set<char32_t> searched;
+    for (const ReplacementRow& row : rows) {
+        if (row.searched.empty()) continue;
+        const String& folded = steps.emplace_back(row).needle.folded;
+        searched.insert(folded.begin(), folded.end());
+    }
+    Treatment treatment{.report = {}, .dest1 = String(), .dest2 = String()};
+    treatment.dest1->reserve(original.size());
+    treatment.dest2->reserve(original.size());
 
     const Int64 most = std::max(Treatment::MostCharacters, Treatment::MostGrowth * std::ssize(original));
-    const Int64 passes = 1 + std::ssize(destinations);
+    constexpr Int64 passes = 3;
     const Int64 total = std::ssize(original) * std::ssize(steps) * passes;
     Int64 done = 0;
     for (StringView rest = original; !rest.empty();) {
-        const StringView piece = cuts.First(rest);
+        const StringView piece = FirstPiece(rest, searched);
         const auto stepDone = [&] {
             done += std::ssize(piece);
             if (progress) progress(done, total);
         };
         CountIn(piece, steps, stepDone);
-        for (std::size_t i = 0; i < destinations.size(); ++i)
-            AppendVariant(piece, steps, i, most, treatment.*destinations[i], stepDone);
+        AppendVariant(piece, steps, &ReplacementRow::replacement1, most, treatment.dest1, stepDone);
+        AppendVariant(piece, steps, &ReplacementRow::replacement2, most, treatment.dest2, stepDone);
         rest.remove_prefix(piece.size());
     }
-    treatment.report = ReportOf(rows, steps);
+    for (const Step& step : steps)
+        treatment.report.append(EndOfLine::Native)
+            .append(U" • " + ToText(step.count) + U" x “" + step.row.searched + U"”");
     return treatment;
 }

@@ -20,10 +20,9 @@ bool PaintStripe(Graphics& graphics, int row, int width, int height)
 {
     constexpr ColorGroup darkEven{0x292626}, darkOdd{0x211E1E}, lightEven{0xF3F6FA};
     const bool even = row % 2 == 0, dark = IsDarkMode();
-    if (even || dark) {
-        graphics.SetDrawingColor(!dark ? lightEven : even ? darkEven : darkOdd);
-        graphics.FillRectangle(0, 0, width, height);
-    }
+    if (!even && !dark) return false;
+    graphics.SetDrawingColor(!dark ? lightEven : even ? darkEven : darkOdd);
+    graphics.FillRectangle(0, 0, width, height);
     return false;
 }
 
@@ -120,7 +119,7 @@ void WinSpecA::Event_Opening()
     SetTop(winMain_.Top());
     if (app.WspecAheight >= MinimumHeight() && Top() + app.WspecAheight < DesktopDisplay::DisplayAt(0).Height)
         SetHeight(app.WspecAheight);
-    if (!segButtSpecA_.Selected(0)) segButtSpecA_.SetSelected(0, true);
+    segButtSpecA_.SetSelected(0, true);
     ShowTable();
     FichOrg = Fncts::GetFitemAbsPath(app.PathSpecA, true);
     FairePath();
@@ -137,7 +136,7 @@ bool WinSpecA::Event_CancelClosing(bool appQuitting)
         Fncts::BeepNbT(1);
         return true;
     }
-    if (segButtSpecA_.Selected(0)) segButtSpecA_.SetSelected(0, false);
+    segButtSpecA_.SetSelected(0, false);
     if (!appQuitting) FermFenetr();
     return false;
 }
@@ -152,6 +151,5 @@ void WinSpecA::FermFenetr()
 void WinSpecA::PushButtQuit_Pressed()
 {
     CanvFocus.SetFocus();
-    FermFenetr();
     App::Current().Quit(0);
 }

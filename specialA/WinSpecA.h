@@ -72,18 +72,22 @@ private:
     // Source.cpp
     /// Brings path, label and field in line with `FichOrg`; true when that can be treated.
     bool FairePath();
-    void AffCanvDrag(Int16 left, Int16 top, Int16 width, Int16 height);
+    /// Darkens that place, or nothing with a width below 0.
+    void AffCanvDrag(int left, int top, int width, int height);
 
     // Table.cpp
     static constexpr int MostRows = 1000;
     void ShowTable();
     /// The names of the three files, as they stand above the copied rows.
     [[nodiscard]] String Heading() const;
+    /// The cells of a row with tabs between them.
+    [[nodiscard]] String Line(int row) const;
     /// Brings the lists of `App` in line with the window; the result is the number of rows.
     Int16 FaireTab();
 
     // Treat.cpp
     Int16 Ask(StringView message, StringView action, StringView cancel, Int16 icon);
+    /// After a beep.
     void Tell(StringView message, Int16 icon);
     /// Treats the original and writes what comes of it, after all questions.
     void TreatOriginal();
@@ -91,7 +95,6 @@ private:
     Treatment TreatVisibly(StringView original);
     /// Writes one variant under that name beside the original; nothing is a variant that couldn't be made.
     void WriteDestination(StringView name, const std::optional<String>& text, StringView original);
-    void TellWriteError();
     /// The item of that name beside the original, free to be written to; nothing when it isn't, which was told.
     std::optional<FolderItem> FreeTarget(StringView name);
 
