@@ -60,8 +60,8 @@ Treatment Treat(StringView original, std::span<const ReplacementRow> rows,
     std::unordered_set<char32_t> searched;
     for (const ReplacementRow& row : rows) {
         if (row.searched.empty()) continue;
-        const String& folded = steps.emplace_back(row).needle.folded;
-        searched.insert(folded.begin(), folded.end());
+        steps.push_back({row});
+        searched.insert(steps.back().needle.folded.begin(), steps.back().needle.folded.end());
     }
     Treatment treatment{.report = {}, .dest1 = String(), .dest2 = String()};
     treatment.dest1->reserve(original.size());

@@ -67,7 +67,7 @@ TEST(Treatment, RandomTextsAsTheNaiveWay)
     };
     for (int round = 0; round < 400; ++round) {
         SCOPED_TRACE(round);
-        const String original = text(round % 100 == 0 ? 30'000 : 60);
+        const String original = text(round % 20 == 0 ? 30'000 : 60);
         Rows rows;
         for (std::size_t count = roll(6); count > 0; --count)
             rows.push_back({text(4), text(3), text(5)});

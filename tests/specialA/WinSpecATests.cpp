@@ -56,7 +56,9 @@ protected:
 
 TEST_F(SpecialA, WritesWhatTheAnswersAllow)
 {
-    const String failed = U"Il y a eu une erreur pendant l'écriture du fichier.[Ok]";
+    const String failed = U"Il y a eu une erreur pendant l'écriture du fichier.[Ok]",
+                 unchanged = U"Le fichier n'a pas été modifié, souhaitez-vous l'enregistrer tout de même ?"
+                             U"[Continuer][Arrêter]";
     using Answers = std::deque<Probe::Answer>;
     struct Row {
         const char* name;
@@ -65,6 +67,7 @@ TEST_F(SpecialA, WritesWhatTheAnswersAllow)
         const char* files; // the first, the second and the original one
         std::vector<String> more;
         int sounds;
+        StringView replacement1 = U"1";
     };
     const Row rows[] = {
         {"both are written", U"one", U"two", {}, "x 1|x 2|x A", {}, 2},
@@ -75,6 +78,7 @@ TEST_F(SpecialA, WritesWhatTheAnswersAllow)
         {"the original when so wanted", U"original.txt", U"", {}, "||x 1", {Exists(U"original.txt")}, 1},
         {"a full folder is kept when so wanted", U"full", U"two", {1, 2}, "|x 2|x A", {Exists(U"full")}, 1},
         {"no name leads out of the folder", U"../two", U"..", {}, "||x A", {failed, failed}, 0},
+        {"another case alone is no change", U"one", U"two", {1, 2}, "|x 2|x A", {unchanged}, 1, U"a"},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
@@ -83,6 +87,7 @@ TEST_F(SpecialA, WritesWhatTheAnswersAllow)
         folder.File("in/taken", "old");
         folder.File("two", "outside");
         folder.File("in/full/inner", "kept");
+        app.TabSpecAdest1 = {U"", String(row.replacement1)};
         Open(original);
         window->TextFieldDest1.SetText(row.dest1);
         window->TextFieldDest2.SetText(row.dest2);
@@ -107,18 +112,6 @@ TEST_F(SpecialA, AFullFolderGivesWayWhenTheUserSaysSo)
     window->PushButtTrait_Pressed();
     EXPECT_EQ(Asked(), (std::vector{found, Exists(U"one")}));
     EXPECT_EQ(folder.Content("one"), "x 1");
-}
-
-TEST_F(SpecialA, AsksBeforeItWritesAnUnchangedText)
-{
-    const auto original = folder.File("original.txt", "X A");
-    app.TabSpecAdest1[1] = U"a";
-    Open(original);
-    probe.Answers = {1, 2};
-    window->PushButtTrait_Pressed();
-    EXPECT_EQ(std::ssize(Asked()), 2) << "another case alone is no change";
-    EXPECT_EQ(folder.Content("one"), "");
-    EXPECT_EQ(folder.Content("two"), "X 2") << "the other is written all the same";
 }
 
 TEST_F(SpecialA, StaysAliveInALongTreatment)
