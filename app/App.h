@@ -4,27 +4,13 @@
 #include "app/MenuBar1.h"
 #include "toolkit/DesktopApplication.h"
 
-#include <functional>
-#include <vector>
-
-/// What the application asks of the main window. The window puts these in when it is made, so that this room needn't
-/// know it.
-struct MainWindowLink {
-    /// Enables or disables every control that a user may only touch while the program is idle.
-    std::function<void(bool idle)> EnableControls;
-    /// The acts behind the menu items; `reveal` shows the present item in the file manager instead of a chooser.
-    std::function<void(bool reveal)> ActSelFichModel, ActSelArchivDoss, ActSelFichSpack;
-    std::function<void()> ActSaveFile;
-    std::function<void()> ShowPreferences;
-};
-
 class App final : public DesktopApplication {
 public:
     App(int& argc, char** argv);
-    ~App() override;
+    ~App() override { current_ = nullptr; }
 
     /// The one application object; it lives as long as `main` runs.
-    static App& Current();
+    static App& Current() { return *current_; }
 
     /// The replacement table: element 0 of each list is the file name in its field, the others are the rows.
     std::vector<String> TabSpecAorg, TabSpecAdest1, TabSpecAdest2;
@@ -37,10 +23,13 @@ public:
     /// The button "Spécial A" of the main window is shown.
     bool DrapAffBtnSpecA = false;
 
-    MainWindowLink MainWindow;
+    MenuBar1 Menus;
+    /// Enables or disables every control that a user may only touch while the program is idle. The main window puts it
+    /// in when it is made, as it does with what the menu's items do.
+    std::function<void(bool idle)> EnableControls;
 
-    /// Brings the interface in line with `Fncts::DrapMenu`; to be called after each change of it.
-    void EnableMenuBoutons() const;
+    /// Sets `Fncts::DrapMenu`, and brings the interface in line with it.
+    void EnableMenuBoutons(bool idle) const;
 
     /// Whether `ext`, with its leading dot, is an extension of text files; case is ignored.
     [[nodiscard]] static bool ExtInFileType(StringView ext);
@@ -50,13 +39,6 @@ public:
     Int16 DefVolSon(Int16 value, bool set);
 
 private:
-    void Event_MenuBarSelected();
-    bool ApplePrefs_Action() const;
-    bool FichSaveFile_Action() const;
-    bool FichSelArchivDoss_Action() const;
-    bool FichSelFichSpack_Action() const;
-    bool FichSelFichModel_Action() const;
-
-    MenuBar1 menuBar_;
+    static inline App* current_ = nullptr;
     Int16 volSon_ = 80;
 };

@@ -1,23 +1,46 @@
 /// The program's menu bar.
 #pragma once
 
+#include "localisation/Localisation.h"
 #include "toolkit/DesktopMenu.h"
 
-/// The items whose handlers or state belong to the program are members; the Edit items are served by the platform's
-/// text controls.
-class MenuBar1 {
-public:
-    MenuBar1();
+/// The items, as members named like themselves. The main window says what its items do; the others are served by the
+/// platform: those of a text by the text control that has the focus.
+struct MenuBar1 {
+    DesktopMenuItem FichSelFichModel{U"FichSelFichModel", Localisation::Menu_FichSelFichMod(), U"Cmd+Shift+O"};
+    DesktopMenuItem FichSelArchivDoss{U"FichSelArchivDoss", Localisation::Menu_FichSelDossArchiv(), U"Cmd+Option+O"};
+    DesktopMenuItem FichSelFichSpack{U"FichSelFichSpack", Localisation::Menu_FichSelFichScenPack(), U"Cmd+O"};
+    DesktopMenuItem FichSaveFile{U"FichSaveFile", Localisation::Btn_SauvFichier(), U"Cmd+S"};
+    DesktopQuitMenuItem FileQuit{U"FileQuit", U"&Quit", U"Cmd+Cmd+Q"};
 
-    DesktopMenuItem FichSelFichModel, FichSelArchivDoss, FichSelFichSpack, FichSaveFile;
-    DesktopPreferencesMenuItem ApplePrefs;
+    DesktopMenuItem EditUndo{U"EditUndo", U"&Undo", U"Cmd+Z", EditCommand::Undo};
+    DesktopMenuItem EditCut{U"EditCut", Localisation::Menu_EditCut(), U"Cmd+X", EditCommand::Cut};
+    DesktopMenuItem EditCopy{U"EditCopy", Localisation::Menu_EditCopy(), U"Cmd+C", EditCommand::Copy};
+    DesktopMenuItem EditPaste{U"EditPaste", Localisation::Menu_EditPaste(), U"Cmd+V", EditCommand::Paste};
+    DesktopMenuItem EditClear{U"EditClear", Localisation::Menu_EditClear(), U"", EditCommand::Clear};
+    DesktopMenuItem EditSelectAll{U"EditSelectAll", Localisation::Menu_EditSelectAll(), U"Cmd+A",
+                                  EditCommand::SelectAll};
+    DesktopPreferencesMenuItem ApplePrefs{U"ApplePrefs", Localisation::Menu_Preferences(), U"Cmd+,"};
 
-    /// The two menus from top to bottom.
-    [[nodiscard]] DesktopMenuBar Menus();
+    DesktopMenuItem UntitledSeparator{U"UntitledSeparator", U"-"};
 
-private:
-    DesktopMenuItem untitledSeparator_;
-    DesktopQuitMenuItem fileQuit_;
-    DesktopMenuItem editUndo_, untitledSeparator0_, editCut_, editCopy_, editPaste_, editClear_, editSelectAll_,
-        untitledSeparator1_;
+    /// The menus from left to right, their items from top to bottom.
+    DesktopMenuBar Menus()
+    {
+        return {
+            {U"FileMenu",
+             Localisation::Menu_Fichier(),
+             {&FichSelFichModel, &FichSelArchivDoss, &FichSelFichSpack, &FichSaveFile, &UntitledSeparator, &FileQuit}},
+            {U"EditMenu",
+             Localisation::Menu_Edit(),
+             {&EditUndo, &UntitledSeparator, &EditCut, &EditCopy, &EditPaste, &EditClear, &EditSelectAll,
+              &UntitledSeparator, &ApplePrefs}},
+        };
+    }
+
+    /// The items that can be chosen only while the program is idle.
+    std::vector<DesktopMenuItem*> WhenIdle()
+    {
+        return {&FichSelFichModel, &FichSelArchivDoss, &FichSelFichSpack, &FichSaveFile, &ApplePrefs};
+    }
 };

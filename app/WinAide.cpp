@@ -3,10 +3,10 @@
 #include "app/Addresses.h"
 #include "app/App.h"
 #include "app/Build.h"
+#include "app/Link.h"
 #include "localisation/Localisation.h"
 #include "support/Fncts.h"
 #include "support/Sounds.h"
-#include "support/TextHelpers.h"
 #include "toolkit/Desktop.h"
 
 #include <utility>
@@ -50,8 +50,8 @@ WinAide::WinAide()
     CancelClosing = [this](bool) { return Event_CancelClosing(); };
     Activated = [this] { Fncts::CmLabBlockUI(2, this, nullptr, nullptr); };
     BoutonOk.Pressed = [this] { BoutonOk_Pressed(); };
-    MakeLink(Web2, OnWeb2, [this] { System::GotoURL(Web2.Text()); });
-    MakeLink(Email2, OnEmail2, [this] { FollowEmail2(); });
+    MakeLink(Web2, [this] { System::GotoURL(Web2.Text()); });
+    MakeLink(Email2, [this] { FollowEmail2(); });
 }
 
 void WinAide::Event_Opening()
@@ -72,34 +72,15 @@ bool WinAide::Event_CancelClosing()
     return DrapMovableModal;
 }
 
-void WinAide::BoutonOk_Pressed() { FermeFentr(); }
-
-void WinAide::FermeFentr()
+void WinAide::BoutonOk_Pressed()
 {
     DrapMovableModal = false;
     Close();
 }
 
-void WinAide::MakeLink(DesktopLabel& label, bool& on, std::function<void()> follow)
-{
-    label.MouseEnter = [&label] {
-        if (label.Enabled()) SetMouseCursor(Cursor::FingerPointer);
-    };
-    label.MouseExit = [] { SetMouseCursor(Cursor::StandardPointer); };
-    label.MouseDown = [&on](int, int) {
-        on = true;
-        return true;
-    };
-    label.MouseUp = [&label, &on, follow = std::move(follow)](int x, int y) {
-        if (!std::exchange(on, false)) return;
-        SetMouseCursor(Cursor::StandardPointer);
-        if (x >= 0 && x <= label.Width() && y >= 0 && y <= label.Height()) follow();
-    };
-}
-
 void WinAide::FollowEmail2() const
 {
-    const String subject = U"A propos de Tarnivel v." + App::Current().Version + U" " + Fncts::TypeCompil() + U" - " +
-                           String(Build::Stamp);
+    const String subject = Join(
+        {{U"A propos de Tarnivel v." + App::Current().Version, U" ", Build::TypeCompil, U" - ", Build::Stamp}}, {});
     System::GotoURL(U"mailto:" + EncodeURLComponent(Email2.Text()) + U"?Subject=" + EncodeURLComponent(subject));
 }

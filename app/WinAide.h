@@ -2,9 +2,7 @@
 #pragma once
 
 #include "support/Covers.h"
-#include "toolkit/DesktopControls.h"
 #include "toolkit/DesktopTextArea.h"
-#include "toolkit/DesktopWindow.h"
 
 /// Tells what the program is, and how to reach its makers; its one button alone closes it. One object is one opening.
 class WinAide final : public DesktopWindow {
@@ -23,13 +21,8 @@ public:
 private:
     void Event_Opening();
     bool Event_CancelClosing();
-    /// Makes the label a link: `follow` runs when the mouse goes down and up on it.
-    static void MakeLink(DesktopLabel& label, bool& on, std::function<void()> follow);
     void FollowEmail2() const;
-    void FermeFentr();
 
-    /// The mouse went down on the link and hasn't come up yet.
-    bool OnWeb2 = false, OnEmail2 = false;
     /// The window refuses to close.
     bool DrapMovableModal = false;
     /// `Fncts::DrapMenu` as it was before.

@@ -31,12 +31,6 @@ std::optional<FolderItem> ChooseFolder(const FolderItem& start)
 
 } // namespace
 
-void WinMain::BtnSelFichModel_Pressed() { ActSelFichModel(Keyboard::AsyncShiftKey()); }
-
-void WinMain::BtnSelFichSpack_Pressed() { ActSelFichSpack(Keyboard::AsyncShiftKey()); }
-
-void WinMain::BtnSelArchivDoss_Pressed() { ActSelArchivDoss(Keyboard::AsyncShiftKey()); }
-
 void WinMain::ActSelFichModel(bool reveal)
 {
     if (const auto chosen = RevealOrChoose(TextFieldMod1, reveal, ChooseFile)) TakeModel(*chosen);
@@ -79,20 +73,18 @@ std::function<void(const FolderItem& item)> WinMain::IfUsable(void (WinMain::*ta
 void WinMain::TakeModel(const FolderItem& item)
 {
     TextFieldMod1.SetText(Fncts::AbsPath_f(item, true));
-    InitVars(true, false);
+    texts_.InitVars(true, false);
     AffArea();
 }
 
 void WinMain::TakeSpack(const FolderItem& item)
 {
     TextFieldSpack.SetText(Fncts::AbsPath_f(item, true));
-    InitVars(false, true);
+    texts_.InitVars(false, true);
     AffArea();
 }
 
 void WinMain::TakeArchiveFolder(const FolderItem& item) { TextFieldArchiv.SetText(Fncts::AbsPath_f(item, true)); }
-
-void WinMain::BtnOuvUrlModel_Pressed() const { System::GotoURL(TextFieldMod2.Text()); }
 
 void WinMain::BtnAffDoss_Pressed()
 {

@@ -4,7 +4,6 @@
 #include "localisation/Localisation.h"
 #include "mainwindow/ReportSeries.h"
 #include "mainwindow/WinMain.h"
-#include "support/DialogHelpers.h"
 #include "support/Fncts.h"
 #include "support/PathForm.h"
 #include "support/Sounds.h"
@@ -13,12 +12,6 @@
 namespace {
 
 constexpr int fetchTimeout = 10;
-
-void SetIdle(bool idle)
-{
-    Fncts::DrapMenu = idle;
-    App::Current().EnableMenuBoutons();
-}
 
 /// Replaces `text` by its accepted form or by an error text; true when it was refused.
 bool Refuses(String& text)
@@ -34,11 +27,11 @@ void WinMain::BtnRun_Pressed()
 {
     if (Fncts::DrapMenu) {
         TextAreaAff.SetFocus();
-        SetIdle(false);
+        App::Current().EnableMenuBoutons(false);
         TimerDebRun.SetRunMode(Timer::RunModes::Single);
     } else {
         URLCnctLirePage.Disconnect();
-        InitVars(true, false);
+        texts_.InitVars(true, false);
         AffArea();
         EndRun();
     }
@@ -46,35 +39,19 @@ void WinMain::BtnRun_Pressed()
 
 void WinMain::TimerDebRun_Action()
 {
-    InitVars(true, true);
-    if (RadGrpSrc.SelectedIndex() == 0) {
-        texts_.TextModel = Fncts::LireFichier(Fncts::GetFitemAbsPath(TextFieldMod1.Text(), false));
-        return RunSuite();
-    }
+    texts_.InitVars(true, true);
+    if (RadGrpSrc.SelectedIndex() == 0)
+        return RunSuite(Fncts::LireFichier(Fncts::GetFitemAbsPath(TextFieldMod1.Text(), false)));
     const String url = TextFieldMod2.Text();
     if (BeginsWith(url, U"http://") || BeginsWith(url, U"https://"))
         return URLCnctLirePage.Send(U"Get", url, fetchTimeout);
-    Fncts::BeepNbT(1);
-    Fncts::MyDialogBox(
-        {.message = Localisation::Txt_UrlDoitCommencer(), .btnAction = Localisation::Btn_Ok(), .win = this});
-    RunSuite();
+    Tell(Localisation::Txt_UrlDoitCommencer());
+    RunSuite({});
 }
 
-void WinMain::URLCnctLirePage_ContentReceived(const String& /*url*/, Int64 /*httpStatus*/, const Bytes& content)
+void WinMain::RunSuite(String model)
 {
-    // An error page is content like any other: the header test refuses it.
-    texts_.TextModel = Fncts::TextOfBytes(content);
-    RunSuite();
-}
-
-void WinMain::URLCnctLirePage_Error(const RuntimeException& error)
-{
-    texts_.TextModel = String(ErrorMarker) + ToText(error.ErrorNumber) + U" " + error.Message;
-    RunSuite();
-}
-
-void WinMain::RunSuite()
-{
+    texts_.TextModel = std::move(model);
     bool failed = Refuses(texts_.TextModel);
     const std::optional<FolderItem> spack = Fncts::GetFitemAbsPath(TextFieldSpack.Text(), false);
     texts_.TextSrcSpack = Fncts::LireFichier(spack);
@@ -91,18 +68,14 @@ void WinMain::RunSuite()
 
 void WinMain::EndRun()
 {
-    SetIdle(true);
+    App::Current().EnableMenuBoutons(true);
     // A disabled text area has lost the focus that it got when the run began.
     TextAreaAff.SetFocus();
 }
 
 void WinMain::Reorder(const FolderItem& dossier)
 {
-    ReportSeries reports([this](const String& message, const String& explanation) {
-        Fncts::BeepNbT(1);
-        Fncts::MyDialogBox(
-            {.message = message, .explanation = explanation, .btnAction = Localisation::Btn_Ok(), .win = this});
-    });
+    ReportSeries reports([this](const String& message, const String& explanation) { Tell(message, explanation); });
     CreerSpack(texts_, dossier,
                [&reports](const String& message, const String& explanation) { reports.Add(message, explanation); });
     reports.Finish();

@@ -3,14 +3,20 @@
 #include "app/Addresses.h"
 #include "app/App.h"
 #include "app/Build.h"
+#include "app/Link.h"
+#include "app/WinAide.h"
+#include "engine/SceneryText.h"
 #include "localisation/Localisation.h"
+#include "preferences/WinPrefs.h"
+#include "specialA/WinSpecA.h"
+#include "support/Diagnostics.h"
 #include "support/DialogHelpers.h"
 #include "support/FileHelpers.h"
 #include "support/Fncts.h"
 #include "support/Sounds.h"
+#include "support/TextFiles.h"
 #include "support/TextHelpers.h"
 #include "toolkit/Desktop.h"
-#include "toolkit/Dialogs.h"
 
 using namespace Localisation;
 
@@ -64,7 +70,10 @@ WinMain::WinMain()
     URLCnctLirePage.AllowCertificateValidation = false;
     NameControls();
     BindHandlers();
+    BindMenus();
 }
+
+WinMain::~WinMain() = default;
 
 void WinMain::NameControls()
 {
@@ -92,22 +101,24 @@ void WinMain::NameControls()
     PopMenuAff.SetAccessibleName(ReplaceAll(PopupAff(), U"\n", U" / "));
 }
 
+void WinMain::Tell(StringView message, StringView explanation)
+{
+    Fncts::BeepNbT(1);
+    Fncts::MyDialogBox({.message = message, .explanation = explanation, .btnAction = Btn_Ok(), .win = this});
+}
+
 void WinMain::BindHandlers()
 {
-    MainWindowLink& link = App::Current().MainWindow;
-    link.EnableControls = [this](bool idle) { EnableControls(idle); };
-    link.ActSelFichModel = [this](bool reveal) { ActSelFichModel(reveal); };
-    link.ActSelArchivDoss = [this](bool reveal) { ActSelArchivDoss(reveal); };
-    link.ActSelFichSpack = [this](bool reveal) { ActSelFichSpack(reveal); };
-    link.ActSaveFile = [this] { ActSaveFile(); };
-    link.ShowPreferences = [this] { ShowPreferences(); };
     Opening = [this] { Event_Opening(); };
     CancelClosing = [this](bool appQuitting) { return Event_CancelClosing(appQuitting); };
-    Activated = [this] { Event_Activated(); };
-    BtnSelFichModel.Pressed = [this] { BtnSelFichModel_Pressed(); };
-    BtnSelFichSpack.Pressed = [this] { BtnSelFichSpack_Pressed(); };
-    BtnSelArchivDoss.Pressed = [this] { BtnSelArchivDoss_Pressed(); };
-    BtnOuvUrlModel.Pressed = [this] { BtnOuvUrlModel_Pressed(); };
+    Activated = [this] {
+        Fncts::CmLabBlockUI(2, this, nullptr, nullptr);
+        Fncts::WrkArrSegButBugF(*this);
+    };
+    BtnSelFichModel.Pressed = [this] { ActSelFichModel(Keyboard::AsyncShiftKey()); };
+    BtnSelFichSpack.Pressed = [this] { ActSelFichSpack(Keyboard::AsyncShiftKey()); };
+    BtnSelArchivDoss.Pressed = [this] { ActSelArchivDoss(Keyboard::AsyncShiftKey()); };
+    BtnOuvUrlModel.Pressed = [this] { System::GotoURL(TextFieldMod2.Text()); };
     BtnAffDoss.Pressed = [this] { BtnAffDoss_Pressed(); };
     BtnSave.Pressed = [this] { BtnSave_Pressed(); };
     BtnEnabDis.Pressed = [this] { BtnEnabDis_Pressed(); };
@@ -124,33 +135,50 @@ void WinMain::BindHandlers()
     };
     BtnRun.Pressed = [this] { BtnRun_Pressed(); };
     TimerDebRun.Action = [this] { TimerDebRun_Action(); };
-    URLCnctLirePage.ContentReceived = [this](const String& url, Int64 httpStatus, const Bytes& content) {
-        URLCnctLirePage_ContentReceived(url, httpStatus, content);
+    // An error page is content like any other: the header test refuses it.
+    URLCnctLirePage.ContentReceived = [this](const String& /*url*/, Int64 /*httpStatus*/, const Bytes& content) {
+        RunSuite(Fncts::TextOfBytes(content));
     };
-    URLCnctLirePage.Error = [this](const RuntimeException& error) { URLCnctLirePage_Error(error); };
+    URLCnctLirePage.Error = [this](const RuntimeException& error) {
+        RunSuite(String(ErrorMarker) + ToText(error.ErrorNumber) + U" " + error.Message);
+    };
     PopMenuAff.SelectionChanged = [this] { PopMenuAff_SelectionChanged(); };
-    StaticTextVersion.MouseDown = [this](int, int) { return StaticTextVersion_MouseDown(); };
-    StaticTextVersion.MouseUp = [this](int x, int y) { StaticTextVersion_MouseUp(x, y); };
-    StaticTextVersion.MouseEnter = [this] { StaticTextVersion_MouseEnter(); };
-    StaticTextVersion.MouseExit = [this] { StaticTextVersion_MouseExit(); };
-    BtnAide.Pressed = [this] { BtnAide_Pressed(); };
+    MakeLink(StaticTextVersion, [] { System::GotoURL(Addresses::VersionNotes); });
+    BtnAide.Pressed = [this] {
+        winAide_ = std::make_unique<WinAide>();
+        winAide_->Show();
+    };
     SegButtSpecA.SetShortcut(U"Ctrl+Shift+A"); // the Tab key passes it by
     SegButtSpecA.Pressed = [this](int) { SegButtSpecA_Pressed(); };
-    PushButtDebug.Pressed = [this] { PushButtDebug_Pressed(); };
-    TimerQuit.Action = [this] { TimerQuit_Action(); };
+    // The button is never seen; a debugger can press it to free or to lock the interface.
+    PushButtDebug.Pressed = [] { App::Current().EnableMenuBoutons(!Fncts::DrapMenu); };
+    TimerQuit.Action = [this] { App::Current().DrapOkQuit ? App::Current().Quit(0) : Close(); };
+}
+
+void WinMain::BindMenus()
+{
+    App& app = App::Current();
+    app.EnableControls = [this](bool idle) { EnableControls(idle); };
+    app.Menus.FichSelFichModel.Action = [this] { ActSelFichModel(false); };
+    app.Menus.FichSelArchivDoss.Action = [this] { ActSelArchivDoss(false); };
+    app.Menus.FichSelFichSpack.Action = [this] { ActSelFichSpack(false); };
+    app.Menus.FichSaveFile.Action = [this] { ActSaveFile(); };
+    app.Menus.ApplePrefs.Action = [this] { ApplePrefs_Action(); };
 }
 
 void WinMain::EnableControls(bool idle)
 {
-    for (DesktopUIControl* control : std::initializer_list<DesktopUIControl*>{
-             &RadGrpSrc, &TextFieldMod1, &BtnSelFichModel, &TextFieldMod2, &BtnOuvUrlModel, &ChBoxArchiv,
-             &TextFieldArchiv, &BtnSelArchivDoss, &LbSpack, &TextFieldSpack, &BtnSelFichSpack})
+    for (DesktopUIControl* const control :
+         std::initializer_list<DesktopUIControl*>{&RadGrpSrc,          &TextFieldMod1,    &BtnSelFichModel,
+                                                  &TextFieldMod2,      &BtnOuvUrlModel,   &ChBoxArchiv,
+                                                  &TextFieldArchiv,    &BtnSelArchivDoss, &LbSpack,
+                                                  &TextFieldSpack,     &BtnSelFichSpack,  &PopMenuAff,
+                                                  &BtnAffDoss,         &BtnEnabDis,       &BtnSave,
+                                                  &TextAreaAff,        &BtnAide,          &TextFieldCherch,
+                                                  &PushButtInitCherch, &PushButtCherch,   &StaticTextVersion,
+                                                  &SegButtSpecA})
         control->SetEnabled(idle);
     BtnRun.SetCaption(idle ? Btn_Generer() : Btn_Arreter());
-    for (DesktopUIControl* control : std::initializer_list<DesktopUIControl*>{
-             &PopMenuAff, &BtnAffDoss, &BtnEnabDis, &BtnSave, &TextAreaAff, &BtnAide, &TextFieldCherch,
-             &PushButtInitCherch, &PushButtCherch, &StaticTextVersion, &SegButtSpecA})
-        control->SetEnabled(idle);
     if (SegButtSpecA.Selected(0) && winSpecA_) winSpecA_->EnableControls(idle);
 }
 
@@ -159,22 +187,21 @@ void WinMain::Event_Opening()
     LabBlockUI.Opening();
     Fncts::DecPosCtrl(*this);
     RadGrpSrc.SetInitialValue(RdButtSourceA() + String(EndOfLine::Native) + RdButtSourceB());
-    const String stamp(Build::Stamp);
     const String help = Btn_Aide_HT();
-    BtnAide.SetTooltip(Fncts::FracTexte(help, 1) + Fncts::TypeCompil() + Fncts::FracTexte(help, 2) + stamp +
-                       Fncts::FracTexte(help, 3));
+    BtnAide.SetTooltip(Join({{Fncts::FracTexte(help, 1), Build::TypeCompil, Fncts::FracTexte(help, 2), Build::Stamp,
+                              Fncts::FracTexte(help, 3)}},
+                            {}));
     App::Current().DrapOkQuit = false;
     StaticTextVersion.SetText(U"v." + App::Current().Version);
-    StaticTextVersion.SetTooltip(Fncts::TypeCompil() + U" - " + stamp);
+    StaticTextVersion.SetTooltip(Join({{Build::TypeCompil, Build::Stamp}}, U" - "));
     StaticTextVersion.SetAccessibleName(Btn_Historic() + U" " + StaticTextVersion.Text());
 
     if (const String failure = StartFailure(); !failure.empty()) return RefuseStart(failure);
     PrefsCharger();
     SegButtSpecA.SetVisible(App::Current().DrapAffBtnSpecA);
-    InitVars(true, true);
+    texts_.InitVars(true, true);
     Fncts::AinitProg = true;
-    Fncts::DrapMenu = true;
-    App::Current().EnableMenuBoutons();
+    App::Current().EnableMenuBoutons(true);
     MemPopMaff = PopMenuAff.SelectedRowIndex();
     TextAreaAff.SetAccessibleName(PopMenuAff.SelectedRowText());
     TextAreaAff.SetFocus();
@@ -194,7 +221,7 @@ String WinMain::StartFailure() const
 void WinMain::RefuseStart(StringView failure)
 {
     Fncts::BeepNbT(1);
-    const String message = U"Error ! Please contact the authors.\n \n" + String(failure);
+    const String message = Join({{ContactAuthors, U" ", failure}}, EndOfLine::Native);
     Fncts::MyDialogBox({.message = message, .btnAction = Btn_Quit(), .icon = 3});
     Fncts::DrapMenu = true;
     Fncts::DossierPref.reset();
@@ -205,7 +232,7 @@ void WinMain::RefuseStart(StringView failure)
 bool WinMain::Event_CancelClosing(bool appQuitting)
 {
     if (App::Current().DrapOkQuit) {
-        if (!appQuitting) MessageBox(U"Error ! Please contact the authors.\nThe application should be quitting!");
+        if (!appQuitting) TellAuthorsShortly(U"The application should be quitting!");
         return false;
     }
     if (!appQuitting && !Fncts::DrapMenu) {
@@ -222,58 +249,23 @@ bool WinMain::Event_CancelClosing(bool appQuitting)
     return true;
 }
 
-void WinMain::TimerQuit_Action()
-{
-    if (App::Current().DrapOkQuit)
-        App::Current().Quit(0);
-    else
-        Close();
-}
-
-void WinMain::Event_Activated()
-{
-    Fncts::CmLabBlockUI(2, this, nullptr, nullptr);
-    Fncts::WrkArrSegButBugF(*this);
-}
-
-bool WinMain::StaticTextVersion_MouseDown()
-{
-    OnStxtVersion = true;
-    return true;
-}
-
-void WinMain::StaticTextVersion_MouseUp(int x, int y)
-{
-    if (!OnStxtVersion) return;
-    OnStxtVersion = false;
-    SetMouseCursor(Cursor::StandardPointer);
-    if (x >= 0 && x <= StaticTextVersion.Width() && y >= 0 && y <= StaticTextVersion.Height())
-        System::GotoURL(Addresses::VersionNotes);
-}
-
-void WinMain::StaticTextVersion_MouseEnter() const
-{
-    if (StaticTextVersion.Enabled()) SetMouseCursor(Cursor::FingerPointer);
-}
-
-void WinMain::StaticTextVersion_MouseExit() const { SetMouseCursor(Cursor::StandardPointer); }
-
-void WinMain::BtnAide_Pressed() { winAide_.emplace().Show(); }
-
-void WinMain::ShowPreferences() { winPrefs_.emplace(*this, SegButtSpecA).Show(); }
-
 void WinMain::SegButtSpecA_Pressed()
 {
-    if (SegButtSpecA.Selected(0))
-        winSpecA_.emplace(*this, SegButtSpecA, TimerQuit).Show();
-    else if (winSpecA_)
+    if (SegButtSpecA.Selected(0)) {
+        winSpecA_ = std::make_unique<WinSpecA>(*this, SegButtSpecA, TimerQuit);
+        winSpecA_->Show();
+    } else if (winSpecA_)
         winSpecA_->Close();
     Fncts::WrkArrSegButBugF(*this);
 }
 
-/// The button is never seen; a debugger can press it to free or to lock the interface.
-void WinMain::PushButtDebug_Pressed() const
+void WinMain::ApplePrefs_Action()
 {
-    Fncts::DrapMenu = !Fncts::DrapMenu;
-    App::Current().EnableMenuBoutons();
+    if (!Keyboard::AsyncShiftKey() || !Keyboard::AsyncAltKey()) {
+        winPrefs_ = std::make_unique<WinPrefs>(*this, SegButtSpecA);
+        winPrefs_->Show();
+    } else if (Fncts::PasNil_Existe_Alias(Fncts::DossierPref, true))
+        OpenItem(*Fncts::DossierPref);
+    else
+        Fncts::BeepNbT(1);
 }

@@ -1,18 +1,16 @@
 /// The main window.
 #pragma once
 
-#include "app/WinAide.h"
 #include "engine/SceneryTexts.h"
-#include "preferences/WinPrefs.h"
-#include "specialA/WinSpecA.h"
 #include "support/Covers.h"
-#include "toolkit/DesktopControls.h"
 #include "toolkit/DesktopTextArea.h"
-#include "toolkit/DesktopWindow.h"
 #include "toolkit/Timer.h"
 #include "toolkit/URLConnection.h"
-#include "toolkit/core/FolderItem.h"
-#include "toolkit/core/System.h"
+
+class WinAide;
+class WinPrefs;
+class WinSpecA;
+struct DateTime;
 
 /// The window on which everything is done: it names the model and the scenery_packs.ini, runs, and shows and edits the
 /// three texts.
@@ -22,6 +20,7 @@
 class WinMain final : public DesktopWindow {
 public:
     WinMain();
+    ~WinMain() override;
 
     // The controls, in the order of creation.
     DesktopButton BtnSelFichModel;
@@ -52,8 +51,6 @@ public:
     // Run.cpp
     void BtnRun_Pressed();
     void TimerDebRun_Action();
-    void URLCnctLirePage_ContentReceived(const String& url, Int64 httpStatus, const Bytes& content);
-    void URLCnctLirePage_Error(const RuntimeException& error);
 
     // Save.cpp
     void BtnSave_Pressed();
@@ -73,10 +70,6 @@ public:
     void ActSelFichModel(bool reveal);
     void ActSelFichSpack(bool reveal);
     void ActSelArchivDoss(bool reveal);
-    void BtnSelFichModel_Pressed();
-    void BtnSelFichSpack_Pressed();
-    void BtnSelArchivDoss_Pressed();
-    void BtnOuvUrlModel_Pressed() const;
     void BtnAffDoss_Pressed();
 
     // Display.cpp
@@ -87,22 +80,18 @@ public:
 private:
     // WinMain.cpp: the shell.
     void BindHandlers();
+    void BindMenus();
     void NameControls();
+    /// Beeps, and shows a notice that the user closes.
+    void Tell(StringView message, StringView explanation = {});
     void EnableControls(bool idle);
     void Event_Opening();
     [[nodiscard]] String StartFailure() const;
     void RefuseStart(StringView failure);
     bool Event_CancelClosing(bool appQuitting);
-    void Event_Activated();
-    bool StaticTextVersion_MouseDown();
-    void StaticTextVersion_MouseUp(int x, int y);
-    void StaticTextVersion_MouseEnter() const;
-    void StaticTextVersion_MouseExit() const;
-    void BtnAide_Pressed();
     void SegButtSpecA_Pressed();
-    void ShowPreferences();
-    void PushButtDebug_Pressed() const;
-    void TimerQuit_Action();
+    /// Opens the preferences; with Shift and Alt held down the folder that they lie in.
+    void ApplePrefs_Action();
 
     // WinMainPreferences.cpp
     /// Brings the controls, the volume and the window's place in line with the preferences file.
@@ -111,21 +100,19 @@ private:
     void PrefsSauver() const;
 
     // Run.cpp
-    void InitVars(bool model, bool source) { texts_.InitVars(model, source); }
     /// The second half of a run, wherever the model came from.
-    void RunSuite();
+    void RunSuite(String model);
     void Reorder(const FolderItem& dossier);
     void EndRun();
 
     // Save.cpp
-    enum class SaveStep { Archive, Write, Stop };
+    /// One question of a save: whether the user goes on.
     [[nodiscard]] bool AsksToContinue(StringView message, StringView button);
-    void Tell(StringView message);
-    [[nodiscard]] std::optional<FolderItem> SaveTarget() const;
-    [[nodiscard]] SaveStep DecideOnArchive(const std::optional<FolderItem>& archiveFolder, const FolderItem& target);
+    /// Sets `folder` to where the old file is to be kept, or to nothing; false when the user gives up.
+    [[nodiscard]] bool DecideOnArchive(const FolderItem& target, std::optional<FolderItem>& folder);
     [[nodiscard]] bool ConfirmsSave(const FolderItem& target);
-    /// The next step after the copy: writing, or what the user answers when it failed.
-    [[nodiscard]] SaveStep Archive(const FolderItem& target, const FolderItem& folder, const DateTime& moment);
+    /// Copies the old file; false when that failed and the user gives up.
+    [[nodiscard]] bool Archive(const FolderItem& target, const FolderItem& folder, const DateTime& moment);
 
     // Toggle.cpp
     /// Selects the line of the caret.
@@ -150,11 +137,9 @@ private:
 
     SceneryTexts texts_;
     // The other windows, from an opening to the next.
-    std::optional<WinAide> winAide_;
-    std::optional<WinPrefs> winPrefs_;
-    std::optional<WinSpecA> winSpecA_;
+    std::unique_ptr<WinAide> winAide_;
+    std::unique_ptr<WinPrefs> winPrefs_;
+    std::unique_ptr<WinSpecA> winSpecA_;
     /// The row whose text stands in the text area.
     Int64 MemPopMaff = -1;
-    /// The mouse went down on the version label and hasn't come up yet.
-    bool OnStxtVersion = false;
 };

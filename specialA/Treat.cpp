@@ -37,16 +37,14 @@ void WinSpecA::PushButtTrait_Pressed()
 {
     CanvFocus.SetFocus();
     if (!FairePath()) return Tell(Txt_FichOrgNonDef(), 0);
-    Fncts::DrapMenu = false;
-    App::Current().EnableMenuBoutons();
+    App::Current().EnableMenuBoutons(false);
     try {
         TreatOriginal();
     } catch (const std::bad_alloc&) {
         ProgressTrait.SetVisible(false);
         Tell(Txt_ErreurEcritFich(), 1);
     }
-    Fncts::DrapMenu = true;
-    App::Current().EnableMenuBoutons();
+    App::Current().EnableMenuBoutons(true);
 }
 
 void WinSpecA::TreatOriginal()

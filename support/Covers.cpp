@@ -93,7 +93,6 @@ void LabBlockUISet::Opening()
     if (!clone_) {
         clone_ = std::make_unique<DesktopLabel>(first_.Parent(), uncovered, U"UI", labelStyle);
         clone_->SetVisible(false);
-        clone_->MouseDown = [](int, int) { return true; };
         CmLabBlockUI(0, &first_.Parent(), &first_, clone_.get());
     }
     if (!ControlsNamed(first_.Parent(), strangerName).empty()) TellAuthors(U"LabBlockUI, LabBlockUI(2) is not Nil");

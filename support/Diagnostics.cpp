@@ -7,7 +7,4 @@ void TellAuthors(StringView what)
     MessageBox(Join({{U"Error !", U"Please contact the authors.", what}}, EndOfLine::Native));
 }
 
-void TellAuthorsShortly(StringView what)
-{
-    MessageBox(Join({{U"Error ! Please contact the authors.", what}}, EndOfLine::Native));
-}
+void TellAuthorsShortly(StringView what) { MessageBox(Join({{ContactAuthors, what}}, EndOfLine::Native)); }

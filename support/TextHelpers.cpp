@@ -29,6 +29,4 @@ Bytes NettoiBadEncod(std::string_view text, const TextEncoding& encoding)
 
 void PressPapTxt(StringView text) { Clipboard::SetText(text); }
 
-String TypeCompil() { return U"Mac INTEL 64-bit (Lumbra2023r4)"; }
-
 } // namespace Fncts

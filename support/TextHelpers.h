@@ -16,7 +16,4 @@ Bytes NettoiBadEncod(std::string_view text, const TextEncoding& encoding);
 /// Puts the text on the clipboard.
 void PressPapTxt(StringView text);
 
-/// What the program was built for and with.
-String TypeCompil();
-
 } // namespace Fncts

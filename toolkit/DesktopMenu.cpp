@@ -95,7 +95,7 @@ private:
         services_.validate();
         if (!Usable(item)) return;
         if (item.Edit != EditCommand::None) return ::Edit(item.Edit, textControl_);
-        if (item.Action && item.Action()) return;
+        if (item.Action) return item.Action();
         if (dynamic_cast<DesktopQuitMenuItem*>(&item)) services_.quit();
     }
 

@@ -23,11 +23,11 @@ public:
     const String Name, Text, Shortcut;
     const EditCommand Edit;
     bool Enabled = true;
-    /// The user chose the item, by mouse or by its shortcut. True tells that the event is handled.
-    std::function<bool()> Action;
+    /// The user chose the item, by mouse or by its shortcut.
+    std::function<void()> Action;
 };
 
-/// Asks the application to quit.
+/// Asks the application to quit, unless it has an action of its own.
 class DesktopQuitMenuItem : public DesktopMenuItem {
 public:
     using DesktopMenuItem::DesktopMenuItem;

@@ -25,7 +25,7 @@ struct MenuTest : ::testing::Test {
     {
         TestMenus& menus = TestMenus::Current();
         menus.open.Enabled = true;
-        menus.open.Action = [this] { return ++opened, true; };
+        menus.open.Action = [this] { ++opened; };
         TestApplication().MenuBarSelected = [this] { ++checked; };
         field.SetName(U"field");
         ShowActive(window);
@@ -136,7 +136,7 @@ TEST_F(MenuTest, ABlockedWindowDropsWhatAScreenReaderDoes)
     button.Pressed = [&] { events += "button "; };
     segment.Pressed = [&](int) { events += "segment "; };
     popup.SelectionChanged = [&] { events += "popup "; };
-    TestMenus::Current().open.Action = [&] { return events += "menu ", true; };
+    TestMenus::Current().open.Action = [&] { events += "menu "; };
 
     const auto press = [](QAccessibleInterface* shown) {
         shown->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
