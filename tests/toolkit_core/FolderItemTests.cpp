@@ -134,23 +134,6 @@ TEST(FolderItem, MovesWithoutReplacingAnything)
     EXPECT_FALSE(item("link").Exists());
 }
 
-TEST(FolderItem, MovesFilesToAnotherVolume)
-{
-    const TemporaryFolder folder;
-    struct stat here = {}, there = {};
-    if (::stat(folder.Path().c_str(), &here) != 0 || ::stat("/dev/shm", &there) != 0 || here.st_dev == there.st_dev) {
-        GTEST_SKIP() << "there is no second volume to move to";
-    }
-    const FolderItem other("/dev/shm" / folder.Path().filename());
-    EXPECT_EQ(ErrorOf([&] { FolderItem(folder.Folder("tree")).MoveTo(other); }), EXDEV);
-    FolderItem(folder.File("file", "text")).MoveTo(other);
-    EXPECT_FALSE(fs::exists(folder.Path() / "file"));
-    EXPECT_EQ(ErrorOf([&] { FolderItem(folder.File("file", "new")).MoveTo(other); }), EEXIST);
-    EXPECT_EQ(folder.Content(other.Path()), "text");
-    EXPECT_EQ(folder.Content("file"), "new");
-    other.Remove();
-}
-
 TEST(FolderItem, IsMadeAndRemoved)
 {
     const TemporaryFolder folder;

@@ -35,15 +35,4 @@ TEST(TextEncoding, KnowsWhatIsNoText)
     EXPECT_EQ(Encodings::UTF8.Decode("a\xE9z"), U"a\uFFFDz");
 }
 
-TEST(TextEncoding, KeepsCharactersWholeInLongTexts)
-{
-    String text;
-    for (int i = 0; i < 70'000; ++i)
-        text += U"a\uFEFFé😀";
-    for (std::size_t shift = 0; shift < 4; ++shift)
-        EXPECT_TRUE(Encodings::UTF8.Decode(Encodings::UTF8.Encode(text.substr(shift))) == text.substr(shift));
-    const Bytes strays(1'000'000, '\x80');
-    EXPECT_TRUE(Encodings::UTF8.Decode(strays) == String(strays.size(), U'\uFFFD'));
-}
-
 } // namespace

@@ -37,16 +37,6 @@ TEST(TextInputStream, ReadsLinesWithEveryLineEnd)
     }
 }
 
-TEST(TextInputStream, ReadsALargeFileWithoutLineEnds)
-{
-    const TemporaryFolder folder;
-    Bytes content;
-    content.resize(50'000'000, 'x');
-    TextInputStream stream = TextInputStream::Open(FolderItem(folder.File("file", content + "\nrest\nof it")));
-    EXPECT_TRUE(stream.ReadLine() == content);
-    EXPECT_EQ(stream.ReadAll(), "rest\nof it");
-}
-
 TEST(TextInputStream, OpensFilesAlone)
 {
     const TemporaryFolder folder;

@@ -102,7 +102,7 @@ TEST(Text, BeginsWithANumber)
     // clang-format off
     const std::pair<String, double> rows[] = {
         {U"", 0}, {U"abc", 0}, {U"12,5", 12}, {U"12.5x", 12.5}, {U" \t-30 ", -30}, {U"+7", 7}, {U"-", 0},
-        {U"1e2", 100}, {U"1e", 1}, {U"5-3", 5}, {U"inf", 0}, {U"nan", 0}, {U"0x10", 0}, {U"٣", 0},
+        {U"1e2", 100}, {U"5-3", 5}, {U"inf", 0}, {U"nan", 0}, {U"0x10", 0}, {U"٣", 0},
         {U"1e999", greatest}, {U"-" + String(5000, U'9'), -greatest},
         {U"1e-999", 0}, {U"0." + String(5000, U'0') + U"1", 0}, {ToText(INT64_MIN), -9223372036854775808.0},
     };

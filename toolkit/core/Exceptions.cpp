@@ -6,9 +6,9 @@
 #include <utility>
 
 RuntimeException::RuntimeException(Int64 errorNumber, String message)
-    : ErrorNumber(errorNumber)
+    : std::runtime_error(Encodings::UTF8.Encode(message))
+    , ErrorNumber(errorNumber)
     , Message(std::move(message))
-    , narrow_(Encodings::UTF8.Encode(Message))
 {
 }
 

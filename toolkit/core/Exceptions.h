@@ -3,20 +3,15 @@
 
 #include "toolkit/core/Text.h"
 
-#include <exception>
+#include <stdexcept>
 
 /// An error of the platform: its number (that of the operating system or of the network layer) and its words.
-class RuntimeException : public std::exception {
+class RuntimeException : public std::runtime_error {
 public:
     RuntimeException(Int64 errorNumber, String message);
 
-    [[nodiscard]] const char* what() const noexcept override { return narrow_.c_str(); }
-
     Int64 ErrorNumber;
     String Message;
-
-private:
-    std::string narrow_;
 };
 
 /// A file could not be opened, read, written or closed.

@@ -8,6 +8,8 @@
 #include <QOperatingSystemVersion>
 #include <QStorageInfo>
 #include <algorithm>
+#include <cerrno>
+#include <set>
 #include <system_error>
 #include <unistd.h>
 #include <utility>
@@ -75,6 +77,14 @@ fs::path Destination(const fs::path& path)
     return path;
 }
 
+void Move(const fs::path& from, const fs::path& to)
+{
+    if (IsThere(to)) throw SystemError(EEXIST);
+    std::error_code error;
+    fs::rename(from, to, error);
+    if (error) throw SystemError(error.value());
+}
+
 } // namespace
 
 FolderItem::FolderItem(fs::path absolutePath)
@@ -99,18 +109,14 @@ std::optional<FolderItem> FolderItem::Child(StringView name, bool followAlias) c
 
 std::vector<FolderItem> FolderItem::Children() const
 {
-    std::vector<std::pair<String, fs::path>> named;
+    std::set<std::pair<String, fs::path>> named;
     for (fs::path& entry : Entries(path_)) {
         String key = FoldCase(Encodings::UTF8.Decode(entry.filename().native()));
-        named.emplace_back(std::move(key), std::move(entry));
+        named.emplace(std::move(key), std::move(entry));
     }
-    std::sort(named.begin(), named.end(), [](const auto& left, const auto& right) {
-        return std::tie(left.first, left.second.native()) < std::tie(right.first, right.second.native());
-    });
     std::vector<FolderItem> children;
-    children.reserve(named.size());
-    for (auto& [key, path] : named)
-        children.emplace_back(std::move(path));
+    for (const auto& [key, path] : named)
+        children.emplace_back(path);
     return children;
 }
 
@@ -148,6 +154,19 @@ void FolderItem::CreateFolder() const
 {
     std::error_code seenByExists;
     fs::create_directories(path_, seenByExists);
+}
+
+void FolderItem::MoveTo(const FolderItem& folder) const
+{
+    std::error_code ignored;
+    const bool isFolder = fs::is_directory(folder.path_, ignored);
+    Move(path_, isFolder ? folder.path_ / path_.filename() : folder.path_);
+}
+
+void FolderItem::Rename(StringView newName) const
+{
+    if (!IsPossibleName(newName)) throw SystemError(EINVAL);
+    Move(path_, path_.parent_path() / Encodings::UTF8.Encode(newName));
 }
 
 void FolderItem::Remove() const

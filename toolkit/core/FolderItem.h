@@ -62,8 +62,7 @@ public:
     ///
     /// An item that is already at the new place is never replaced: that raises IOException, as does every other
     /// failure, and the item then stays where it was. An alias is moved as it is; one to a folder counts as that folder
-    /// when it is the goal. A file or an alias may go to another volume (a file then takes the present time as its
-    /// date), a folder may not.
+    /// when it is the goal. Nothing goes to another volume.
     void MoveTo(const FolderItem& folder) const;
     /// Gives the item another name in its folder, under the rules of `MoveTo`.
     void Rename(StringView newName) const;

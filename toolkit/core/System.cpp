@@ -8,30 +8,21 @@
 #include <QTranslator>
 #include <chrono>
 #include <map>
-#include <memory>
 #include <ratio>
+#include <tuple>
 
 namespace {
 
-/// Opens the translation of a language, or gives nothing where the program has none.
-std::unique_ptr<QTranslator> Load(StringView language)
-{
-    const std::optional<FolderItem> resources = ResourceFolder();
-    if (!resources) return nullptr;
-    const std::optional<FolderItem> folder = resources->Child(U"translations");
-    const std::optional<FolderItem> file = folder ? folder->Child(U"tarnivel_" + String(language) + U".qm") : folder;
-    if (!file || !file->Exists()) return nullptr;
-    auto translator = std::make_unique<QTranslator>();
-    return translator->load(ToQt(file->NativePath())) ? std::move(translator) : nullptr;
-}
-
-/// The translation of a language, kept from its first use on.
+/// The translation of a language, kept from its first use on, or null where the program has none.
 const QTranslator* Translation(const String& language)
 {
-    static std::map<String, std::unique_ptr<QTranslator>> loaded;
-    const auto found = loaded.find(language);
-    if (found != loaded.end()) return found->second.get();
-    return loaded.emplace(language, Load(language)).first->second.get();
+    static std::map<String, QTranslator> loaded;
+    const auto [found, isNew] = loaded.try_emplace(language);
+    QTranslator& translation = found->second;
+    const std::optional<FolderItem> resources = isNew ? ResourceFolder() : std::nullopt;
+    if (resources)
+        std::ignore = translation.load(ToQt(U"tarnivel_" + language), ToQt(resources->NativePath() + U"/translations"));
+    return translation.isEmpty() ? nullptr : &translation;
 }
 
 /// "de" of "de-AT" and of "de_AT.UTF-8".

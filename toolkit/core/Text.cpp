@@ -1,11 +1,11 @@
 #include "toolkit/core/Text.h"
 
 #include "toolkit/core/QtText.h"
+#include "toolkit/core/TextEncoding.h"
 
 #include <algorithm>
-#include <charconv>
-#include <cmath>
-#include <limits>
+#include <locale>
+#include <sstream>
 
 namespace {
 
@@ -13,47 +13,22 @@ constexpr std::size_t none = StringView::npos;
 
 bool SameCharacter(char32_t left, char32_t right) { return left == right || FoldCase(left) == FoldCase(right); }
 
-/// One text to search for, many times over.
+/// One text to search for, many times over. No text is slow to search (Knuth, Morris and Pratt), not even a million
+/// blanks for a thousand.
 class Search {
 public:
     explicit Search(StringView searched)
         : searched_(searched)
-        , first_(searched.empty() ? U'\0' : FoldCase(searched.front()))
+        , borders_(searched.size())
     {
-        if (searched.size() > longestPlain) FillBorders();
+        for (std::size_t i = 1; i < searched.size(); ++i)
+            borders_[i] = Advance(borders_[i - 1], searched[i]);
     }
 
     /// Offset of the first occurrence at or behind `start`, or `none`.
     [[nodiscard]] std::size_t Find(StringView text, std::size_t start) const
     {
-        if (searched_.empty() || start >= text.size() || text.size() - start < searched_.size()) return none;
-        return borders_.empty() ? FindShort(text, start) : FindLong(text, start);
-    }
-
-    [[nodiscard]] std::size_t Length() const { return searched_.size(); }
-
-private:
-    // A longer text would make the plain search slow on texts like a million blanks.
-    static constexpr std::size_t longestPlain = 32;
-
-    /// How many characters at the start of the searched text match, when `matched` did and `next` comes behind them.
-    [[nodiscard]] std::size_t Advance(std::size_t matched, char32_t next) const
-    {
-        while (matched > 0 && !SameCharacter(searched_[matched], next))
-            matched = borders_[matched - 1];
-        return SameCharacter(searched_[matched], next) ? matched + 1 : 0;
-    }
-
-    /// The table of Knuth, Morris and Pratt: the longest true beginning that ends at each character.
-    void FillBorders()
-    {
-        borders_.assign(searched_.size(), 0);
-        for (std::size_t i = 1; i < searched_.size(); ++i)
-            borders_[i] = Advance(borders_[i - 1], searched_[i]);
-    }
-
-    [[nodiscard]] std::size_t FindLong(StringView text, std::size_t start) const
-    {
+        if (searched_.empty()) return none;
         std::size_t matched = 0;
         for (std::size_t i = start; i < text.size(); ++i) {
             matched = Advance(matched, text[i]);
@@ -62,34 +37,21 @@ private:
         return none;
     }
 
-    [[nodiscard]] std::size_t FindShort(StringView text, std::size_t start) const
+private:
+    /// How many characters at the start of the searched text match, when `matched` did and `next` comes behind them.
+    [[nodiscard]] std::size_t Advance(std::size_t matched, char32_t next) const
     {
-        const std::size_t last = text.size() - searched_.size();
-        for (std::size_t offset = start; offset <= last; ++offset) {
-            if (FoldCase(text[offset]) == first_ && SameText(text.substr(offset, searched_.size()), searched_)) {
-                return offset;
-            }
-        }
-        return none;
+        while (matched > 0 && !SameCharacter(searched_[matched], next))
+            matched = borders_[matched - 1];
+        return SameCharacter(searched_[matched], next) ? matched + 1 : 0;
     }
 
     StringView searched_;
-    char32_t first_;
+    /// For each character of the searched text, how long a true beginning of it ends there.
     std::vector<std::size_t> borders_;
 };
 
 std::size_t ToOffset(Int64 number) { return number < 0 ? 0 : static_cast<std::size_t>(number); }
-
-/// The characters that a number may begin with, as bytes; the sign "+" is left out.
-std::string NumericStart(StringView text)
-{
-    const std::size_t begin = text.find_first_not_of(U" \t\r\n");
-    if (begin == none) return {};
-    text.remove_prefix(begin);
-    if (text.starts_with(U'+')) text.remove_prefix(1);
-    text = text.substr(0, text.find_first_not_of(U"0123456789.eE+-"));
-    return {text.begin(), text.end()};
-}
 
 } // namespace
 
@@ -126,7 +88,7 @@ std::vector<StringView> Split(StringView text, StringView separator)
     std::size_t start = 0;
     for (std::size_t end = search.Find(text, 0); end != none; end = search.Find(text, start)) {
         fields.push_back(text.substr(start, end - start));
-        start = end + search.Length();
+        start = end + separator.size();
     }
     fields.push_back(text.substr(start));
     return fields;
@@ -134,67 +96,39 @@ std::vector<StringView> Split(StringView text, StringView separator)
 
 StringView NthField(StringView text, StringView separator, Int64 number)
 {
-    const Search search(separator);
-    std::size_t start = 0;
-    for (Int64 field = 1; number >= 1; ++field) {
-        const std::size_t end = search.Find(text, start);
-        if (field == number) return text.substr(start, end == none ? none : end - start);
-        if (end == none) break;
-        start = end + search.Length();
-    }
-    return {};
+    const std::vector<StringView> fields = Split(text, separator);
+    return number >= 1 && number <= std::ssize(fields) ? fields[ToOffset(number - 1)] : StringView();
 }
 
-Int64 CountFields(StringView text, StringView separator)
-{
-    const Search search(separator);
-    Int64 count = 1;
-    for (std::size_t end = search.Find(text, 0); end != none; end = search.Find(text, end + search.Length()))
-        ++count;
-    return count;
-}
+Int64 CountFields(StringView text, StringView separator) { return std::ssize(Split(text, separator)); }
 
 String Join(std::span<const StringView> pieces, StringView separator)
 {
     String text;
-    std::size_t length = 0;
     for (const StringView piece : pieces)
-        length += piece.size() + separator.size();
-    text.reserve(length);
-    for (std::size_t i = 0; i < pieces.size(); ++i) {
-        if (i > 0) text += separator;
-        text += pieces[i];
-    }
+        text.append(piece).append(separator);
+    text.resize(text.size() - (pieces.empty() ? 0 : separator.size()));
     return text;
 }
 
 String ReplaceAll(StringView text, StringView searched, StringView replacement)
 {
-    const Search search(searched);
-    String result;
-    result.reserve(text.size());
-    std::size_t start = 0;
-    for (std::size_t end = search.Find(text, 0); end != none; end = search.Find(text, start)) {
-        result.append(text.substr(start, end - start)).append(replacement);
-        start = end + search.Length();
-    }
-    return result.append(text.substr(start));
+    return Join(Split(text, searched), replacement);
 }
 
 String ReplaceLineEndings(StringView text, StringView lineEnd)
 {
     String result;
     result.reserve(text.size());
-    const auto isLineEnd = [](char32_t character) { return character == U'\n' || character == U'\r'; };
-    auto start = text.begin();
-    auto end = std::find_if(start, text.end(), isLineEnd);
-    while (end != text.end()) {
-        result.append(start, end).append(lineEnd);
-        const bool isPair = *end == U'\r' && end + 1 != text.end() && end[1] == U'\n';
-        start = end + (isPair ? 2 : 1);
-        end = std::find_if(start, text.end(), isLineEnd);
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool firstOfPair = text[i] == U'\r' && i + 1 < text.size() && text[i + 1] == U'\n';
+        if (firstOfPair) continue;
+        if (text[i] == U'\r' || text[i] == U'\n')
+            result += lineEnd;
+        else
+            result += text[i];
     }
-    return result.append(start, text.end());
+    return result;
 }
 
 StringView Left(StringView text, Int64 length) { return text.substr(0, ToOffset(length)); }
@@ -212,38 +146,27 @@ String ToText(Int64 number)
 
 double Val(StringView text)
 {
-    const std::string start = NumericStart(text);
+    std::istringstream stream(Encodings::UTF8.Encode(text));
+    stream.imbue(std::locale::classic());
     double number = 0;
-    const std::errc outcome = std::from_chars(start.data(), start.data() + start.size(), number).ec;
-    if (outcome != std::errc::result_out_of_range) return number;
-    const std::size_t exponent = start.find_first_of("eE");
-    const bool tiny =
-        exponent == none ? start.find_first_of("123456789") > start.find('.') : start[exponent + 1] == '-';
-    return tiny ? 0 : std::copysign(std::numeric_limits<double>::max(), start.front() == '-' ? -1.0 : 1.0);
+    stream >> number;
+    return number;
 }
 
 String CanonicalForm(StringView text)
 {
-    // Nothing below the first combining character changes.
-    constexpr char32_t firstCombining = 0x300;
-    if (std::all_of(text.begin(), text.end(), [](char32_t character) { return character < firstCombining; })) {
-        return String(text);
-    }
+    constexpr char32_t firstCombining = 0x300; // nothing below it changes
+    if (std::ranges::all_of(text, [](char32_t character) { return character < firstCombining; })) return String(text);
     return FromQt(ToQt(text).normalized(QString::NormalizationForm_C));
 }
 
 QString ToQt(StringView text)
 {
     QString result;
-    result.reserve(static_cast<qsizetype>(text.size()));
+    result.reserve(std::ssize(text));
     for (const char32_t character : text) {
-        if (character < 0xD800) {
-            result.append(QChar(static_cast<char16_t>(character)));
-        } else if (character > QChar::LastValidCodePoint || QChar::isSurrogate(character)) {
-            result.append(QChar(QChar::ReplacementCharacter));
-        } else {
-            result.append(QChar::fromUcs4(character));
-        }
+        const bool isCharacter = character <= QChar::LastValidCodePoint && !QChar::isSurrogate(character);
+        result.append(QChar::fromUcs4(isCharacter ? character : char32_t{QChar::ReplacementCharacter}));
     }
     return result;
 }

@@ -1,7 +1,7 @@
 #include "toolkit/core/TextOutputStream.h"
 
 #include "toolkit/core/Exceptions.h"
-#include "toolkit/core/FileWriting.h"
+#include "toolkit/core/FileCalls.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,4 +1,4 @@
-#include "toolkit/core/FileWriting.h"
+#include "toolkit/core/FileCalls.h"
 
 #include "toolkit/core/Exceptions.h"
 
@@ -18,4 +18,9 @@ void WriteAll(int descriptor, std::string_view data)
         Check(count >= 0);
         data.remove_prefix(static_cast<std::size_t>(count));
     }
+}
+
+Descriptor::~Descriptor()
+{
+    if (number >= 0) ::close(number);
 }
