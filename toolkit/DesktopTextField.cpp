@@ -1,15 +1,18 @@
 #include "toolkit/Appearance.h"
 #include "toolkit/DesktopControls.h"
 #include "toolkit/DocumentText.h"
+#include "toolkit/EditCommands.h"
 #include "toolkit/core/QtText.h"
 
+#include <QAction>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMimeData>
-#include <QScopedValueRollback>
 #include <QUrl>
 #include <limits>
 
@@ -33,16 +36,14 @@ class Field final : public QLineEdit {
 public:
     Field(DesktopTextField& owner, const FieldStyle& style)
         : owner_(owner)
-        , oneLine_(style.oneLine)
     {
         setReadOnly(style.readOnly);
         setMaxLength(std::numeric_limits<int>::max());
-        connect(this, &QLineEdit::textEdited, this, [this](const QString& text) { Edited(text); });
+        if (style.oneLine) connect(this, &QLineEdit::textEdited, this, &Field::JoinLines);
     }
 
     void Show(const QString& text)
     {
-        before_ = text;
         setText(text);
         setCursorPosition(0);
     }
@@ -55,19 +56,33 @@ protected:
         if ((enter || escape) && !owner_.TakesInput()) return;
         if (enter && owner_.Entered) return owner_.Entered();
         if (escape && owner_.Escaped) return owner_.Escaped();
-        const QScopedValueRollback typing(typing_, !event->matches(QKeySequence::Paste));
+        if (event->matches(QKeySequence::Paste) && Take(QGuiApplication::clipboard()->mimeData())) return;
         QLineEdit::keyPressEvent(event);
     }
 
-    void inputMethodEvent(QInputMethodEvent* event) override
+    void mouseReleaseEvent(QMouseEvent* event) override
     {
-        const QScopedValueRollback typing(typing_, true);
-        QLineEdit::inputMethodEvent(event);
+        const bool pastes = event->button() == Qt::MiddleButton && QGuiApplication::clipboard()->supportsSelection();
+        if (pastes && Take(QGuiApplication::clipboard()->mimeData(QClipboard::Selection))) return;
+        QLineEdit::mouseReleaseEvent(event);
+    }
+
+    void contextMenuEvent(QContextMenuEvent* event) override
+    {
+        QMenu* const menu = createStandardContextMenu();
+        menu->setAttribute(Qt::WA_DeleteOnClose);
+        const QString key = QKeySequence(QKeySequence::Paste).toString(QKeySequence::NativeText);
+        for (QAction* const action : menu->actions()) {
+            if (!action->text().endsWith(key)) continue;
+            action->disconnect(this);
+            connect(action, &QAction::triggered, this, [this] { Edit(EditCommand::Paste, this); });
+        }
+        menu->popup(event->globalPos());
     }
 
     void dragEnterEvent(QDragEnterEvent* event) override
     {
-        if (DroppedItem(*event->mimeData()))
+        if (ItemIn(event->mimeData()))
             event->acceptProposedAction();
         else if (owner_.ItemGiven && event->mimeData()->hasUrls())
             event->ignore(); // Several items, or none that is there: their addresses are no path.
@@ -77,53 +92,37 @@ protected:
 
     void dropEvent(QDropEvent* event) override
     {
-        const std::optional<FolderItem> item = DroppedItem(*event->mimeData());
-        if (!item) return QLineEdit::dropEvent(event);
-        event->acceptProposedAction();
-        owner_.ItemGiven(*item);
+        if (Take(event->mimeData()))
+            event->acceptProposedAction();
+        else
+            QLineEdit::dropEvent(event);
     }
 
 private:
-    [[nodiscard]] std::optional<FolderItem> DroppedItem(const QMimeData& dropped) const
+    /// The item that what is pasted or dropped stands for.
+    [[nodiscard]] std::optional<FolderItem> ItemIn(const QMimeData* incoming) const
     {
-        if (!owner_.ItemGiven || !owner_.TakesInput() || dropped.urls().size() != 1) return {};
-        return ItemOf(dropped.urls().front().toString());
+        if (!incoming || !owner_.ItemGiven || !owner_.TakesInput() || incoming->urls().size() > 1) return {};
+        return ItemOf(incoming->hasUrls() ? incoming->urls().constFirst().toString() : incoming->text().trimmed());
     }
 
-    void Edited(const QString& text)
+    /// Gives it instead of changing the text; whether there was one.
+    bool Take(const QMimeData* incoming)
     {
-        const QString pasted = Pasted(text).trimmed();
-        if (oneLine_ && OneLine(text) != text) {
-            const int caret = cursorPosition();
-            setText(OneLine(text));
-            setCursorPosition(caret);
-        }
-        const std::optional<FolderItem> item = owner_.TakesInput() && pasted.size() > 1 ? ItemOf(pasted) : std::nullopt;
-        if (!item) {
-            before_ = text;
-            return;
-        }
-        Show(before_);
-        owner_.ItemGiven(*item);
+        const std::optional<FolderItem> item = ItemIn(incoming);
+        if (item) owner_.ItemGiven(*item);
+        return item.has_value();
     }
 
-    /// The clipboard's text if the edit put it in front of the caret, or "". Keys other than the one that pastes don't,
-    /// nor does what takes an edit back.
-    [[nodiscard]] QString Pasted(const QString& text) const
+    void JoinLines(const QString& text)
     {
-        if (!owner_.ItemGiven || typing_ || isRedoAvailable()) return {};
-        for (const auto mode : {QClipboard::Clipboard, QClipboard::Selection}) {
-            QString held = QGuiApplication::clipboard()->text(mode);
-            if (!held.isEmpty() && text.left(cursorPosition()).endsWith(held)) return held;
-        }
-        return {};
+        if (OneLine(text) == text) return;
+        const int caret = cursorPosition();
+        setText(OneLine(text));
+        setCursorPosition(caret);
     }
 
     DesktopTextField& owner_;
-    const bool oneLine_;
-    bool typing_ = false;
-    /// The text before the edit that is under way.
-    QString before_;
 };
 
 } // namespace

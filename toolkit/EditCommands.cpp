@@ -2,6 +2,7 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QPlainTextEdit>
@@ -32,6 +33,15 @@ bool ClipboardHasText()
 void Clear(QLineEdit& field) { field.del(); }
 void Clear(QPlainTextEdit& area) { area.textCursor().removeSelectedText(); }
 
+/// By its key, so that a field of ours sees what comes before its text changes.
+void Paste(QLineEdit& field)
+{
+    const QKeyCombination paste = QKeySequence(QKeySequence::Paste)[0];
+    QKeyEvent press(QEvent::KeyPress, paste.key(), paste.keyboardModifiers());
+    QCoreApplication::sendEvent(&field, &press);
+}
+void Paste(QPlainTextEdit& area) { area.paste(); }
+
 void EditText(EditCommand command, auto& control)
 {
     switch (command) {
@@ -42,7 +52,7 @@ void EditText(EditCommand command, auto& control)
     case EditCommand::Copy:
         return control.copy();
     case EditCommand::Paste:
-        return control.paste();
+        return Paste(control);
     case EditCommand::Clear:
         return Clear(control);
     case EditCommand::SelectAll:

@@ -188,7 +188,7 @@ TEST(TextField, TakesAnItemThatIsPastedOrDroppedAtOnce)
         field.SetText(QString::fromUtf8(row.before).toStdU32String());
         line.setSelection(0, row.selected);
         QApplication::clipboard()->setText(QString::fromUtf8(row.pasted));
-        line.paste();
+        QTest::keyClick(&line, Qt::Key_V, Qt::ControlModifier);
         EXPECT_EQ(given, row.taken ? std::vector{QString(row.taken).toStdU32String()} : std::vector<String>{})
             << row.name;
         EXPECT_EQ(line.text() == row.before, row.taken != nullptr) << row.name;
@@ -202,6 +202,11 @@ TEST(TextField, TakesAnItemThatIsPastedOrDroppedAtOnce)
     line.undo();
     EXPECT_EQ(field.Text(), U"/usr");
     EXPECT_TRUE(given.empty()) << "typing gives nothing, and neither does undoing";
+
+    QContextMenuEvent menu(QContextMenuEvent::Mouse, QPoint(5, 5), line.mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(&line, &menu);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_P);
+    EXPECT_EQ(std::exchange(given, {}), std::vector<String>{U"/usr"}) << "pasted by the context menu";
 
     QMimeData data;
     data.setUrls({QUrl::fromLocalFile("/usr")});
