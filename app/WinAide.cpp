@@ -3,7 +3,6 @@
 #include "app/Addresses.h"
 #include "app/App.h"
 #include "app/Build.h"
-#include "app/Link.h"
 #include "localisation/Localisation.h"
 #include "support/Fncts.h"
 #include "support/Sounds.h"
@@ -18,7 +17,7 @@ namespace {
 constexpr unsigned L = Lock::Left, T = Lock::Top, R = Lock::Right, B = Lock::Bottom;
 constexpr ColorGroup blue{0x0000FF};
 constexpr LabelStyle programName{.alignment = TextAlignment::Center, .bold = true, .fontSize = 16};
-constexpr LabelStyle linkStyle{.color = blue, .underline = true, .fontSize = 10};
+constexpr LabelStyle linkStyle{.color = blue, .underline = true, .fontSize = 10, .link = true};
 
 } // namespace
 
@@ -29,9 +28,7 @@ WinAide::WinAide()
                      .minimumWidth = 300,
                      .minimumHeight = 300,
                      .movableModal = true,
-                     .hasCloseButton = false,
-                     .hasMaximizeButton = false,
-                     .hasMinimizeButton = false})
+                     .hasTitleButtons = false})
     // clang-format off
     //                        left  top width height  locks      tab
     , TexteInfo         (*this, {  20,  48, 360, 380, L | T | R | B, 2}, 11)
@@ -50,8 +47,8 @@ WinAide::WinAide()
     CancelClosing = [this](bool) { return Event_CancelClosing(); };
     Activated = [this] { Fncts::CmLabBlockUI(2, this, nullptr, nullptr); };
     BoutonOk.Pressed = [this] { BoutonOk_Pressed(); };
-    MakeLink(Web2, [this] { System::GotoURL(Web2.Text()); });
-    MakeLink(Email2, [this] { FollowEmail2(); });
+    Web2.Pressed = [this] { System::GotoURL(Web2.Text()); };
+    Email2.Pressed = [this] { FollowEmail2(); };
 }
 
 void WinAide::Event_Opening()

@@ -3,7 +3,6 @@
 #include "app/Addresses.h"
 #include "app/App.h"
 #include "app/Build.h"
-#include "app/Link.h"
 #include "app/WinAide.h"
 #include "engine/SceneryText.h"
 #include "localisation/Localisation.h"
@@ -51,7 +50,7 @@ WinMain::WinMain()
     , BtnSave             (*this, { 630, 132, 110,  20, T | R,         14}, Btn_SauvFichier())
     , ChBoxArchiv         (*this, {  20,  68, 126,  20, L | T,         15}, ChBoxArchive())
     , StaticTextVersion   (*this, { 690, 480,  50,  16, R | B,         16}, U"v.0.0.0",
-                           {.alignment = TextAlignment::Right, .bold = true, .fontSize = 10})
+                           {.alignment = TextAlignment::Right, .bold = true, .fontSize = 10, .link = true})
     , BtnAide             (*this, {  20, 475,  22,  20, L | B,         17}, U"?")
     , BtnEnabDis          (*this, { 478, 132, 140,  20, T | R,         18}, Btn_EnabDis())
     , BtnAffDoss          (*this, { 346, 132, 120,  20, T | R,         19}, Btn_AffDoss())
@@ -63,7 +62,8 @@ WinMain::WinMain()
     , PopMenuAff          (*this, { 158, 132, 126,  20, L | T,         11}, PopupAff(), 2)
     , SegButtSpecA        (*this, { 556, 477, 100,  24, L | B,         -1}, WinSpecA_Title())
     , TimerQuit           (timerPeriod)
-    , RadGrpSrc           (*this, {  20,  14, 126,  45, L | T,         28})
+    , RadGrpSrc           (*this, {  20,  14, 126,  45, L | T,         28},
+                           RdButtSourceA() + String(EndOfLine::Native) + RdButtSourceB())
 // clang-format on
 {
     PushButtDebug.SetVisible(false);
@@ -143,7 +143,7 @@ void WinMain::BindHandlers()
         RunSuite(String(ErrorMarker) + ToText(error.ErrorNumber) + U" " + error.Message);
     };
     PopMenuAff.SelectionChanged = [this] { PopMenuAff_SelectionChanged(); };
-    MakeLink(StaticTextVersion, [] { System::GotoURL(Addresses::VersionNotes); });
+    StaticTextVersion.Pressed = [] { System::GotoURL(Addresses::VersionNotes); };
     BtnAide.Pressed = [this] {
         winAide_ = std::make_unique<WinAide>();
         winAide_->Show();
@@ -186,7 +186,6 @@ void WinMain::Event_Opening()
 {
     LabBlockUI.Opening();
     Fncts::DecPosCtrl(*this);
-    RadGrpSrc.SetInitialValue(RdButtSourceA() + String(EndOfLine::Native) + RdButtSourceB());
     const String help = Btn_Aide_HT();
     BtnAide.SetTooltip(Join({{Fncts::FracTexte(help, 1), Build::TypeCompil, Fncts::FracTexte(help, 2), Build::Stamp,
                               Fncts::FracTexte(help, 3)}},

@@ -23,9 +23,7 @@ WinPrefs::WinPrefs(const DesktopWindow& winMain, DesktopSegmentedButton& segButt
                      .height = 131,
                      .resizable = false,
                      .movableModal = true,
-                     .hasCloseButton = false,
-                     .hasMaximizeButton = false,
-                     .hasMinimizeButton = false})
+                     .hasTitleButtons = false})
     // clang-format off
     //                          left  top width height  locks   tab
     , PushButtOk          (*this, { 311, 91,  69, 20, R | B,     3}, Btn_Ok())

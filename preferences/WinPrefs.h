@@ -3,7 +3,6 @@
 
 #include "support/Covers.h"
 #include "toolkit/DesktopControls.h"
-#include "toolkit/DesktopSlider.h"
 #include "toolkit/DesktopWindow.h"
 
 /// Two settings, taken over by its one button and left alone by the other; one of the two must be pressed. Only live

@@ -54,10 +54,9 @@ void WinSpecA::PushButtSource_Pressed()
         Fncts::BeepNbT(1);
 }
 
-bool WinSpecA::GroupBoxSource_DragEnter()
+void WinSpecA::GroupBoxSource_DragEnter()
 {
     AffCanvDrag(GroupBoxSource.Left(), GroupBoxSource.Top(), GroupBoxSource.Width(), GroupBoxSource.Height());
-    return false;
 }
 
 void WinSpecA::GroupBoxSource_DragExit() { AffCanvDrag(0, 0, -1, -1); }
@@ -73,8 +72,5 @@ void WinSpecA::GroupBoxSource_DropObject(const DragItem& item)
 void WinSpecA::AffCanvDrag(int left, int top, int width, int height)
 {
     CanvDrag.SetVisible(width >= 0);
-    CanvDrag.SetLeft(left);
-    CanvDrag.SetTop(top);
-    CanvDrag.SetWidth(width);
-    CanvDrag.SetHeight(height);
+    CanvDrag.Place(left, top, width, height);
 }

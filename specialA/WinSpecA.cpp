@@ -64,7 +64,7 @@ WinSpecA::WinSpecA(const DesktopWindow& winMain, DesktopSegmentedButton& segButt
 {
     CanvDrag.SetEnabled(false);
     CanvDrag.SetVisible(false);
-    CanvFocus.SetAllowFocus(true);
+    CanvFocus.AllowFocus();
     ProgressTrait.SetVisible(false);
     NameControls();
     BindHandlers();
@@ -91,7 +91,7 @@ void WinSpecA::BindHandlers()
     Opening = [this] { Event_Opening(); };
     CancelClosing = [this](bool appQuitting) { return Event_CancelClosing(appQuitting); };
     Activated = [this] { Fncts::CmLabBlockUI(2, this, nullptr, nullptr); };
-    GroupBoxSource.DragEnter = [this](const DragItem&) { return GroupBoxSource_DragEnter(); };
+    GroupBoxSource.DragEnter = [this] { GroupBoxSource_DragEnter(); };
     GroupBoxSource.DragExit = [this] { GroupBoxSource_DragExit(); };
     GroupBoxSource.DropObject = [this](const DragItem& item) { GroupBoxSource_DropObject(item); };
     PushButtSource.Pressed = [this] { PushButtSource_Pressed(); };

@@ -7,7 +7,6 @@
 #include "toolkit/DesktopControls.h"
 #include "toolkit/DesktopGroupBox.h"
 #include "toolkit/DesktopListBox.h"
-#include "toolkit/DesktopProgressBar.h"
 #include "toolkit/DesktopWindow.h"
 #include "toolkit/Timer.h"
 
@@ -47,7 +46,7 @@ public:
     /// Takes a new original; with nothing the user chooses one.
     void ActButtSource(std::optional<FolderItem> item);
     void PushButtSource_Pressed();
-    bool GroupBoxSource_DragEnter();
+    void GroupBoxSource_DragEnter();
     void GroupBoxSource_DragExit();
     void GroupBoxSource_DropObject(const DragItem& item);
 

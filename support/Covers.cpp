@@ -2,8 +2,6 @@
 
 #include "support/Diagnostics.h"
 #include "toolkit/Desktop.h"
-#include "toolkit/DesktopApplication.h"
-#include "toolkit/DesktopSlider.h"
 #include "toolkit/Dialogs.h"
 #include "toolkit/core/System.h"
 
@@ -18,10 +16,7 @@ constexpr LabelStyle labelStyle{.color = ColorGroup{0xFF0000}, .alignment = Text
 /// All windows, the last one made first. A list of its own, since a message may open windows.
 std::vector<DesktopWindow*> WindowsFromLastToFirst()
 {
-    std::vector<DesktopWindow*> windows;
-    for (Int64 index = DesktopApplication::WindowCount() - 1; index >= 0; --index)
-        windows.push_back(DesktopApplication::WindowAt(index));
-    return windows;
+    return {DesktopWindow::All().rbegin(), DesktopWindow::All().rend()};
 }
 
 std::vector<DesktopUIControl*> ControlsNamed(const DesktopWindow& window, StringView name)
@@ -42,10 +37,7 @@ void Cover(DesktopWindow& window)
     }
     DesktopUIControl& cover = *covers.front();
     cover.SetVisible(true);
-    cover.SetTop(0);
-    cover.SetLeft(0);
-    cover.SetWidth(window.Width());
-    cover.SetHeight(window.Height());
+    cover.Place(0, 0, window.Width(), window.Height());
     if ((cover.Locks() & (Lock::Left | Lock::Top)) != (Lock::Left | Lock::Top))
         TellAuthors(U"CtrlDsFenetrDiag, 'LabBlockUI' should be Lock Left and Lock Top");
     cover.SetLocks(Lock::Left | Lock::Top | Lock::Right | Lock::Bottom);
@@ -58,8 +50,7 @@ void Uncover(DesktopWindow& window)
     window.BlockKeyboard(false);
     for (DesktopUIControl* const cover : ControlsNamed(window, coverName)) {
         cover->SetVisible(false);
-        cover->SetWidth(uncovered.width);
-        cover->SetHeight(uncovered.height);
+        cover->Place(cover->Left(), cover->Top(), uncovered.width, uncovered.height);
         cover->SetLocks(cover->Locks() & ~(Lock::Right | Lock::Bottom));
     }
 }
@@ -69,10 +60,7 @@ void MakeCover(const DesktopWindow* win, DesktopLabel& first, DesktopLabel& clon
     if (&first.Parent() != win) TellAuthors(U"LabBlockUI, LabBlockUI(0).Parent is not Nil");
     clone.SetName(first.Name() + U"1");
     clone.SetText(U" ");
-    clone.SetTop(first.Top());
-    clone.SetLeft(first.Left());
-    clone.SetHeight(first.Height());
-    clone.SetWidth(first.Width());
+    clone.Place(first.Left(), first.Top(), first.Width(), first.Height());
     first.SetText(U" ");
 }
 

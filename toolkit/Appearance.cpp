@@ -1,25 +1,15 @@
 #include "toolkit/Appearance.h"
 
-#include "toolkit/core/FolderItem.h"
 #include "toolkit/core/QtText.h"
 
-#include <QFontDatabase>
 #include <QFontInfo>
 #include <QFontMetrics>
-#include <QWidget>
+#include <QTextEdit>
 #include <algorithm>
 
 namespace {
 
 constexpr int SmallestFontSize = 9;
-
-QStringList SymbolFamilies()
-{
-    const std::optional<FolderItem> resources = ResourceFolder();
-    const std::optional<FolderItem> file = resources ? resources->Child(U"TarnivelSymbols.ttf") : std::nullopt;
-    if (!file) return {};
-    return QFontDatabase::applicationFontFamilies(QFontDatabase::addApplicationFont(ToQt(file->NativePath())));
-}
 
 } // namespace
 
@@ -42,19 +32,7 @@ void FitFont(QWidget& widget, const QString& caption, int room, int fontSize)
     widget.setFont(font);
 }
 
-void ProvideSymbols(QWidget& widget, StringView caption)
-{
-    QFont font = widget.font();
-    const QFontMetrics metrics(font);
-    if (std::ranges::all_of(caption, [&](char32_t symbol) { return metrics.inFontUcs4(symbol); })) return;
-    static const QStringList families = SymbolFamilies();
-    font.setFamilies(font.families() + families);
-    widget.setFont(font);
-}
-
 QString Marked(StringView caption) { return ToQt(caption).replace(u'&', QStringLiteral("&&")); }
-
-String Unmarked(QString caption) { return FromQt(caption.replace(QStringLiteral("&&"), QStringLiteral("&"))); }
 
 void SetTextColor(QWidget& widget, QPalette::ColorRole role, ColorGroup color)
 {
@@ -62,6 +40,21 @@ void SetTextColor(QWidget& widget, QPalette::ColorRole role, ColorGroup color)
     palette.setColor(QPalette::Active, role, QColor(color.rgb));
     palette.setColor(QPalette::Inactive, role, QColor(color.rgb));
     widget.setPalette(palette);
+}
+
+QTextEdit* MakeReadOnlyText(QWidget* parent)
+{
+    auto* const text = new QTextEdit(parent);
+    text->setReadOnly(true);
+    text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    text->setFrameShape(QFrame::NoFrame);
+    text->setTabChangesFocus(true);
+    text->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    QPalette palette = text->palette();
+    palette.setColor(QPalette::Base, Qt::transparent);
+    palette.setColor(QPalette::Text, palette.color(QPalette::WindowText));
+    text->setPalette(palette);
+    return text;
 }
 
 void SetBlackOnWhite(QWidget& widget)

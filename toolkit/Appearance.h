@@ -6,6 +6,7 @@
 #include <QPalette>
 #include <QString>
 
+class QTextEdit;
 class QWidget;
 
 /// The size of the controls' texts in points of the layout, where the platform leaves it to us: the heights of the
@@ -19,16 +20,14 @@ void SetControlFont(QWidget& content);
 /// which `caption` is no wider than `room`.
 void FitFont(QWidget& widget, const QString& caption, int room, int fontSize = 0);
 
-/// Gives the widget the font of the resource folder beside its own if its own lacks symbols of the caption. Without
-/// that file such a symbol is an empty box.
-void ProvideSymbols(QWidget& widget, StringView caption);
-
-/// A caption for a widget that would take "&" for the mark of a key; `Unmarked` gives the caption back.
+/// A caption for a widget that would take "&" for the mark of a key.
 QString Marked(StringView caption);
-String Unmarked(QString caption);
 
 /// Fixes the colour of a text in an enabled widget.
 void SetTextColor(QWidget& widget, QPalette::ColorRole role, ColorGroup color);
+
+/// A text that can be read, selected and copied, and stands on the window's own background.
+QTextEdit* MakeReadOnlyText(QWidget* parent = nullptr);
 
 /// Black on white, whatever the desktop's colours are.
 void SetBlackOnWhite(QWidget& widget);

@@ -1,7 +1,6 @@
 #include "toolkit/Desktop.h"
 
 #include "toolkit/Probe.h"
-#include "toolkit/RevealInFileManager.h"
 #include "toolkit/core/QtText.h"
 
 #include <QApplication>
@@ -22,9 +21,11 @@ constexpr auto controlKey = Qt::MetaModifier;
 constexpr auto controlKey = Qt::ControlModifier;
 #endif
 
-bool IsHeld(Qt::KeyboardModifier key) { return QGuiApplication::queryKeyboardModifiers().testFlag(key); }
-
-QUrl UrlOf(const FolderItem& item) { return QUrl::fromLocalFile(QFile::decodeName(item.Path().c_str())); }
+bool IsHeld(Qt::KeyboardModifier key, bool Probe::*inTest)
+{
+    const Probe* const probe = Probe::Current();
+    return probe ? probe->*inTest : QGuiApplication::queryKeyboardModifiers().testFlag(key);
+}
 
 } // namespace
 
@@ -46,30 +47,11 @@ void System::GotoURL(StringView url)
     if (const QUrl link(ToQt(url)); link.isValid() && !link.scheme().isEmpty()) QDesktopServices::openUrl(link);
 }
 
-void SetMouseCursor(Cursor cursor)
-{
-    // Qt stacks these pointers; one level is all that is wanted.
-    if (QGuiApplication::overrideCursor()) QGuiApplication::restoreOverrideCursor();
-    if (cursor == Cursor::FingerPointer) QGuiApplication::setOverrideCursor(Qt::PointingHandCursor);
-}
+bool Keyboard::AsyncShiftKey() { return IsHeld(Qt::ShiftModifier, &Probe::ShiftKey); }
 
-bool Keyboard::AsyncShiftKey()
-{
-    const Probe* const probe = Probe::Current();
-    return probe ? probe->ShiftKey : IsHeld(Qt::ShiftModifier);
-}
+bool Keyboard::AsyncAltKey() { return IsHeld(Qt::AltModifier, &Probe::AltKey); }
 
-bool Keyboard::AsyncAltKey()
-{
-    const Probe* const probe = Probe::Current();
-    return probe ? probe->AltKey : IsHeld(Qt::AltModifier);
-}
-
-bool Keyboard::AsyncControlKey()
-{
-    const Probe* const probe = Probe::Current();
-    return probe ? probe->ControlKey : IsHeld(controlKey);
-}
+bool Keyboard::AsyncControlKey() { return IsHeld(controlKey, &Probe::ControlKey); }
 
 DesktopDisplay DesktopDisplay::DisplayAt(int index)
 {
@@ -87,15 +69,7 @@ void OpenItem(const FolderItem& item)
     if (Probe* const probe = Probe::Current())
         probe->Opened.push_back(item.NativePath());
     else
-        QDesktopServices::openUrl(UrlOf(item));
-}
-
-void RevealItem(const FolderItem& item)
-{
-    if (Probe* const probe = Probe::Current())
-        probe->Revealed.push_back(item.NativePath());
-    else
-        RevealInFileManager(UrlOf(item));
+        QDesktopServices::openUrl(QUrl::fromLocalFile(QFile::decodeName(item.Path().c_str())));
 }
 
 bool IsPackage(const FolderItem& item) { return QFileInfo(QFile::decodeName(item.Path().c_str())).isBundle(); }

@@ -1,4 +1,4 @@
-/// What the desktop around the program offers: beep, links, keys, pointer, screen, file manager, clipboard.
+/// What the desktop around the program offers: beep, links, keys, screen, file manager, clipboard.
 #pragma once
 
 #include "toolkit/core/FolderItem.h"
@@ -9,10 +9,6 @@ void Beep();
 /// link, such as a name without a scheme: nothing is opened.
 void GotoURL(StringView url);
 } // namespace System
-
-/// The shape of the mouse pointer over the whole program.
-enum class Cursor { StandardPointer, FingerPointer };
-void SetMouseCursor(Cursor cursor);
 
 /// The keys held down at this moment.
 namespace Keyboard {

@@ -1,12 +1,12 @@
 #include "toolkit/DesktopApplication.h"
 
 #include "toolkit/Dialogs.h"
-#include "toolkit/MenuBar.h"
 #include "toolkit/SessionEnd.h"
 #include "toolkit/core/FolderItem.h"
 #include "toolkit/core/QtText.h"
 
 #include <QApplication>
+#include <QFontDatabase>
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
@@ -17,17 +17,6 @@
 #include <utility>
 
 namespace {
-
-DesktopApplication* current = nullptr;
-
-/// The style must be known before the application object is made, or the desktop's own is loaded first.
-int& WithStyle(int& argc)
-{
-#ifndef Q_OS_MACOS
-    QApplication::setStyle(QStringLiteral("Fusion"));
-#endif
-    return argc;
-}
 
 /// Tells the user of an exception that nothing else has caught, one at a time; it never throws.
 void TellOfException(const char* what) noexcept
@@ -62,35 +51,36 @@ public:
     }
 };
 
+std::unique_ptr<QApplication> MakeApplication(int& argc, char** argv)
+{
+#ifndef Q_OS_MACOS
+    // Known before the application is made, or the desktop's own style is loaded first.
+    QApplication::setStyle(QStringLiteral("Fusion"));
+#endif
+    return std::make_unique<GuardedApplication>(argc, argv);
+}
+
 } // namespace
-
-struct DesktopApplication::Private {
-    Private(int& argc, char** argv)
-        : application(WithStyle(argc), argv)
-    {
-    }
-
-    GuardedApplication application;
-    SessionEnd sessionEnd{[] { current->Quit(0); }};
-    QTranslator platformTexts;
-    DesktopMenuBar menuBar;
-    std::optional<int> exitCode;
-};
 
 DesktopApplication::DesktopApplication(int& argc, char** argv, String name, String version)
     : Name(std::move(name))
     , Version(std::move(version))
-    , private_(std::make_unique<Private>(argc, argv))
+    , application_(MakeApplication(argc, argv))
 {
-    current = this;
+    current_ = this;
+    QuitAtSessionEnd([this] { Quit(0); });
     // A file above the user's limit of sizes is an error of its writer, and no end of the program.
     std::signal(SIGXFSZ, SIG_IGN);
     QApplication::setApplicationName(ToQt(Name));
     QApplication::setApplicationVersion(ToQt(Version));
     QApplication::setQuitOnLastWindowClosed(false);
-    if (private_->platformTexts.load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"),
-                                     QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QApplication::installTranslator(&private_->platformTexts);
+    // Qt takes from it what the desktop's fonts lack.
+    if (const auto resources = ResourceFolder())
+        QFontDatabase::addApplicationFont(ToQt(resources->NativePath() + U"/TarnivelSymbols.ttf"));
+    auto* const platformTexts = new QTranslator(qApp);
+    if (platformTexts->load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"),
+                            QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(platformTexts);
 }
 
 void DesktopApplication::SetDesktopEntry(StringView entry, StringView icon)
@@ -107,14 +97,14 @@ void DesktopApplication::SetDesktopEntry(StringView entry, StringView icon)
 #endif
 }
 
-DesktopApplication::~DesktopApplication() { current = nullptr; }
+DesktopApplication::~DesktopApplication() { current_ = nullptr; }
 
-void DesktopApplication::SetMenuBar(DesktopMenuBar menuBar) { private_->menuBar = std::move(menuBar); }
+void DesktopApplication::SetMenuBar(DesktopMenuBar menuBar) { menuBar_ = std::move(menuBar); }
 
 int DesktopApplication::Run()
 {
     // A window that refused to open, or a quit from its opening, has left no loop to end.
-    if (private_->exitCode || !HasVisibleWindow()) return private_->exitCode.value_or(0);
+    if (exitCode_ || !HasVisibleWindow()) return exitCode_.value_or(0);
     return QApplication::exec();
 }
 
@@ -125,7 +115,7 @@ void DesktopApplication::Quit(int exitCode)
         return window->Visible() && window->CancelClosing && window->CancelClosing(true);
     });
     if (refused) return;
-    private_->exitCode = exitCode;
+    exitCode_ = exitCode;
     QApplication::exit(exitCode);
 }
 
@@ -137,25 +127,6 @@ bool DesktopApplication::HasVisibleWindow()
 void DesktopApplication::WindowClosed()
 {
     if (!HasVisibleWindow()) QApplication::exit(0);
-}
-
-QMenuBar* DesktopApplication::MakeMenuBar(const DesktopWindow& window, QWidget* parent)
-{
-    if (!current || current->private_->menuBar.empty()) return nullptr;
-    DesktopApplication& application = *current;
-    const auto validate = [&application] {
-        if (application.MenuBarSelected) application.MenuBarSelected();
-    };
-    return ::MakeMenuBar(
-        parent, application.private_->menuBar,
-        {[&window] { return window.TakesInput(); }, validate, [&application] { application.Quit(0); }});
-}
-
-Int64 DesktopApplication::WindowCount() { return static_cast<Int64>(DesktopWindow::All().size()); }
-
-DesktopWindow* DesktopApplication::WindowAt(Int64 index)
-{
-    return DesktopWindow::All().at(static_cast<std::size_t>(index));
 }
 
 void DesktopApplication::YieldToPlatform()

@@ -5,7 +5,9 @@
 #include "toolkit/DesktopWindow.h"
 
 #include <memory>
+#include <optional>
 
+class QApplication;
 class QMenuBar;
 class QWidget;
 
@@ -36,10 +38,6 @@ public:
     /// end of the desktop's log-in comes here too, and so do SIGTERM, SIGINT and SIGHUP, with 0.
     void Quit(int exitCode);
 
-    static Int64 WindowCount();
-    /// Windows that exist, hidden ones included, in the order of their creation.
-    static DesktopWindow* WindowAt(Int64 index);
-
     /// Lets the platform repaint and timers fire. Mouse, keyboard, the closing of windows and answers from the network
     /// wait until the program is idle again; what a screen reader presses meanwhile is dropped.
     static void YieldToPlatform();
@@ -52,9 +50,11 @@ private:
     static void WindowClosed();
     static bool HasVisibleWindow();
 
+    static inline DesktopApplication* current_ = nullptr;
     /// Calls of `YieldToPlatform` under way.
     static inline int yields_ = 0;
 
-    struct Private;
-    std::unique_ptr<Private> private_;
+    std::unique_ptr<QApplication> application_;
+    DesktopMenuBar menuBar_;
+    std::optional<int> exitCode_;
 };

@@ -37,21 +37,16 @@ private:
 
 void Graphics::SetDrawingColor(ColorGroup color, int transparency)
 {
-    color_ = color;
-    transparency_ = transparency;
+    QColor shown(color.rgb);
+    shown.setAlphaF(1.0F - static_cast<float>(transparency) / 100.0F);
+    painter_.setPen(Qt::NoPen);
+    painter_.setBrush(shown);
 }
 
-void Graphics::FillRectangle(int left, int top, int width, int height)
-{
-    FillRoundRectangle(left, top, width, height, 0, 0);
-}
+void Graphics::FillRectangle(int left, int top, int width, int height) { painter_.drawRect(left, top, width, height); }
 
 void Graphics::FillRoundRectangle(int left, int top, int width, int height, int cornerWidth, int cornerHeight)
 {
-    QColor color(color_.rgb);
-    color.setAlphaF(1.0F - static_cast<float>(transparency_) / 100.0F);
-    painter_.setPen(Qt::NoPen);
-    painter_.setBrush(color);
     painter_.drawRoundedRect(left, top, width, height, cornerWidth / 2.0, cornerHeight / 2.0);
 }
 
@@ -60,10 +55,4 @@ DesktopCanvas::DesktopCanvas(DesktopWindow& window, const Placement& placement)
 {
 }
 
-void DesktopCanvas::SetAllowFocus(bool allowed)
-{
-    const bool stop = TabIndex() >= 0;
-    widget_->setFocusPolicy(!allowed ? Qt::NoFocus : stop ? Qt::TabFocus : Qt::ClickFocus);
-}
-
-void DesktopCanvas::Refresh() { widget_->update(); }
+void DesktopCanvas::AllowFocus() { widget_->setFocusPolicy(TabIndex() >= 0 ? Qt::TabFocus : Qt::ClickFocus); }

@@ -23,8 +23,6 @@ public:
 
 private:
     QPainter& painter_;
-    ColorGroup color_;
-    int transparency_ = 0;
 };
 
 /// A disabled canvas lets the mouse through to what lies below it.
@@ -32,10 +30,8 @@ class DesktopCanvas : public DesktopUIControl {
 public:
     DesktopCanvas(DesktopWindow& window, const Placement& placement);
 
-    /// Whether `SetFocus` gives it the focus. The Tab key reaches it if it has a place in that order too.
-    void SetAllowFocus(bool allowed);
-    /// Lays it above all other controls.
-    void Refresh();
+    /// Lets `SetFocus` give it the focus, and the Tab key if it has a place in that order.
+    void AllowFocus();
 
     std::function<void(Graphics& graphics, int width, int height)> Paint;
 };

@@ -6,10 +6,12 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QShortcut>
 #include <QSignalBlocker>
+#include <QSlider>
 #include <QVBoxLayout>
 
 namespace {
@@ -22,7 +24,6 @@ constexpr int ArrowWidth = 30;
 
 void SetButtonCaption(QAbstractButton& button, StringView caption, int room, int fontSize = 0)
 {
-    ProvideSymbols(button, caption);
     button.setText(Marked(caption));
     FitFont(button, ToQt(caption), room, fontSize);
 }
@@ -40,7 +41,10 @@ DesktopButton::DesktopButton(DesktopWindow& window, const Placement& placement, 
     });
 }
 
-String DesktopButton::Caption() const { return Unmarked(static_cast<QPushButton*>(widget_)->text()); }
+String DesktopButton::Caption() const
+{
+    return ReplaceAll(FromQt(static_cast<QPushButton*>(widget_)->text()), U"&&", U"&");
+}
 
 void DesktopButton::SetCaption(StringView caption)
 {
@@ -74,61 +78,33 @@ bool DesktopCheckBox::Value() const { return static_cast<QCheckBox*>(widget_)->i
 
 void DesktopCheckBox::SetValue(bool checked) { static_cast<QCheckBox*>(widget_)->setChecked(checked); }
 
-namespace {
-
-/// Radio buttons of equal height; the focus of the group is that of the button which is selected.
-class Choices final : public QWidget {
-public:
-    Choices()
-    {
-        rows_->setContentsMargins(0, 0, 0, 0);
-        rows_->setSpacing(0);
-    }
-
-    void Fill(const std::vector<StringView>& captions, int room)
-    {
-        qDeleteAll(group_.buttons());
-        for (int id = 0; StringView caption : captions) {
-            auto* choice = new QRadioButton(this);
-            choice->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
-            rows_->addWidget(choice, 1);
-            group_.addButton(choice, id++);
-            SetButtonCaption(*choice, caption, room);
-        }
-        Select(0);
-    }
-    [[nodiscard]] int Selected() const { return group_.checkedId(); }
-    void Select(int id)
-    {
-        if (QAbstractButton* choice = group_.button(id)) choice->setChecked(true);
-    }
-
-protected:
-    void focusInEvent(QFocusEvent*) override
-    {
-        if (QAbstractButton* choice = group_.checkedButton()) choice->setFocus();
-    }
-
-private:
-    QVBoxLayout* const rows_ = new QVBoxLayout(this);
-    QButtonGroup group_;
-};
-
-} // namespace
-
-DesktopRadioGroup::DesktopRadioGroup(DesktopWindow& window, const Placement& placement)
-    : DesktopUIControl(window, new Choices, placement)
+DesktopRadioGroup::DesktopRadioGroup(DesktopWindow& window, const Placement& placement, StringView captions)
+    : DesktopUIControl(window, new QWidget, placement)
+    , choices_(new QButtonGroup(widget_))
 {
+    auto* const rows = new QVBoxLayout(widget_);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(0);
+    // The focus of the group is that of the choice which is selected.
+    QObject::connect(choices_, &QButtonGroup::idToggled, widget_, [this](int id, bool on) {
+        if (on) widget_->setFocusProxy(choices_->button(id));
+    });
+    for (int id = 0; const StringView caption : Split(captions, EndOfLine::Native)) {
+        auto* const choice = new QRadioButton(widget_);
+        choice->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
+        SetButtonCaption(*choice, caption, Width() - MarkWidth);
+        rows->addWidget(choice, 1);
+        choices_->addButton(choice, id++);
+    }
+    SetSelectedIndex(0);
 }
 
-void DesktopRadioGroup::SetInitialValue(StringView captions)
+int DesktopRadioGroup::SelectedIndex() const { return choices_->checkedId(); }
+
+void DesktopRadioGroup::SetSelectedIndex(int index)
 {
-    static_cast<Choices*>(widget_)->Fill(Split(captions, EndOfLine::Native), Width() - MarkWidth);
+    if (QAbstractButton* const choice = choices_->button(index)) choice->setChecked(true);
 }
-
-int DesktopRadioGroup::SelectedIndex() const { return static_cast<Choices*>(widget_)->Selected(); }
-
-void DesktopRadioGroup::SetSelectedIndex(int index) { static_cast<Choices*>(widget_)->Select(index); }
 
 DesktopPopupMenu::DesktopPopupMenu(DesktopWindow& window, const Placement& placement, StringView rows, int selectedRow)
     : DesktopUIControl(window, new QComboBox, placement)
@@ -185,3 +161,28 @@ void DesktopSegmentedButton::SetShortcut(StringView keys)
 {
     static_cast<QPushButton*>(widget_)->setShortcut(QKeySequence(ToQt(keys)));
 }
+
+DesktopSlider::DesktopSlider(DesktopWindow& window, const Placement& placement, const SliderStyle& style)
+    : DesktopUIControl(window, new QSlider(Qt::Horizontal), placement)
+{
+    auto* const slider = static_cast<QSlider*>(widget_);
+    slider->setRange(style.minimum, style.maximum);
+    slider->setSingleStep(style.lineStep);
+    slider->setPageStep(style.pageStep);
+    slider->setValue(style.value);
+    QObject::connect(slider, &QSlider::valueChanged, slider, [this] {
+        if (ValueChanged) ValueChanged();
+    });
+}
+
+int DesktopSlider::Value() const { return static_cast<QSlider*>(widget_)->value(); }
+
+void DesktopSlider::SetValue(int value) { static_cast<QSlider*>(widget_)->setValue(value); }
+
+DesktopProgressBar::DesktopProgressBar(DesktopWindow& window, const Placement& placement)
+    : DesktopUIControl(window, new QProgressBar, placement)
+{
+    static_cast<QProgressBar*>(widget_)->setRange(0, 100);
+}
+
+void DesktopProgressBar::SetValue(int percent) { static_cast<QProgressBar*>(widget_)->setValue(percent); }

@@ -7,6 +7,8 @@
 
 #include <functional>
 
+class QButtonGroup;
+
 /// A push button. Its caption is literal: "&" is a character like any other.
 class DesktopButton : public DesktopUIControl {
 public:
@@ -62,10 +64,11 @@ struct LabelStyle {
     int fontSize = 0;
     /// Wraps where it must, and can be selected and copied; what has no room scrolls.
     bool multiline = false;
+    /// Can be pressed, and takes the focus if it has a place in the order of the Tab key.
+    bool link = false;
 };
 
-/// A text that the user can't change. One with a `MouseUp` handler is a link: it can take the focus, and Enter or the
-/// space bar press it in its middle.
+/// A text that the user can't change.
 class DesktopLabel : public DesktopUIControl {
 public:
     DesktopLabel(DesktopWindow& window, const Placement& placement, StringView text, const LabelStyle& style = {});
@@ -73,12 +76,8 @@ public:
     [[nodiscard]] String Text() const;
     void SetText(StringView text);
 
-    /// Positions are points in the label. `MouseDown` answers whether the label takes the press; the release comes to
-    /// `MouseUp` only then, wherever the pointer is by then.
-    std::function<bool(int x, int y)> MouseDown;
-    std::function<void(int x, int y)> MouseUp;
-    std::function<void()> MouseEnter;
-    std::function<void()> MouseExit;
+    /// The mouse went down and up on the link, or it was pressed by Enter, the space bar or a screen reader.
+    std::function<void()> Pressed;
 
 private:
     int fontSize_;
@@ -95,12 +94,14 @@ public:
 /// Choices of which one is selected, one below the other in equal heights.
 class DesktopRadioGroup : public DesktopUIControl {
 public:
-    DesktopRadioGroup(DesktopWindow& window, const Placement& placement);
+    /// The captions are separated by line ends. The first choice is selected.
+    DesktopRadioGroup(DesktopWindow& window, const Placement& placement, StringView captions);
 
-    /// The captions, separated by line ends. The first choice is selected.
-    void SetInitialValue(StringView captions);
     [[nodiscard]] int SelectedIndex() const;
     void SetSelectedIndex(int index);
+
+private:
+    QButtonGroup* const choices_;
 };
 
 class DesktopPopupMenu : public DesktopUIControl {
@@ -131,4 +132,31 @@ public:
     void SetShortcut(StringView keys);
 
     std::function<void(int segmentIndex)> Pressed;
+};
+
+struct SliderStyle {
+    int minimum, maximum, value;
+    /// How far an arrow key moves it, and how far a page key or a click beside the knob does.
+    int lineStep, pageStep;
+};
+
+/// A horizontal slider without tick marks. Its value follows the knob while that is dragged.
+class DesktopSlider : public DesktopUIControl {
+public:
+    DesktopSlider(DesktopWindow& window, const Placement& placement, const SliderStyle& style);
+
+    [[nodiscard]] int Value() const;
+    void SetValue(int value);
+
+    /// The value changed, by the user or by `SetValue`.
+    std::function<void()> ValueChanged;
+};
+
+/// A bar that shows how far a long work is.
+class DesktopProgressBar : public DesktopUIControl {
+public:
+    DesktopProgressBar(DesktopWindow& window, const Placement& placement);
+
+    /// 0 to 100 percent.
+    void SetValue(int percent);
 };

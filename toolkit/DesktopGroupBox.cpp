@@ -7,23 +7,21 @@
 #include <QMimeData>
 #include <QTimer>
 #include <QUrl>
-#include <algorithm>
+
+namespace {
 
 /// Watches the window's content: what is dragged over a control inside the frame, which takes no drops, is told to
-/// that.
-class DesktopGroupBox::Drops final : public QObject {
+/// that. A group box of Qt would take drops only where no control lies above it.
+class Drops final : public QObject {
 public:
     Drops(DesktopGroupBox& owner, QWidget& frame)
-        : owner_(owner)
+        : QObject(&frame)
+        , owner_(owner)
         , frame_(frame)
     {
         frame.parentWidget()->setAcceptDrops(true);
         frame.parentWidget()->installEventFilter(this);
         frame.window()->installEventFilter(this);
-        afterwards_.setSingleShot(true);
-        connect(&afterwards_, &QTimer::timeout, this, [this] {
-            if (owner_.DropObject && owner_.TakesInput()) owner_.DropObject(std::exchange(dropped_, {}));
-        });
     }
 
 protected:
@@ -65,14 +63,12 @@ private:
     {
         const bool over = frame_.geometry().contains(event.position().toPoint()) && event.mimeData()->hasUrls() &&
                           owner_.TakesInput();
-        if (over && !inside_) {
-            inside_ = true;
-            refused_ = !owner_.DragEnter || owner_.DragEnter(ItemOf(*event.mimeData()));
-        } else if (!over) {
+        if (!over)
             Leave();
-        }
+        else if (!std::exchange(inside_, true) && owner_.DragEnter)
+            owner_.DragEnter();
         // The content goes on being told where the pointer is.
-        event.setDropAction(over && !refused_ ? Qt::CopyAction : Qt::IgnoreAction);
+        event.setDropAction(over ? Qt::CopyAction : Qt::IgnoreAction);
         event.accept();
     }
 
@@ -83,26 +79,25 @@ private:
 
     void Drop(QDropEvent& event)
     {
-        if (!std::exchange(inside_, false) || refused_) return event.ignore();
+        if (!std::exchange(inside_, false)) return event.ignore();
         event.setDropAction(Qt::CopyAction);
         event.accept();
         // The other program waits for the end of this event, and the handler may ask the user.
-        dropped_ = ItemOf(*event.mimeData());
-        afterwards_.start(0);
+        QTimer::singleShot(0, this, [this, dropped = ItemOf(*event.mimeData())] {
+            if (owner_.DropObject && owner_.TakesInput()) owner_.DropObject(dropped);
+        });
     }
 
     DesktopGroupBox& owner_;
     QWidget& frame_;
-    bool inside_ = false, refused_ = false;
-    DragItem dropped_;
-    QTimer afterwards_;
+    bool inside_ = false;
 };
+
+} // namespace
 
 DesktopGroupBox::DesktopGroupBox(DesktopWindow& window, const Placement& placement, StringView caption)
     : DesktopUIControl(window, new QGroupBox, placement)
-    , drops_(std::make_unique<Drops>(*this, *widget_))
 {
+    new Drops(*this, *widget_);
     static_cast<QGroupBox*>(widget_)->setTitle(Marked(caption));
 }
-
-DesktopGroupBox::~DesktopGroupBox() = default;

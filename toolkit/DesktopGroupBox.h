@@ -5,7 +5,6 @@
 #include "toolkit/core/FolderItem.h"
 
 #include <functional>
-#include <memory>
 #include <vector>
 
 /// Files and folders that are dragged over the program.
@@ -17,14 +16,8 @@ struct DragItem {
 class DesktopGroupBox : public DesktopUIControl {
 public:
     DesktopGroupBox(DesktopWindow& window, const Placement& placement, StringView caption);
-    ~DesktopGroupBox() override;
 
-    /// Files are dragged into the frame, or out of it again; true refuses them. Without a handler the frame takes none.
-    std::function<bool(const DragItem& item)> DragEnter;
-    std::function<void()> DragExit;
+    /// Files are dragged into the frame, or out of it again.
+    std::function<void()> DragEnter, DragExit;
     std::function<void(const DragItem& item)> DropObject;
-
-private:
-    class Drops;
-    std::unique_ptr<Drops> drops_;
 };

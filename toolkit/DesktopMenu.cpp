@@ -1,11 +1,13 @@
 #include "toolkit/DesktopMenu.h"
 
+#include "toolkit/DesktopApplication.h"
 #include "toolkit/EditCommands.h"
-#include "toolkit/MenuBar.h"
 #include "toolkit/core/QtText.h"
 
 #include <QApplication>
 #include <QMenu>
+#include <QMenuBar>
+#include <QPointer>
 #include <utility>
 
 DesktopMenuItem::DesktopMenuItem(String name, String text, String shortcut, EditCommand edit)
@@ -16,21 +18,14 @@ DesktopMenuItem::DesktopMenuItem(String name, String text, String shortcut, Edit
 {
 }
 
-DesktopMenuItem::~DesktopMenuItem() = default;
-
 namespace {
 
 QKeySequence KeysOf(StringView shortcut)
 {
-    QString keys;
-    for (StringView part : Split(shortcut, U"+")) {
-        QString key = SameText(part, U"Cmd")      ? QStringLiteral("Ctrl")
-                      : SameText(part, U"Option") ? QStringLiteral("Alt")
-                                                  : ToQt(part);
-        key += u'+';
-        if (!keys.contains(key)) keys += key;
-    }
-    keys.chop(1);
+    QString keys = ToQt(shortcut);
+    keys.replace(QStringLiteral("Cmd+Cmd"), QStringLiteral("Cmd"));
+    keys.replace(QStringLiteral("Cmd"), QStringLiteral("Ctrl"))
+        .replace(QStringLiteral("Option"), QStringLiteral("Alt"));
     return QKeySequence(keys, QKeySequence::PortableText);
 }
 
@@ -43,9 +38,11 @@ QAction::MenuRole RoleOf(const DesktopMenuItem& item)
 
 class MenuBarWidget final : public QMenuBar {
 public:
-    MenuBarWidget(QWidget* window, const DesktopMenuBar& menus, const MenuServices& services)
-        : QMenuBar(window)
-        , services_(services)
+    MenuBarWidget(DesktopApplication& application, const DesktopMenuBar& menus, const DesktopWindow& window,
+                  QWidget* parent)
+        : QMenuBar(parent)
+        , application_(application)
+        , window_(window)
     {
         for (const DesktopMenu& menu : menus)
             AddMenu(menu);
@@ -60,7 +57,7 @@ private:
         for (DesktopMenuItem* item : menu.items)
             AddItem(*list, *item);
         connect(list, &QMenu::aboutToShow, this, [this, list, items = menu.items] {
-            services_.validate();
+            Validate();
             for (qsizetype i = 0; i < list->actions().size(); ++i)
                 list->actions()[i]->setEnabled(Usable(*items[static_cast<std::size_t>(i)]));
         });
@@ -84,19 +81,24 @@ private:
         connect(action, &QAction::triggered, this, [this, &item] { Trigger(item); });
     }
 
+    void Validate() const
+    {
+        if (application_.MenuBarSelected) application_.MenuBarSelected();
+    }
+
     [[nodiscard]] bool Usable(const DesktopMenuItem& item) const
     {
-        return services_.takesInput() && item.Enabled &&
+        return window_.TakesInput() && item.Enabled &&
                (item.Edit == EditCommand::None || CanEdit(item.Edit, textControl_));
     }
 
     void Trigger(DesktopMenuItem& item)
     {
-        services_.validate();
+        Validate();
         if (!Usable(item)) return;
         if (item.Edit != EditCommand::None) return ::Edit(item.Edit, textControl_);
         if (item.Action) return item.Action();
-        if (dynamic_cast<DesktopQuitMenuItem*>(&item)) services_.quit();
+        if (dynamic_cast<DesktopQuitMenuItem*>(&item)) application_.Quit(0);
     }
 
     /// The menus take the focus while they are used from the keyboard, but act on the control that had it.
@@ -106,13 +108,15 @@ private:
         textControl_ = now->window() == window() && IsTextControl(now) ? now : nullptr;
     }
 
-    const MenuServices services_;
+    DesktopApplication& application_;
+    const DesktopWindow& window_;
     QPointer<QWidget> textControl_;
 };
 
 } // namespace
 
-QMenuBar* MakeMenuBar(QWidget* window, const DesktopMenuBar& menus, const MenuServices& services)
+QMenuBar* DesktopApplication::MakeMenuBar(const DesktopWindow& window, QWidget* parent)
 {
-    return new MenuBarWidget(window, menus, services);
+    if (!current_ || current_->menuBar_.empty()) return nullptr;
+    return new MenuBarWidget(*current_, current_->menuBar_, window, parent);
 }

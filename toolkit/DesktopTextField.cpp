@@ -1,18 +1,15 @@
 #include "toolkit/Appearance.h"
 #include "toolkit/DesktopControls.h"
 #include "toolkit/DocumentText.h"
-#include "toolkit/EditCommands.h"
 #include "toolkit/core/QtText.h"
 
-#include <QAction>
 #include <QClipboard>
-#include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QMenu>
 #include <QMimeData>
+#include <QScopedValueRollback>
 #include <QUrl>
 #include <limits>
 
@@ -36,14 +33,16 @@ class Field final : public QLineEdit {
 public:
     Field(DesktopTextField& owner, const FieldStyle& style)
         : owner_(owner)
+        , oneLine_(style.oneLine)
     {
         setReadOnly(style.readOnly);
         setMaxLength(std::numeric_limits<int>::max());
-        if (style.oneLine) connect(this, &QLineEdit::textEdited, this, &Field::JoinLines);
+        connect(this, &QLineEdit::textEdited, this, [this](const QString& text) { Edited(text); });
     }
 
     void Show(const QString& text)
     {
+        before_ = text;
         setText(text);
         setCursorPosition(0);
     }
@@ -56,33 +55,19 @@ protected:
         if ((enter || escape) && !owner_.TakesInput()) return;
         if (enter && owner_.Entered) return owner_.Entered();
         if (escape && owner_.Escaped) return owner_.Escaped();
-        if (event->matches(QKeySequence::Paste) && Take(QGuiApplication::clipboard()->mimeData())) return;
+        const QScopedValueRollback typing(typing_, !event->matches(QKeySequence::Paste));
         QLineEdit::keyPressEvent(event);
     }
 
-    void mouseReleaseEvent(QMouseEvent* event) override
+    void inputMethodEvent(QInputMethodEvent* event) override
     {
-        const bool pastes = event->button() == Qt::MiddleButton && QGuiApplication::clipboard()->supportsSelection();
-        if (pastes && Take(QGuiApplication::clipboard()->mimeData(QClipboard::Selection))) return;
-        QLineEdit::mouseReleaseEvent(event);
-    }
-
-    void contextMenuEvent(QContextMenuEvent* event) override
-    {
-        QMenu* const menu = createStandardContextMenu();
-        menu->setAttribute(Qt::WA_DeleteOnClose);
-        const QString key = QKeySequence(QKeySequence::Paste).toString(QKeySequence::NativeText);
-        for (QAction* const action : menu->actions()) {
-            if (!action->text().endsWith(key)) continue;
-            action->disconnect(this);
-            connect(action, &QAction::triggered, this, [this] { Edit(EditCommand::Paste, this); });
-        }
-        menu->popup(event->globalPos());
+        const QScopedValueRollback typing(typing_, true);
+        QLineEdit::inputMethodEvent(event);
     }
 
     void dragEnterEvent(QDragEnterEvent* event) override
     {
-        if (ItemIn(event->mimeData()))
+        if (DroppedItem(*event->mimeData()))
             event->acceptProposedAction();
         else if (owner_.ItemGiven && event->mimeData()->hasUrls())
             event->ignore(); // Several items, or none that is there: their addresses are no path.
@@ -92,37 +77,53 @@ protected:
 
     void dropEvent(QDropEvent* event) override
     {
-        if (Take(event->mimeData()))
-            event->acceptProposedAction();
-        else
-            QLineEdit::dropEvent(event);
+        const std::optional<FolderItem> item = DroppedItem(*event->mimeData());
+        if (!item) return QLineEdit::dropEvent(event);
+        event->acceptProposedAction();
+        owner_.ItemGiven(*item);
     }
 
 private:
-    /// The item that what is pasted or dropped stands for.
-    [[nodiscard]] std::optional<FolderItem> ItemIn(const QMimeData* incoming) const
+    [[nodiscard]] std::optional<FolderItem> DroppedItem(const QMimeData& dropped) const
     {
-        if (!incoming || !owner_.ItemGiven || !owner_.TakesInput() || incoming->urls().size() > 1) return {};
-        return ItemOf(incoming->hasUrls() ? incoming->urls().constFirst().toString() : incoming->text().trimmed());
+        if (!owner_.ItemGiven || !owner_.TakesInput() || dropped.urls().size() != 1) return {};
+        return ItemOf(dropped.urls().front().toString());
     }
 
-    /// Gives it instead of changing the text; whether there was one.
-    bool Take(const QMimeData* incoming)
+    void Edited(const QString& text)
     {
-        const std::optional<FolderItem> item = ItemIn(incoming);
-        if (item) owner_.ItemGiven(*item);
-        return item.has_value();
+        const QString pasted = Pasted(text).trimmed();
+        if (oneLine_ && OneLine(text) != text) {
+            const int caret = cursorPosition();
+            setText(OneLine(text));
+            setCursorPosition(caret);
+        }
+        const std::optional<FolderItem> item = owner_.TakesInput() && pasted.size() > 1 ? ItemOf(pasted) : std::nullopt;
+        if (!item) {
+            before_ = text;
+            return;
+        }
+        Show(before_);
+        owner_.ItemGiven(*item);
     }
 
-    void JoinLines(const QString& text)
+    /// The clipboard's text if the edit put it in front of the caret, or "". Keys other than the one that pastes don't,
+    /// nor does what takes an edit back.
+    [[nodiscard]] QString Pasted(const QString& text) const
     {
-        if (OneLine(text) == text) return;
-        const int caret = cursorPosition();
-        setText(OneLine(text));
-        setCursorPosition(caret);
+        if (!owner_.ItemGiven || typing_ || isRedoAvailable()) return {};
+        for (const auto mode : {QClipboard::Clipboard, QClipboard::Selection}) {
+            QString held = QGuiApplication::clipboard()->text(mode);
+            if (!held.isEmpty() && text.left(cursorPosition()).endsWith(held)) return held;
+        }
+        return {};
     }
 
     DesktopTextField& owner_;
+    const bool oneLine_;
+    bool typing_ = false;
+    /// The text before the edit that is under way.
+    QString before_;
 };
 
 } // namespace

@@ -3,7 +3,6 @@
 #include "toolkit/DesktopWindow.h"
 #include "toolkit/core/QtText.h"
 
-#include <QAccessible>
 #include <QWidget>
 #include <algorithm>
 
@@ -30,27 +29,12 @@ String DesktopUIControl::Name() const { return FromQt(widget_->objectName()); }
 
 void DesktopUIControl::SetName(StringView name) { widget_->setObjectName(ToQt(name)); }
 
-void DesktopUIControl::SetLeft(int points)
+void DesktopUIControl::Place(int left, int top, int width, int height)
 {
-    placement_.left = points;
-    Apply();
-}
-
-void DesktopUIControl::SetTop(int points)
-{
-    placement_.top = points;
-    Apply();
-}
-
-void DesktopUIControl::SetWidth(int points)
-{
-    placement_.width = points;
-    Apply();
-}
-
-void DesktopUIControl::SetHeight(int points)
-{
-    placement_.height = points;
+    placement_.left = left;
+    placement_.top = top;
+    placement_.width = width;
+    placement_.height = height;
     Apply();
 }
 
@@ -65,12 +49,6 @@ void DesktopUIControl::SetVisible(bool visible) { widget_->setVisible(visible); 
 String DesktopUIControl::Tooltip() const { return FromQt(widget_->toolTip()); }
 
 void DesktopUIControl::SetTooltip(StringView tooltip) { widget_->setToolTip(ToQt(tooltip)); }
-
-String DesktopUIControl::AccessibleName() const
-{
-    const QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget_);
-    return accessible ? FromQt(accessible->text(QAccessible::Name)) : String();
-}
 
 void DesktopUIControl::SetAccessibleName(StringView name) { widget_->setAccessibleName(ToQt(name)); }
 

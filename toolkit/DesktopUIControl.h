@@ -1,11 +1,26 @@
 /// What all controls share.
 #pragma once
 
-#include "toolkit/Placement.h"
 #include "toolkit/core/Text.h"
 
 class DesktopWindow;
 class QWidget;
+
+/// The window edges that a control follows when the window is resized, as bits.
+namespace Lock {
+inline constexpr unsigned Left = 1, Top = 2, Right = 4, Bottom = 8;
+}
+
+/// Geometry in points from the top left corner of the window's content, below the menu bar.
+///
+/// A control tied to both of two opposite edges grows with the window; one tied to the far edge alone moves with it;
+/// one tied to neither stays at its distance from the left or the top.
+struct Placement {
+    int left, top, width, height;
+    unsigned locks = Lock::Left | Lock::Top;
+    /// Place in the order of the Tab key, or -1 for a control that the Tab key passes over.
+    int tab = -1;
+};
 
 /// A control of one window, for the life of both. Its Qt object is owned here and is of no concern to anyone else.
 ///
@@ -25,10 +40,8 @@ public:
     [[nodiscard]] int Top() const { return placement_.top; }
     [[nodiscard]] int Width() const { return placement_.width; }
     [[nodiscard]] int Height() const { return placement_.height; }
-    void SetLeft(int points);
-    void SetTop(int points);
-    void SetWidth(int points);
-    void SetHeight(int points);
+    void Place(int left, int top, int width, int height);
+    void SetTop(int points) { Place(Left(), points, Width(), Height()); }
 
     [[nodiscard]] unsigned Locks() const { return placement_.locks; }
     void SetLocks(unsigned locks) { placement_.locks = locks; }
@@ -44,7 +57,6 @@ public:
     void SetTooltip(StringView tooltip);
 
     /// What a screen reader calls the control; a caption is its own name until another is set.
-    [[nodiscard]] String AccessibleName() const;
     void SetAccessibleName(StringView name);
 
     void SetFocus();

@@ -31,6 +31,8 @@ public:
     [[nodiscard]] int MenuHeight() const;
 
     QWidget* const content;
+    /// By a dialog.
+    bool isBlocked = false;
     bool keyboardIsBlocked = false;
     QPointer<QWidget> focusBefore;
 
@@ -68,12 +70,9 @@ namespace {
 
 Qt::WindowFlags FlagsOf(const WindowStyle& style)
 {
-    Qt::WindowFlags flags = (style.movableModal ? Qt::Dialog : Qt::Window) | Qt::CustomizeWindowHint |
-                            Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
-    flags.setFlag(Qt::WindowCloseButtonHint, style.hasCloseButton);
-    flags.setFlag(Qt::WindowMaximizeButtonHint, style.hasMaximizeButton);
-    flags.setFlag(Qt::WindowMinimizeButtonHint, style.hasMinimizeButton);
-    return flags;
+    const Qt::WindowFlags flags = (style.movableModal ? Qt::Dialog : Qt::Window) | Qt::CustomizeWindowHint |
+                                  Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
+    return style.hasTitleButtons ? flags | Qt::WindowCloseButtonHint | Qt::WindowMinMaxButtonsHint : flags;
 }
 
 /// The widgets that make up one place in the order of the Tab key: the control, or the choices of a group.
@@ -84,17 +83,6 @@ QWidgetList TabStops(QWidget* control)
     for (QAbstractButton* choice : control->findChildren<QAbstractButton*>())
         stops.append(choice);
     return stops;
-}
-
-/// Whether a dialog keeps the user from a window that is no dialog itself.
-bool Blocks(const QWidget& dialog, const QWidget& window)
-{
-    if (!dialog.isVisible() || &dialog == &window) return false;
-    if (dialog.windowModality() != Qt::WindowModal) return dialog.isModal();
-    const QWidget* parent = dialog.parentWidget();
-    while (parent && parent != &window)
-        parent = parent->parentWidget();
-    return parent != nullptr;
 }
 
 } // namespace
@@ -151,13 +139,14 @@ void DesktopWindow::Shell::MoveContent(int left, int top)
 
 void DesktopWindow::Shell::HandKeyboardOn() const
 {
-    QWidget* const dialog = QApplication::activeModalWidget();
-    if (dialog && Blocks(*dialog, *this)) dialog->activateWindow();
+    if (isBlocked) QApplication::activeModalWidget()->activateWindow();
 }
 
 bool DesktopWindow::Shell::event(QEvent* event)
 {
     const bool handled = QWidget::event(event);
+    if (event->type() == QEvent::WindowBlocked || event->type() == QEvent::WindowUnblocked)
+        isBlocked = event->type() == QEvent::WindowBlocked;
     if (event->type() != QEvent::WindowActivate) return handled;
     if (owner_.Activated) owner_.Activated();
     // The platform activates a window for a press on it, even for one that came just before the dialog was seen.
@@ -183,16 +172,10 @@ DesktopWindow::DesktopWindow(const WindowStyle& style)
     , height_(style.height)
     , shell_(std::make_unique<Shell>(*this, style))
 {
-    All().push_back(this);
+    all_.push_back(this);
 }
 
-DesktopWindow::~DesktopWindow() { std::erase(All(), this); }
-
-std::vector<DesktopWindow*>& DesktopWindow::All()
-{
-    static std::vector<DesktopWindow*> windows;
-    return windows;
-}
+DesktopWindow::~DesktopWindow() { std::erase(all_, this); }
 
 DesktopWindow* DesktopWindow::Front()
 {
@@ -231,7 +214,6 @@ void DesktopWindow::Show()
     if (opens && shell_->isModal()) shell_->StandAbove(Front());
     shell_->setWindowState(shell_->windowState() & ~Qt::WindowMinimized);
     shell_->show();
-    // Labels know only when they are shown whether they are links, which can take the focus.
     if (opens) ApplyTabOrder();
     shell_->raise();
     shell_->activateWindow();
@@ -272,9 +254,7 @@ void DesktopWindow::BlockKeyboard(bool blocked)
 
 bool DesktopWindow::TakesInput() const
 {
-    if (shell_->keyboardIsBlocked || DesktopApplication::yields_ > 0) return false;
-    return std::ranges::none_of(QApplication::topLevelWidgets(),
-                                [this](const QWidget* other) { return Blocks(*other, *shell_); });
+    return !shell_->isBlocked && !shell_->keyboardIsBlocked && DesktopApplication::yields_ == 0;
 }
 
 QWidget* DesktopWindow::Content() const { return shell_->content; }

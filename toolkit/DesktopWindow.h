@@ -17,7 +17,8 @@ struct WindowStyle {
     bool resizable = true;
     /// Keeps the user from all other windows while it is open.
     bool movableModal = false;
-    bool hasCloseButton = true, hasMaximizeButton = true, hasMinimizeButton = true;
+    /// The buttons that close, maximise and minimise it.
+    bool hasTitleButtons = true;
 };
 
 /// A window and the controls that stand in it, in the order of their creation. Hidden until `Show`.
@@ -27,6 +28,9 @@ public:
     DesktopWindow(const DesktopWindow&) = delete;
     DesktopWindow& operator=(const DesktopWindow&) = delete;
     virtual ~DesktopWindow();
+
+    /// Windows that exist, hidden ones included, in the order of their creation.
+    static const std::vector<DesktopWindow*>& All() { return all_; }
 
     [[nodiscard]] String Title() const;
     [[nodiscard]] int MinimumWidth() const;
@@ -88,9 +92,8 @@ private:
     void ContentResized(int width, int height);
     /// The active window, else one that is visible, or null.
     static DesktopWindow* Front();
-    /// All windows that exist, in the order of their creation.
-    static std::vector<DesktopWindow*>& All();
 
+    static inline std::vector<DesktopWindow*> all_;
     int width_, height_;
     bool opened_ = false;
     std::vector<DesktopUIControl*> controls_;

@@ -52,21 +52,6 @@ String InWords(const MessageDialog& dialog)
     return words;
 }
 
-MessageDialog::Button ButtonOf(int number)
-{
-    using Button = MessageDialog::Button;
-    switch (number) {
-    case 1:
-        return Button::Action;
-    case 2:
-        return Button::Cancel;
-    case 3:
-        return Button::Alternate;
-    default:
-        return Button::None;
-    }
-}
-
 /// Runs a dialog to its end. Null when its window went away meanwhile and took it along.
 template <typename Dialog>
 std::unique_ptr<Dialog> Finished(Dialog* dialog)
@@ -114,10 +99,10 @@ MessageDialog::Button MessageDialog::ShowModal(DesktopWindow* window) const
 {
     if (Probe* const probe = Probe::Current()) {
         Record(*probe, InWords(*this));
-        return ButtonOf(TakeAnswer<int>(*probe, 1));
+        return static_cast<Button>(TakeAnswer<int>(*probe, 1));
     }
-    const auto finished = Finished(new MessageWindow(*this, Dialogs::ParentOf(window)));
-    return finished ? finished->Pressed() : Button::None;
+    const auto finished = Finished(MakeMessageWindow(*this, Dialogs::ParentOf(window)));
+    return finished ? static_cast<Button>(finished->result()) : Button::None;
 }
 
 std::optional<FolderItem> OpenFileDialog::ShowModal(DesktopWindow* window) const

@@ -2,7 +2,6 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QPlainTextEdit>
@@ -33,15 +32,6 @@ bool ClipboardHasText()
 void Clear(QLineEdit& field) { field.del(); }
 void Clear(QPlainTextEdit& area) { area.textCursor().removeSelectedText(); }
 
-/// By its key, so that a field of ours sees what comes before its text changes.
-void Paste(QLineEdit& field)
-{
-    const QKeyCombination paste = QKeySequence(QKeySequence::Paste)[0];
-    QKeyEvent press(QEvent::KeyPress, paste.key(), paste.keyboardModifiers());
-    QCoreApplication::sendEvent(&field, &press);
-}
-void Paste(QPlainTextEdit& area) { area.paste(); }
-
 void EditText(EditCommand command, auto& control)
 {
     switch (command) {
@@ -52,7 +42,7 @@ void EditText(EditCommand command, auto& control)
     case EditCommand::Copy:
         return control.copy();
     case EditCommand::Paste:
-        return Paste(control);
+        return control.paste();
     case EditCommand::Clear:
         return Clear(control);
     case EditCommand::SelectAll:

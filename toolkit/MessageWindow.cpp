@@ -1,15 +1,17 @@
 #include "toolkit/MessageWindow.h"
 
+#include "toolkit/Appearance.h"
 #include "toolkit/DocumentText.h"
 #include "toolkit/core/QtText.h"
 
+#include <QDialog>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QStyle>
 #include <QTextBlock>
 #include <QTextCursor>
@@ -30,9 +32,6 @@ QIcon IconOf(const QWidget& window, int type)
     return window.style()->standardIcon(icons.at(static_cast<std::size_t>(type)), nullptr, &window);
 }
 
-/// A caption as it stands: Qt would take a "&" for the mark of a shortcut.
-QString CaptionOf(StringView text) { return ToQt(ReplaceAll(text, U"&", U"&&")); }
-
 /// What a dialog shows of a text: all of it, or whole lines as far as anyone can be asked to read, and "…".
 String Shown(const String& text)
 {
@@ -41,52 +40,7 @@ String Shown(const String& text)
     return text.substr(0, cut == String::npos ? static_cast<std::size_t>(MessageDialog::MostShown) : cut + 1) + U"…";
 }
 
-/// A text that can be read and copied, wraps anywhere where it must, and looks like the window around it.
-QTextEdit* MakeText(QWidget* parent)
-{
-    auto* const text = new QTextEdit(parent);
-    text->setReadOnly(true);
-    text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    text->setFrameShape(QFrame::NoFrame);
-    text->setTabChangesFocus(true);
-    text->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    QPalette colours = text->palette();
-    colours.setColor(QPalette::Base, Qt::transparent);
-    colours.setColor(QPalette::Text, colours.color(QPalette::WindowText));
-    text->setPalette(colours);
-    return text;
-}
-
-} // namespace
-
-MessageWindow::MessageWindow(const MessageDialog& content, QWidget* parent)
-    : QDialog(parent)
-{
-    auto* const text = MakeText(this);
-    const String message = Shown(content.Message);
-    AddText(*text, message, Shown(content.Explanation));
-    text->setAccessibleName(ToQt(NthField(message, U"\n", 1)));
-    auto* const buttons = new QDialogButtonBox(this);
-    AddButtons(*buttons, content);
-
-    auto* const columns = new QHBoxLayout;
-    if (const QIcon icon = IconOf(*this, content.IconType); !icon.isNull()) {
-        auto* const picture = new QLabel(this);
-        picture->setPixmap(icon.pixmap(style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this)));
-        columns->addWidget(picture, 0, Qt::AlignTop);
-    }
-    columns->addWidget(text, 1);
-    auto* const rows = new QVBoxLayout(this);
-    rows->addLayout(columns);
-    rows->addWidget(buttons);
-    rows->setSizeConstraint(QLayout::SetFixedSize);
-
-    const QMargins margins = rows->contentsMargins();
-    FitToScreen(*text, buttons->sizeHint().height() + rows->spacing() + margins.top() + margins.bottom());
-    setAccessibleName(ToQt(message));
-}
-
-void MessageWindow::AddText(QTextEdit& text, const String& message, const String& explanation)
+void AddText(QTextEdit& text, const String& message, const String& explanation)
 {
     text.setWordWrapMode(WrapModeFor(message + U'\n' + explanation));
     QTextCursor writer(text.document());
@@ -106,29 +60,33 @@ void MessageWindow::AddText(QTextEdit& text, const String& message, const String
     text.moveCursor(QTextCursor::Start);
 }
 
-void MessageWindow::AddButtons(QDialogButtonBox& box, const MessageDialog& content)
+void AddButtons(QDialog& dialog, QDialogButtonBox& box, const MessageDialog& content)
 {
     using Button = MessageDialog::Button;
     const auto add = [&](const String& caption, QDialogButtonBox::ButtonRole role, Button meaning) {
-        auto* const button = box.addButton(CaptionOf(caption), role);
-        connect(button, &QPushButton::clicked, this, [this, meaning] { Answer(meaning); });
+        auto* const button = box.addButton(Marked(caption), role);
+        QObject::connect(button, &QPushButton::clicked, &dialog,
+                         [&dialog, meaning] { dialog.done(static_cast<int>(meaning)); });
         return button;
     };
     auto* const action = add(content.ActionButton, QDialogButtonBox::AcceptRole, Button::Action);
-    canBeCancelled_ = !content.CancelButton.empty();
-    if (canBeCancelled_) add(content.CancelButton, QDialogButtonBox::RejectRole, Button::Cancel);
+    if (!content.CancelButton.empty()) {
+        auto* const cancel = add(content.CancelButton, QDialogButtonBox::RejectRole, Button::Cancel);
+        QObject::connect(new QShortcut(QKeySequence::Cancel, &dialog), &QShortcut::activated, cancel,
+                         &QPushButton::click);
+    }
     if (!content.AlternateActionButton.empty())
         add(content.AlternateActionButton, QDialogButtonBox::DestructiveRole, Button::Alternate);
     action->setDefault(true);
     action->setFocus();
 }
 
-void MessageWindow::FitToScreen(QTextEdit& text, int heightOfTheRest) const
+void FitToScreen(const QDialog& dialog, QTextEdit& text, int heightOfTheRest)
 {
     constexpr int narrowest = 420;
     constexpr int widest = 640;
     constexpr int percentOfScreen = 60;
-    const int mostHeight = screen()->availableGeometry().height() * percentOfScreen / 100 - heightOfTheRest;
+    const int mostHeight = dialog.screen()->availableGeometry().height() * percentOfScreen / 100 - heightOfTheRest;
 
     const QTextDocument& document = *text.document();
     QSize size(widest, mostHeight);
@@ -153,16 +111,32 @@ void MessageWindow::FitToScreen(QTextEdit& text, int heightOfTheRest) const
     text.setFixedSize(size.width() + barWidth, size.height());
 }
 
-void MessageWindow::Answer(MessageDialog::Button button)
-{
-    pressed_ = button;
-    accept();
-}
+} // namespace
 
-void MessageWindow::keyPressEvent(QKeyEvent* event)
+QDialog* MakeMessageWindow(const MessageDialog& content, QWidget* parent)
 {
-    if (event->matches(QKeySequence::Cancel) && canBeCancelled_)
-        Answer(MessageDialog::Button::Cancel);
-    else
-        QDialog::keyPressEvent(event);
+    auto* const dialog = new QDialog(parent);
+    auto* const text = MakeReadOnlyText(dialog);
+    const String message = Shown(content.Message);
+    AddText(*text, message, Shown(content.Explanation));
+    text->setAccessibleName(ToQt(NthField(message, U"\n", 1)));
+    auto* const buttons = new QDialogButtonBox(dialog);
+    AddButtons(*dialog, *buttons, content);
+
+    auto* const columns = new QHBoxLayout;
+    if (const QIcon icon = IconOf(*dialog, content.IconType); !icon.isNull()) {
+        auto* const picture = new QLabel(dialog);
+        picture->setPixmap(icon.pixmap(dialog->style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, dialog)));
+        columns->addWidget(picture, 0, Qt::AlignTop);
+    }
+    columns->addWidget(text, 1);
+    auto* const rows = new QVBoxLayout(dialog);
+    rows->addLayout(columns);
+    rows->addWidget(buttons);
+    rows->setSizeConstraint(QLayout::SetFixedSize);
+
+    const QMargins margins = rows->contentsMargins();
+    FitToScreen(*dialog, *text, buttons->sizeHint().height() + rows->spacing() + margins.top() + margins.bottom());
+    dialog->setAccessibleName(ToQt(message));
+    return dialog;
 }

@@ -13,8 +13,8 @@
 /// layer is the same as in use.
 class Probe {
 public:
-    Probe();
-    ~Probe();
+    Probe() { current_ = this; }
+    ~Probe() { current_ = nullptr; }
     Probe(const Probe&) = delete;
     Probe& operator=(const Probe&) = delete;
 
@@ -40,5 +40,8 @@ public:
     std::optional<std::pair<int, int>> ScreenSize;
 
     /// The one that lives, or null.
-    static Probe* Current();
+    static Probe* Current() { return current_; }
+
+private:
+    static inline Probe* current_ = nullptr;
 };

@@ -10,7 +10,6 @@
 #include <csignal>
 #include <fcntl.h>
 #include <unistd.h>
-#include <utility>
 
 namespace {
 
@@ -40,45 +39,35 @@ void QuitOrGoOn(QSessionManager& manager, const std::function<void()>& quit)
     if (wait.exec() != 0 && manager.allowsInteraction()) manager.cancel();
 }
 
-} // namespace
-
-struct SessionEnd::Private {
-    explicit Private(std::function<void()> quit)
-        : Quit(std::move(quit))
-    {
-    }
-    std::function<void()> Quit;
-    std::unique_ptr<QSocketNotifier> Woken;
-    QObject Context;
-};
-
-SessionEnd::SessionEnd(std::function<void()> quit)
-    : private_(std::make_unique<Private>(std::move(quit)))
+bool OpenWakePipe()
 {
-    QObject::connect(qApp, &QGuiApplication::commitDataRequest, &private_->Context,
-                     [this](QSessionManager& manager) { QuitOrGoOn(manager, private_->Quit); });
-    if (pipe(wakePipe.data()) != 0) return;
+    if (wakePipe[0] >= 0) return true;
+    if (pipe(wakePipe.data()) != 0) return false;
     for (const int end : wakePipe) {
         fcntl(end, F_SETFD, FD_CLOEXEC);
         fcntl(end, F_SETFL, O_NONBLOCK);
     }
-    private_->Woken = std::make_unique<QSocketNotifier>(wakePipe[0], QSocketNotifier::Read);
-    QObject::connect(private_->Woken.get(), &QSocketNotifier::activated, &private_->Context, [this] {
+    return true;
+}
+
+} // namespace
+
+void QuitAtSessionEnd(const std::function<void()>& quit)
+{
+    QObject::connect(qApp, &QGuiApplication::commitDataRequest, qApp,
+                     [quit](QSessionManager& manager) { QuitOrGoOn(manager, quit); });
+    if (!OpenWakePipe()) return;
+    auto* const woken = new QSocketNotifier(wakePipe[0], QSocketNotifier::Read, qApp);
+    QObject::connect(woken, &QSocketNotifier::activated, qApp, [quit] {
         std::array<char, 16> drained;
         while (read(wakePipe[0], drained.data(), drained.size()) > 0) {
         }
-        private_->Quit();
+        quit();
     });
     for (const int number : EndSignals)
         if (std::signal(number, WakeEventLoop) == SIG_IGN) std::signal(number, SIG_IGN);
-}
-
-SessionEnd::~SessionEnd()
-{
-    if (!private_->Woken) return;
-    for (const int number : EndSignals)
-        std::signal(number, SIG_DFL);
-    private_->Woken.reset();
-    for (const int end : wakePipe)
-        close(end);
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit, qApp, [] {
+        for (const int number : EndSignals)
+            std::signal(number, SIG_DFL);
+    });
 }

@@ -2,18 +2,8 @@
 #pragma once
 
 #include <functional>
-#include <memory>
 
-class SessionEnd {
-public:
-    /// Calls `quit` when the log-in ends, and at SIGTERM, SIGINT and SIGHUP, each time from the event loop. A log-in
-    /// whose end finds the program still there a moment later is asked to go on, as far as the desktop lets it.
-    explicit SessionEnd(std::function<void()> quit);
-    SessionEnd(const SessionEnd&) = delete;
-    SessionEnd& operator=(const SessionEnd&) = delete;
-    ~SessionEnd();
-
-private:
-    struct Private;
-    std::unique_ptr<Private> private_;
-};
+/// Has `quit` called when the log-in ends, and at SIGTERM, SIGINT and SIGHUP, which Qt leaves alone, each time from the
+/// event loop. A log-in whose end finds the program still there a moment later is asked to go on, as far as the desktop
+/// lets it.
+void QuitAtSessionEnd(const std::function<void()>& quit);

@@ -5,6 +5,7 @@
 Timer::Timer(int period)
     : timer_(std::make_unique<QTimer>())
 {
+    timer_->setSingleShot(true);
     timer_->setInterval(period);
     QObject::connect(timer_.get(), &QTimer::timeout, timer_.get(), [this] {
         if (Action) Action();
@@ -15,7 +16,6 @@ Timer::~Timer() = default;
 
 void Timer::SetRunMode(RunModes mode)
 {
-    timer_->setSingleShot(mode == RunModes::Single);
     if (mode == RunModes::Off)
         timer_->stop();
     else

@@ -50,8 +50,7 @@ protected:
         window->PushButtCherch_Pressed();
         window->SegButtSpecA.SetSelected(0, true);
         window->SegButtSpecA.Pressed(0);
-        dynamic_cast<WinSpecA&>(*DesktopApplication::WindowAt(DesktopApplication::WindowCount() - 1))
-            .PushButtTrait_Pressed();
+        dynamic_cast<WinSpecA&>(*DesktopWindow::All().back()).PushButtTrait_Pressed();
         window->SegButtSpecA.SetSelected(0, false);
         window->SegButtSpecA.Pressed(0);
         probe.Asked.clear();

@@ -59,7 +59,7 @@ TEST_F(MainWindow, ARunDisablesTheOtherWindowToo)
     Open();
     window->SegButtSpecA.SetSelected(0, true);
     window->SegButtSpecA.Pressed(0);
-    auto& special = dynamic_cast<WinSpecA&>(*DesktopApplication::WindowAt(DesktopApplication::WindowCount() - 1));
+    auto& special = dynamic_cast<WinSpecA&>(*DesktopWindow::All().back());
     for (const bool idle : {false, true}) {
         App::Current().EnableMenuBoutons(idle);
         for (const DesktopUIControl* control : std::initializer_list<DesktopUIControl*>{
@@ -273,22 +273,12 @@ TEST_F(MainWindow, AStartThatFailsSaysWhyAndQuits)
     EXPECT_EQ(app->Run(), 0);
 }
 
-TEST_F(MainWindow, ThePageOfVersionsOpensOnlyForAReleaseOnItsLabel)
+TEST_F(MainWindow, TheLabelOfTheVersionOpensThePageOfVersions)
 {
-    struct Row {
-        const char* name;
-        int x, y;
-        bool opens;
-    };
     Open();
     EXPECT_EQ(window->StaticTextVersion.Text(), U"v.1.1.3");
-    for (const Row& row : {Row{"inside", 0, 0, true}, Row{"on the far edge", 50, 16, true},
-                           Row{"right of it", 51, 3, false}, Row{"above it", 3, -1, false}}) {
-        probe.Links.clear();
-        EXPECT_TRUE(window->StaticTextVersion.MouseDown(1, 1));
-        window->StaticTextVersion.MouseUp(row.x, row.y);
-        EXPECT_EQ(probe.Links.size(), row.opens ? 1U : 0U) << row.name;
-    }
+    window->StaticTextVersion.Pressed();
+    EXPECT_EQ(probe.Links.size(), 1U);
 }
 
 } // namespace

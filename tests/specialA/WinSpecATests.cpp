@@ -128,8 +128,9 @@ TEST_F(SpecialA, StaysAliveInALongTreatment)
         ++ticks;
         ticksWithBar += static_cast<int>(window->ProgressTrait.Visible());
         window->Close();
+        watch.SetRunMode(Timer::RunModes::Single);
     };
-    watch.SetRunMode(Timer::RunModes::Multiple);
+    watch.SetRunMode(Timer::RunModes::Single);
     probe.WhileAsking = [&] { watch.SetRunMode(Timer::RunModes::Off); };
     window->PushButtTrait_Pressed();
     EXPECT_GT(ticksWithBar, 0);

@@ -43,7 +43,10 @@ QPushButton& ButtonNamed(QDialog& dialog, const QString& caption)
 /// A user who presses a key where the focus is.
 auto Presses(Qt::Key key)
 {
-    return [key](QDialog& dialog) { QTest::keyClick(dialog.focusWidget(), key); };
+    return [key](QDialog& dialog) {
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        QTest::keyClick(dialog.focusWidget(), key);
+    };
 }
 
 /// A user who clicks on a button.

@@ -71,15 +71,13 @@ TEST(Placement, WindowsKeepTheSizesOfTheirContent)
 TEST(Window, TabKeyGoesByIndexThenByCreation)
 {
     DesktopWindow window({.title = U"W", .width = 400, .height = 300});
-    DesktopRadioGroup group(window, {0, 0, 100, 40, L | T, 2});
+    DesktopRadioGroup group(window, {0, 0, 100, 40, L | T, 2}, U"one\ntwo\nthree");
     DesktopButton third(window, {0, 50, 100, 20, L | T, 1}, U"third");
     DesktopTextArea fourth(window, {0, 80, 100, 20, L | T, 1});
     DesktopButton never(window, {0, 110, 100, 20, L | T, -1}, U"never");
     DesktopLabel label(window, {0, 140, 100, 20, L | T, 0}, U"label");
     DesktopTextField second(window, {0, 170, 100, 20, L | T, 0});
-    DesktopLabel link(window, {0, 200, 100, 20, L | T, 3}, U"link");
-    link.MouseUp = [](int, int) {};
-    window.Opening = [&] { group.SetInitialValue(U"one\ntwo\nthree"); };
+    DesktopLabel link(window, {0, 200, 100, 20, L | T, 3}, U"link", {.link = true});
     ShowActive(window);
     window.SetFocus();
     EXPECT_EQ(window.Focus(), nullptr);

@@ -1,12 +1,28 @@
-#include "toolkit/RevealInFileManager.h"
+#include "toolkit/Desktop.h"
+#include "toolkit/Probe.h"
+#include "toolkit/core/QtText.h"
 
+#include <QFile>
+#include <QUrl>
+#ifdef Q_OS_MACOS
+#include <QProcess>
+#else
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDesktopServices>
-#include <QUrl>
+#endif
 
-void RevealInFileManager(const QUrl& item)
+namespace {
+
+#ifdef Q_OS_MACOS
+void Reveal(const QUrl& item)
+{
+    QProcess::startDetached(QStringLiteral("/usr/bin/open"), {QStringLiteral("-R"), item.toLocalFile()});
+}
+#else
+/// Asks the file manager, and doesn't wait for it.
+void Reveal(const QUrl& item)
 {
     constexpr int patience = 5000;
     auto question = QDBusMessage::createMethodCall(
@@ -20,4 +36,15 @@ void RevealInFileManager(const QUrl& item)
         // No bus, or a desktop whose file manager can't select: the folder that holds the item is the next best.
         if (watcher->isError()) QDesktopServices::openUrl(item.adjusted(QUrl::RemoveFilename));
     });
+}
+#endif
+
+} // namespace
+
+void RevealItem(const FolderItem& item)
+{
+    if (Probe* const probe = Probe::Current())
+        probe->Revealed.push_back(item.NativePath());
+    else
+        Reveal(QUrl::fromLocalFile(QFile::decodeName(item.Path().c_str())));
 }
