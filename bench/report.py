@@ -33,7 +33,7 @@ def rows_of(markdown):
 
 
 def number(cell):
-    return float(cell.split()[0].replace(",", ""))
+    return float(cell.split()[0].rstrip(","))
 
 
 def chart(name, alt, script, series):
@@ -69,8 +69,8 @@ def machine():
 
 
 def engine(build):
-    text = output("python3", BENCH / "engine/growth.py", build / "bench/engine/engine_bench")
-    curves = [(row[0].removeprefix("Reorder/"), list(zip(SIZES, map(number, row[1:5])))) for row in rows_of(text)]
+    text = output("python3", BENCH / "engine/cost.py", build / "bench/engine/engine_bench")
+    curves = [(row[0], list(zip(SIZES, map(number, row[1:5])))) for row in rows_of(text)]
     picture = lines_chart("engine", "Cost of a line by the number of lines", "ns a line", curves)
     return "## Reordering", picture, text
 

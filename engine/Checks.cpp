@@ -1,15 +1,12 @@
 #include "engine/Checks.h"
 
-#include "engine/Sorting.h"
-#include "engine/TextNumbers.h"
+#include "engine/ManyTexts.h"
 #include "localisation/Localisation.h"
 
 #include <algorithm>
-#include <deque>
+#include <iterator>
 
 namespace {
-
-using Numbers = std::vector<TextNumbers::Number>;
 
 /// A line that names a scenery.
 struct Listing {
@@ -26,15 +23,6 @@ std::vector<Listing> ListingsOf(std::span<const SceneryLine> lines)
     return listings;
 }
 
-std::vector<StringView> NamesOf(std::span<const Listing> listings)
-{
-    std::vector<StringView> names;
-    names.reserve(listings.size());
-    for (const Listing& listing : listings)
-        names.push_back(listing.name);
-    return names;
-}
-
 std::vector<String> FolderNames(const FolderItem& dossier)
 {
     std::vector<String> names;
@@ -44,41 +32,26 @@ std::vector<String> FolderNames(const FolderItem& dossier)
     return names;
 }
 
-/// How many there are of each number below `count`.
-std::vector<std::size_t> CountEach(const Numbers& numbers, std::size_t count)
-{
-    std::vector<std::size_t> counts(count);
-    for (const TextNumbers::Number number : numbers) {
-        if (number != TextNumbers::None) ++counts[number];
-    }
-    return counts;
-}
-
 /// Adds a section to a report, if it has any name: a title, and one name a line.
 void AppendSection(String& report, StringView title, std::span<const StringView> names)
 {
-    constexpr StringView bullet = U" - ";
     if (names.empty()) return;
     if (!report.empty()) report.append(EndOfLine::Native).append(U" ").append(EndOfLine::Native);
-    std::size_t length = report.size() + title.size();
-    for (const StringView name : names)
-        length += EndOfLine::Native.size() + bullet.size() + name.size();
-    report.reserve(length);
     report.append(title);
     for (const StringView name : names)
-        report.append(EndOfLine::Native).append(bullet).append(name);
+        report.append(EndOfLine::Native).append(U" - ").append(name);
 }
 
 /// The second of the names wherever several are the same, in sorted order.
-std::vector<StringView> Repeated(std::span<const StringView> names)
+std::vector<StringView> Repeated(std::span<const Listing> listings)
 {
-    TextNumbers numbers(names.size());
-    const Numbers ofName = numbers.Add(names);
-    if (numbers.Count() == names.size()) return {};
-    std::vector<std::uint32_t> met(numbers.Count());
+    std::vector<StringView> names;
+    std::ranges::transform(listings, std::back_inserter(names), &Listing::name);
+    const std::vector<std::size_t> numbers = TextNumbers(names);
+    std::vector<std::size_t> met(numbers.size());
     std::vector<StringView> seconds, sorted;
     for (std::size_t i = 0; i < names.size(); ++i) {
-        if (++met[ofName[i]] == 2) seconds.push_back(names[i]);
+        if (++met[numbers[i]] == 2) seconds.push_back(names[i]);
     }
     for (const std::size_t place : SortedOrder(seconds))
         sorted.push_back(seconds[place]);
@@ -97,37 +70,30 @@ public:
 private:
     std::span<const String> folders_;
     std::span<const Listing> listings_;
-    TextNumbers names_;
-    Numbers ofFolder_, ofListing_;
-    std::vector<std::size_t> folderCounts_, listingCounts_;
+    /// The number of the name of each folder, then of each listing, and how many there are of each number.
+    std::vector<std::size_t> names_, folderCounts_, listingCounts_;
 };
 
 Pairing::Pairing(std::span<const String> folders, std::span<const Listing> listings)
     : folders_(folders)
     , listings_(listings)
-    , names_(folders.size())
-    , ofFolder_(names_.Add(std::vector<StringView>(folders.begin(), folders.end())))
 {
-    std::deque<String> changed;
-    std::vector<StringView> names = NamesOf(listings);
-    for (StringView& name : names) {
-        if (String form = CanonicalForm(name); form != name) name = changed.emplace_back(std::move(form));
-    }
-    ofListing_ = names_.Find(names);
-    folderCounts_ = CountEach(ofFolder_, names_.Count());
-    listingCounts_ = CountEach(ofListing_, names_.Count());
+    std::vector<String> forms(folders.begin(), folders.end());
+    for (const Listing& listing : listings)
+        forms.push_back(CanonicalForm(listing.name));
+    names_ = TextNumbers(std::vector<StringView>(forms.begin(), forms.end()));
+    folderCounts_.resize(names_.size());
+    listingCounts_.resize(names_.size());
+    for (std::size_t i = 0; i < names_.size(); ++i)
+        ++(i < folders.size() ? folderCounts_ : listingCounts_)[names_[i]];
 }
 
 std::vector<StringView> Pairing::UnlistedFolders() const
 {
-    std::vector<std::size_t> listings = listingCounts_;
+    std::vector<std::size_t> met(names_.size());
     std::vector<StringView> unlisted;
     for (std::size_t i = 0; i < folders_.size(); ++i) {
-        std::size_t& left = listings[ofFolder_[i]];
-        if (left > 0)
-            --left;
-        else
-            unlisted.push_back(folders_[i]);
+        if (++met[names_[i]] > listingCounts_[names_[i]]) unlisted.push_back(folders_[i]);
     }
     return unlisted;
 }
@@ -138,20 +104,17 @@ std::vector<StringView> Pairing::ListedWithoutFolder() const
     std::vector<std::size_t> remaining;
     std::vector<StringView> lines;
     for (std::size_t i = 0; i < listings_.size(); ++i) {
-        const TextNumbers::Number name = ofListing_[i];
-        if (name != TextNumbers::None && listingCounts_[name] <= folderCounts_[name]) continue;
+        const std::size_t name = names_[folders_.size() + i];
+        if (listingCounts_[name] <= folderCounts_[name]) continue;
         remaining.push_back(i);
         lines.push_back(listings_[i].line);
     }
-    std::vector<std::size_t> folders = folderCounts_;
+    std::vector<std::size_t> met(names_.size());
     std::vector<StringView> names;
     for (const std::size_t place : SortedOrder(lines)) {
         const std::size_t i = remaining[place];
-        const TextNumbers::Number name = ofListing_[i];
-        if (name != TextNumbers::None && folders[name] > 0)
-            --folders[name];
-        else
-            names.push_back(listings_[i].name);
+        const std::size_t name = names_[folders_.size() + i];
+        if (++met[name] > folderCounts_[name]) names.push_back(listings_[i].name);
     }
     return names;
 }
@@ -161,7 +124,7 @@ std::vector<StringView> Pairing::ListedWithoutFolder() const
 String TestModelScen(std::span<const SceneryLine> lignes)
 {
     String report;
-    AppendSection(report, Localisation::Txt_ScenPlusDuneFois(), Repeated(NamesOf(ListingsOf(lignes))));
+    AppendSection(report, Localisation::Txt_ScenPlusDuneFois(), Repeated(ListingsOf(lignes)));
     return report;
 }
 

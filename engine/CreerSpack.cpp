@@ -12,9 +12,6 @@ namespace {
 constexpr auto headerLines =
     1 + static_cast<std::size_t>(std::count(TxtDebSpack.begin(), TxtDebSpack.end(), TxtEoF.front()));
 
-/// How far ahead of its use memory is asked for.
-constexpr std::size_t linesAhead = 16;
-
 std::vector<SceneryLine> LinesWithoutBlankEnd(StringView text)
 {
     std::vector<SceneryLine> lines = LinesOf(text);
@@ -31,11 +28,11 @@ bool ReportsDoubt(const SceneryLine& line, const Entry& entry, const Report& rep
         report(message, explanation);
         reported = true;
     };
-    const std::uint32_t count = entry[line.state].inSource;
+    const std::size_t count = entry[line.state].inSource;
     if (count > 1) tell(Localisation::Txt_ProbLignPresDxFois(), String(line.text));
     if (line.state == LineState::Other) return reported;
 
-    const std::uint32_t twinCount = entry[TwinOf(line.state)].inSource;
+    const std::size_t twinCount = entry[TwinOf(line.state)].inSource;
     if (twinCount > 1) tell(Localisation::Txt_ProbLignPresDxFois(), line.Twin());
     if (count > 0 && twinCount > 0) {
         tell(Localisation::Txt_ProbLignEquiv(), String(line.text).append(EndOfLine::Native).append(line.Twin()));
@@ -60,13 +57,10 @@ std::vector<PlacedLine> PlaceInModelOrder(std::span<const SceneryLine> model, Le
     std::vector<PlacedLine> placed;
     if (model.size() <= headerLines) return placed;
     placed.reserve(model.size() - headerLines);
-    const std::vector<Entry*> entries = ledger.Find(model);
     Int64 offset = LongTxtTab(model, LgTxtEoF, headerLines - 1);
     for (std::size_t i = headerLines; i < model.size(); offset += std::ssize(model[i++].text) + LgTxtEoF) {
-        // The entries of a long text lie outside the processor's caches.
-        __builtin_prefetch(entries[std::min(i + linesAhead, model.size() - 1)]);
         const SceneryLine& line = model[i];
-        Entry& entry = *entries[i];
+        Entry& entry = ledger.OfModel(i);
         const bool blank = line.text.empty();
         if (!blank && ReportsDoubt(line, entry, report)) continue;
         const LineState state = blank || entry[line.state].inSource > 0 ? line.state : TwinOf(line.state);
@@ -119,7 +113,7 @@ void WeaveInTheRest(std::span<const PlacedLine> placed, std::span<const SceneryL
 bool Reorder(SceneryTexts& texts, std::span<const SceneryLine> model, const Report& report)
 {
     const std::vector<SceneryLine> source = LinesWithoutBlankEnd(texts.TextSrcSpack);
-    Ledger ledger(source);
+    Ledger ledger(model, source);
     const std::vector<PlacedLine> placed = PlaceInModelOrder(model, ledger, texts.CoulModSpack, report);
     WeaveInTheRest(placed, source, ledger, texts.CoulDestSpack, texts.TextDestSpack);
     // Once sorted, both texts are the same when each line has the same count on both sides.

@@ -1,57 +1,41 @@
 #include "engine/Ledger.h"
 
+#include "engine/ManyTexts.h"
+
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
-std::vector<StringView> RestsOf(std::span<const SceneryLine> lines)
+/// What stands behind the prefixes of all lines of the model, of the source and of the header.
+std::vector<std::size_t> NumbersOf(std::initializer_list<std::span<const SceneryLine>> texts)
 {
     std::vector<StringView> rests;
-    rests.reserve(lines.size());
-    for (const SceneryLine& line : lines)
-        rests.push_back(line.Rest());
-    return rests;
-}
-
-/// What a result may hold that the source doesn't: the header, and a blank line behind it.
-std::vector<SceneryLine> OwnLines()
-{
-    std::vector<SceneryLine> lines = LinesOf(TxtDebSpack);
-    lines.push_back({{}, LineState::Other});
-    return lines;
+    for (const std::span<const SceneryLine> lines : texts)
+        std::ranges::transform(lines, std::back_inserter(rests), &SceneryLine::Rest);
+    return TextNumbers(rests);
 }
 
 } // namespace
 
 bool Entry::IsBalanced() const
 {
-    return std::all_of(tallies_.begin(), tallies_.end(),
-                       [](const Tally& tally) { return tally.inSource == tally.inResult; });
+    return std::ranges::all_of(tallies_, [](const Tally& tally) { return tally.inSource == tally.inResult; });
 }
 
-Ledger::Ledger(std::span<const SceneryLine> source)
-    : packs_(source.size() + OwnLines().size())
-    , ofSource_(packs_.Add(RestsOf(source)))
+Ledger::Ledger(std::span<const SceneryLine> model, std::span<const SceneryLine> source)
+    : modelLines_(model.size())
 {
-    const std::vector<SceneryLine> own = OwnLines();
-    const std::vector<TextNumbers::Number> ofOwn = packs_.Add(RestsOf(own));
-    entries_.resize(packs_.Count() + 1);
+    const std::vector<SceneryLine> header = LinesOf(TxtDebSpack);
+    numbers_ = NumbersOf({model, source, header});
+    entries_.resize(1 + *std::ranges::max_element(numbers_));
     for (std::size_t i = 0; i < source.size(); ++i)
         ++OfSource(i)[source[i].state].inSource;
-    for (std::size_t i = 0; i + 1 < own.size(); ++i)
-        ++entries_[ofOwn[i]][own[i].state].inResult;
-}
-
-std::vector<Entry*> Ledger::Find(std::span<const SceneryLine> lines)
-{
-    std::vector<Entry*> found;
-    found.reserve(lines.size());
-    for (const TextNumbers::Number number : packs_.Find(RestsOf(lines)))
-        found.push_back(&(number == TextNumbers::None ? entries_.back() : entries_[number]));
-    return found;
+    for (std::size_t i = 0; i < header.size(); ++i)
+        ++OfSource(source.size() + i)[header[i].state].inResult;
 }
 
 bool Ledger::IsBalanced() const
 {
-    return std::all_of(entries_.begin(), entries_.end(), [](const Entry& entry) { return entry.IsBalanced(); });
+    return std::ranges::all_of(entries_, [](const Entry& entry) { return entry.IsBalanced(); });
 }

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "engine/SceneryText.h"
-#include "engine/TextNumbers.h"
 
 #include <array>
 
@@ -23,23 +22,24 @@ private:
     std::array<Tally, 3> tallies_;
 };
 
-/// Counts the lines of the source and of the result, so that one look-up tells all about a line and its twin.
+/// Counts the lines of the source and of the result, so that one look tells all about a line and its twin.
 ///
 /// The result begins with the header.
 class Ledger {
 public:
-    explicit Ledger(std::span<const SceneryLine> source);
+    Ledger(std::span<const SceneryLine> model, std::span<const SceneryLine> source);
 
+    /// The entry of line `index` of the model.
+    Entry& OfModel(std::size_t index) { return entries_[numbers_[index]]; }
     /// The entry of line `index` of the source.
-    Entry& OfSource(std::size_t index) { return entries_[ofSource_[index]]; }
-    /// The entries of other lines in their order; lines that neither side holds share one without any count.
-    std::vector<Entry*> Find(std::span<const SceneryLine> lines);
+    Entry& OfSource(std::size_t index) { return entries_[numbers_[modelLines_ + index]]; }
 
     /// Whether the result holds the very lines of the source, each as often.
     [[nodiscard]] bool IsBalanced() const;
 
 private:
-    TextNumbers packs_;
-    std::vector<TextNumbers::Number> ofSource_;
+    std::size_t modelLines_;
+    /// For each line of the model, then of the source, which entry is its own.
+    std::vector<std::size_t> numbers_;
     std::vector<Entry> entries_;
 };

@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <benchmark/benchmark.h>
-#include <chrono>
 #include <climits>
 #include <malloc.h>
 #include <sys/resource.h>
@@ -18,27 +17,19 @@ constexpr double kilobyte = 1024;
 
 std::size_t SizeOf(const benchmark::State& state) { return static_cast<std::size_t>(state.range(0)); }
 
-void CountCost(benchmark::State& state, double secondsOfFirstRun)
-{
-    using benchmark::Counter;
-    const auto lines = static_cast<double>(state.range(0));
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
-    state.counters["peakBytes"] = static_cast<double>(usage.ru_maxrss) * kilobyte;
-    state.counters["perLine"] = Counter(lines, Counter::kIsIterationInvariantRate | Counter::kInvert);
-    state.counters["perLineAtFirst"] = secondsOfFirstRun / lines;
-}
-
 /// Times `run` over and over, after a first run that has to get its memory from the system.
 template <class Run>
 void Measure(benchmark::State& state, Run run)
 {
-    const auto start = std::chrono::steady_clock::now();
+    using benchmark::Counter;
     run();
-    const std::chrono::duration<double> first = std::chrono::steady_clock::now() - start;
     for (auto _ : state)
         run();
-    CountCost(state, first.count());
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    state.counters["peakBytes"] = static_cast<double>(usage.ru_maxrss) * kilobyte;
+    state.counters["perLine"] =
+        Counter(static_cast<double>(state.range(0)), Counter::kIsIterationInvariantRate | Counter::kInvert);
 }
 
 void Reorder(benchmark::State& state, Shape shape)

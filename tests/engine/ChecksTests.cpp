@@ -1,6 +1,6 @@
 #include "engine/Checks.h"
+#include "engine/ManyTexts.h"
 #include "engine/SceneryText.h"
-#include "engine/Sorting.h"
 #include "tests/TemporaryFolder.h"
 #include "toolkit/core/FolderItem.h"
 
@@ -93,7 +93,7 @@ TEST(Checks, Naff)
     EXPECT_EQ(Fncts::Naff(U"", true, true), U"");
 }
 
-TEST(Sorting, SortedOrder)
+TEST(ManyTexts, SortedOrder)
 {
     const StringView nul(U"a\0", 2);
     const std::tuple<const char*, std::vector<StringView>, std::vector<std::size_t>> rows[] = {
