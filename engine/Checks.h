@@ -9,8 +9,6 @@
 /// order, as its second line spells it.
 String TestModelScen(std::span<const SceneryLine> lignes);
 
-/// The folders in `dossier` that no line names, in the order of the folder, and the sceneries that have no folder
-/// there, in the order of their lines when sorted.
-///
-/// A folder answers for one line, the first of its name. Names are compared in canonical form, and case doesn't count.
+/// The folders in `dossier` that no line names, the sceneries that have no folder there, and those whose folder has
+/// another case, which is then told in brackets (`CompareFolders`).
 String TestFolderScen(std::span<const SceneryLine> lignes, const FolderItem& dossier);

@@ -1,6 +1,7 @@
 #include "engine/CreerSpack.h"
 
 #include "engine/Checks.h"
+#include "engine/Comparison.h"
 #include "engine/Ledger.h"
 #include "engine/SceneryText.h"
 #include "localisation/Localisation.h"
@@ -8,9 +9,6 @@
 #include <algorithm>
 
 namespace {
-
-constexpr auto headerLines =
-    1 + static_cast<std::size_t>(std::count(TxtDebSpack.begin(), TxtDebSpack.end(), TxtEoF.front()));
 
 std::vector<SceneryLine> LinesWithoutBlankEnd(StringView text)
 {
@@ -55,10 +53,10 @@ std::vector<PlacedLine> PlaceInModelOrder(std::span<const SceneryLine> model, Le
                                           std::vector<Int64>& unknown, const Report& report)
 {
     std::vector<PlacedLine> placed;
-    if (model.size() <= headerLines) return placed;
-    placed.reserve(model.size() - headerLines);
-    Int64 offset = LongTxtTab(model, LgTxtEoF, headerLines - 1);
-    for (std::size_t i = headerLines; i < model.size(); offset += std::ssize(model[i++].text) + LgTxtEoF) {
+    if (model.size() <= HeaderLines) return placed;
+    placed.reserve(model.size() - HeaderLines);
+    Int64 offset = LongTxtTab(model, LgTxtEoF, HeaderLines - 1);
+    for (std::size_t i = HeaderLines; i < model.size(); offset += std::ssize(model[i++].text) + LgTxtEoF) {
         const SceneryLine& line = model[i];
         Entry& entry = ledger.OfModel(i);
         const bool blank = line.text.empty();
@@ -92,12 +90,12 @@ void WeaveInTheRest(std::span<const PlacedLine> placed, std::span<const SceneryL
 {
     text.reserve(LengthOf(placed) + static_cast<std::size_t>(LongTxtTab(source, LgTxtEoF, std::ssize(source) - 1)));
     text.assign(TxtDebSpack).append(TxtEoF);
-    std::size_t lines = headerLines;
+    std::size_t lines = HeaderLines;
     const auto append = [&](const auto& line) {
         text.append(line.Prefix()).append(line.Rest()).append(TxtEoF);
         ++lines;
     };
-    for (std::size_t j = headerLines; j < source.size(); ++j) {
+    for (std::size_t j = HeaderLines; j < source.size(); ++j) {
         Tally& tally = ledger.OfSource(j)[source[j].state];
         if (source[j].text.empty() || tally.inResult > 0) continue;
         for (; lines < j && !placed.empty(); placed = placed.subspan(1))
@@ -110,9 +108,9 @@ void WeaveInTheRest(std::span<const PlacedLine> placed, std::span<const SceneryL
 }
 
 /// Makes the result and its marks; true when it holds the very lines of the source.
-bool Reorder(SceneryTexts& texts, std::span<const SceneryLine> model, const Report& report)
+bool Reorder(SceneryTexts& texts, std::span<const SceneryLine> model, std::span<const SceneryLine> source,
+             const Report& report)
 {
-    const std::vector<SceneryLine> source = LinesWithoutBlankEnd(texts.TextSrcSpack);
     Ledger ledger(model, source);
     const std::vector<PlacedLine> placed = PlaceInModelOrder(model, ledger, texts.CoulModSpack, report);
     WeaveInTheRest(placed, source, ledger, texts.CoulDestSpack, texts.TextDestSpack);
@@ -129,8 +127,11 @@ void CreerSpack(SceneryTexts& texts, const FolderItem& dossier, const Report& re
         texts.TextDestSpack = ErrorMarker;
         return report(twice, {});
     }
-    if (!Reorder(texts, model, report)) return report(Localisation::Txt_ProblemCompInitFinal(), {});
-    if (const String folders = TestFolderScen(LinesOf(texts.TextDestSpack), dossier); !folders.empty()) {
-        report(folders, {});
-    }
+    const std::vector<SceneryLine> source = LinesWithoutBlankEnd(texts.TextSrcSpack);
+    const bool balanced = Reorder(texts, model, source, report);
+    std::vector<SceneryLine> result = LinesOf(texts.TextDestSpack);
+    // Behind the last line end stands no line.
+    result.pop_back();
+    if (!balanced) return report(Localisation::Txt_ProblemCompInitFinal(), ExplainDifferences(source, result));
+    if (const String folders = TestFolderScen(result, dossier); !folders.empty()) report(folders, {});
 }

@@ -1,7 +1,5 @@
 #include "engine/SceneryText.h"
 
-#include <algorithm>
-
 namespace {
 
 constexpr std::size_t starsOfError = 89;

@@ -3,6 +3,8 @@
 
 #include "toolkit/core/Text.h"
 
+#include <algorithm>
+
 /// The line end of all scenery texts, and the characters that it adds to an offset.
 inline constexpr StringView TxtEoF = EndOfLine::UNIX;
 inline constexpr Int64 LgTxtEoF = std::ssize(TxtEoF);
@@ -10,9 +12,12 @@ inline constexpr Int64 LgTxtEoF = std::ssize(TxtEoF);
 /// The header: what every accepted text begins with, in whatever case.
 inline constexpr StringView TxtDebSpack = U"I\n1000 version\nSCENERY";
 inline constexpr Int64 LgTxtDebSpack = std::ssize(TxtDebSpack);
+inline constexpr auto HeaderLines = static_cast<std::size_t>(1 + std::ranges::count(TxtDebSpack, TxtEoF.front()));
 
 inline constexpr StringView EnabledPrefix = U"SCENERY_PACK ";
 inline constexpr StringView DisabledPrefix = U"SCENERY_PACK_DISABLED ";
+/// What the path of a custom pack begins with.
+inline constexpr StringView CustomScenery = U"Custom Scenery/";
 
 /// What a text begins with that takes the place of a text that was refused or couldn't be made.
 inline constexpr StringView ErrorMarker = U"### Error ###";

@@ -95,6 +95,14 @@ inline constexpr Text Txt_ScenDsScenIniPasDsDoss{U"Txt_ScenDsScenIniPasDsDoss",
     U"Ces Sceneries sont dans “scenery_packs.ini” mais pas dans le dossier “Custom Scenery” :"};
 inline constexpr Text Txt_ProblemCompInitFinal{U"Txt_ProblemCompInitFinal",
     U"Il y a eu un problème, veuillez comparer le fichier intial avec le fichier final."};
+inline constexpr Text Txt_ScenAutreCasse{U"Txt_ScenAutreCasse",
+    U"X-Plane ne chargera pas ces Sceneries, leur dossier (entre parenthèses) ayant d'autres majuscules :"};
+inline constexpr Text Txt_PlusDsFichier{U"Txt_PlusDsFichier",
+    U"Dans le fichier initial, mais pas ou moins souvent dans le fichier final :"};
+inline constexpr Text Txt_PlusDsResultat{U"Txt_PlusDsResultat",
+    U"Dans le fichier final, mais pas ou moins souvent dans le fichier initial :"};
+inline constexpr Text Txt_LignesVides{U"Txt_LignesVides",
+    U"Lignes vides : ¿% dans le fichier initial, ¿% dans le fichier final."};
 inline constexpr Text Btn_Cont{U"Btn_Cont", U"Continuer"};
 inline constexpr Text Txt_TxtAreaPasScenPack{U"Txt_TxtAreaPasScenPack",
     U"Le TextArea ne contient pas de scenery_packs."};

@@ -224,6 +224,22 @@ Packs nachher</translation>
         <source>Il y a eu un problème, veuillez comparer le fichier intial avec le fichier final.</source>
         <translation>Es gab ein Problem. Bitte vergleichen Sie die ursprüngliche mit der endgültigen Datei.</translation>
     </message>
+    <message id="Localisation.Txt_ScenAutreCasse">
+        <source>X-Plane ne chargera pas ces Sceneries, leur dossier (entre parenthèses) ayant d'autres majuscules :</source>
+        <translation>X-Plane lädt diese Szenerien nicht, da ihr Ordner (in Klammern) anders groß- und kleingeschrieben ist:</translation>
+    </message>
+    <message id="Localisation.Txt_PlusDsFichier">
+        <source>Dans le fichier initial, mais pas ou moins souvent dans le fichier final :</source>
+        <translation>In der ursprünglichen Datei, aber nicht oder seltener in der endgültigen:</translation>
+    </message>
+    <message id="Localisation.Txt_PlusDsResultat">
+        <source>Dans le fichier final, mais pas ou moins souvent dans le fichier initial :</source>
+        <translation>In der endgültigen Datei, aber nicht oder seltener in der ursprünglichen:</translation>
+    </message>
+    <message id="Localisation.Txt_LignesVides">
+        <source>Lignes vides : ¿% dans le fichier initial, ¿% dans le fichier final.</source>
+        <translation>Leere Zeilen: ¿% in der ursprünglichen Datei, ¿% in der endgültigen.</translation>
+    </message>
     <message id="Localisation.Btn_Cont">
         <source>Continuer</source>
         <translation>Fortfahren</translation>

@@ -224,6 +224,22 @@ Packs after</translation>
         <source>Il y a eu un problème, veuillez comparer le fichier intial avec le fichier final.</source>
         <translation>There was a problem; please compare the initial file with the final file.</translation>
     </message>
+    <message id="Localisation.Txt_ScenAutreCasse">
+        <source>X-Plane ne chargera pas ces Sceneries, leur dossier (entre parenthèses) ayant d'autres majuscules :</source>
+        <translation>X-Plane won't load these sceneries, since their folder (in brackets) has other capitals:</translation>
+    </message>
+    <message id="Localisation.Txt_PlusDsFichier">
+        <source>Dans le fichier initial, mais pas ou moins souvent dans le fichier final :</source>
+        <translation>In the initial file, but not or less often in the final file:</translation>
+    </message>
+    <message id="Localisation.Txt_PlusDsResultat">
+        <source>Dans le fichier final, mais pas ou moins souvent dans le fichier initial :</source>
+        <translation>In the final file, but not or less often in the initial file:</translation>
+    </message>
+    <message id="Localisation.Txt_LignesVides">
+        <source>Lignes vides : ¿% dans le fichier initial, ¿% dans le fichier final.</source>
+        <translation>Blank lines: ¿% in the initial file, ¿% in the final file.</translation>
+    </message>
     <message id="Localisation.Btn_Cont">
         <source>Continuer</source>
         <translation>Continue</translation>

@@ -224,6 +224,22 @@ Packs después</translation>
         <source>Il y a eu un problème, veuillez comparer le fichier intial avec le fichier final.</source>
         <translation>Ha habido un problema; compare el archivo inicial con el archivo final.</translation>
     </message>
+    <message id="Localisation.Txt_ScenAutreCasse">
+        <source>X-Plane ne chargera pas ces Sceneries, leur dossier (entre parenthèses) ayant d'autres majuscules :</source>
+        <translation>X-Plane no cargará estos escenarios, pues su carpeta (entre paréntesis) tiene otras mayúsculas:</translation>
+    </message>
+    <message id="Localisation.Txt_PlusDsFichier">
+        <source>Dans le fichier initial, mais pas ou moins souvent dans le fichier final :</source>
+        <translation>En el archivo inicial, pero no o menos veces en el archivo final:</translation>
+    </message>
+    <message id="Localisation.Txt_PlusDsResultat">
+        <source>Dans le fichier final, mais pas ou moins souvent dans le fichier initial :</source>
+        <translation>En el archivo final, pero no o menos veces en el archivo inicial:</translation>
+    </message>
+    <message id="Localisation.Txt_LignesVides">
+        <source>Lignes vides : ¿% dans le fichier initial, ¿% dans le fichier final.</source>
+        <translation>Líneas vacías: ¿% en el archivo inicial, ¿% en el archivo final.</translation>
+    </message>
     <message id="Localisation.Btn_Cont">
         <source>Continuer</source>
         <translation>Continuar</translation>

@@ -224,6 +224,22 @@ Pack dopo</translation>
         <source>Il y a eu un problème, veuillez comparer le fichier intial avec le fichier final.</source>
         <translation>Si è verificato un problema: confrontare il file iniziale con il file finale.</translation>
     </message>
+    <message id="Localisation.Txt_ScenAutreCasse">
+        <source>X-Plane ne chargera pas ces Sceneries, leur dossier (entre parenthèses) ayant d'autres majuscules :</source>
+        <translation>X-Plane non caricherà questi scenari, perché la loro cartella (tra parentesi) ha altre maiuscole:</translation>
+    </message>
+    <message id="Localisation.Txt_PlusDsFichier">
+        <source>Dans le fichier initial, mais pas ou moins souvent dans le fichier final :</source>
+        <translation>Nel file iniziale, ma non o meno spesso nel file finale:</translation>
+    </message>
+    <message id="Localisation.Txt_PlusDsResultat">
+        <source>Dans le fichier final, mais pas ou moins souvent dans le fichier initial :</source>
+        <translation>Nel file finale, ma non o meno spesso nel file iniziale:</translation>
+    </message>
+    <message id="Localisation.Txt_LignesVides">
+        <source>Lignes vides : ¿% dans le fichier initial, ¿% dans le fichier final.</source>
+        <translation>Righe vuote: ¿% nel file iniziale, ¿% nel file finale.</translation>
+    </message>
     <message id="Localisation.Btn_Cont">
         <source>Continuer</source>
         <translation>Continua</translation>

@@ -224,6 +224,22 @@ Packs na</translation>
         <source>Il y a eu un problème, veuillez comparer le fichier intial avec le fichier final.</source>
         <translation>Er was een probleem. Vergelijk het oorspronkelijke bestand met het uiteindelijke bestand.</translation>
     </message>
+    <message id="Localisation.Txt_ScenAutreCasse">
+        <source>X-Plane ne chargera pas ces Sceneries, leur dossier (entre parenthèses) ayant d'autres majuscules :</source>
+        <translation>X-Plane laadt deze sceneries niet, omdat hun map (tussen haakjes) andere hoofdletters heeft:</translation>
+    </message>
+    <message id="Localisation.Txt_PlusDsFichier">
+        <source>Dans le fichier initial, mais pas ou moins souvent dans le fichier final :</source>
+        <translation>In het oorspronkelijke bestand, maar niet of minder vaak in het uiteindelijke bestand:</translation>
+    </message>
+    <message id="Localisation.Txt_PlusDsResultat">
+        <source>Dans le fichier final, mais pas ou moins souvent dans le fichier initial :</source>
+        <translation>In het uiteindelijke bestand, maar niet of minder vaak in het oorspronkelijke bestand:</translation>
+    </message>
+    <message id="Localisation.Txt_LignesVides">
+        <source>Lignes vides : ¿% dans le fichier initial, ¿% dans le fichier final.</source>
+        <translation>Lege regels: ¿% in het oorspronkelijke bestand, ¿% in het uiteindelijke bestand.</translation>
+    </message>
     <message id="Localisation.Btn_Cont">
         <source>Continuer</source>
         <translation>Doorgaan</translation>

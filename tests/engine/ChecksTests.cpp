@@ -1,4 +1,5 @@
 #include "engine/Checks.h"
+#include "engine/Folders.h"
 #include "engine/ManyTexts.h"
 #include "engine/SceneryText.h"
 #include "tests/TemporaryFolder.h"
@@ -11,6 +12,8 @@ namespace {
 const String twice = U"Ces Sceneries sont plus d'une fois dans le SceneryModel :";
 const String unlisted = U"Ces dossiers sont dans le dossier “Custom Scenery” mais pas dans “scenery_packs.ini” :";
 const String missing = U"Ces Sceneries sont dans “scenery_packs.ini” mais pas dans le dossier “Custom Scenery” :";
+const String otherCase =
+    U"X-Plane ne chargera pas ces Sceneries, leur dossier (entre parenthèses) ayant d'autres majuscules :";
 
 /// An enabled line for each name, a disabled one for a name behind "-".
 String TextFor(const std::vector<StringView>& names)
@@ -48,14 +51,20 @@ TEST(Checks, TestFolderScen)
 {
     const std::tuple<const char*, std::vector<const char*>, std::vector<StringView>, String> rows[] = {
         {"nothing on either side", {}, {}, U""},
-        {"each has its folder, whatever the case", {"Alpes", "corse"}, {U"alpes", U"-CORSE"}, U""},
+        {"each has its folder, two in another case",
+         {"Alpes", "corse", "é"},
+         {U"É", U"alpes", U"-corse"},
+         otherCase + U"\n - alpes (Alpes)\n - É (é)"},
         {"both sections", {"C", "b", "J"}, {U"J", U"a"}, unlisted + U"\n - b\n - C\n \n" + missing + U"\n - a"},
         {"only folders", {"a"}, {}, unlisted + U"\n - a"},
         {"only names, sorted by their lines: enabled first", {}, {U"-a", U"c", U"B"}, missing + U"\n - B\n - c\n - a"},
-        {"a folder answers for the first sorted line", {"a"}, {U"a/z", U"A/y", U"-a"}, missing + U"\n - a\n - a"},
+        {"a folder answers for the first sorted line",
+         {"a"},
+         {U"a/z", U"A/y", U"-a"},
+         missing + U"\n - a\n - a\n \n" + otherCase + U"\n - A (a)"},
         {"a line answers for one folder, the first one", {"A", "a"}, {U"a"}, unlisted + U"\n - a"},
         {"a composed folder for a decomposed name", {"\u00e9"}, {U"e\u0301"}, U""},
-        {"a decomposed folder for a composed name", {"e\u0301"}, {U"\u00c9"}, U""},
+        {"a decomposed folder for a composed name", {"e\u0301"}, {U"\u00e9"}, U""},
         {"folders show composed, names as listed",
          {"e\u0301"},
          {U"o\u0301"},
@@ -74,15 +83,54 @@ TEST(Checks, TestFolderScen)
 
 TEST(Checks, TestFolderScenTakesOnlyFoldersOfTheFolderItself)
 {
+    namespace fs = std::filesystem;
     TemporaryFolder temporary;
-    const std::filesystem::path outside = temporary.Folder("outside");
+    const fs::path scenery = temporary.Folder("scenery");
     temporary.Folder("scenery/a/b");
+    temporary.Folder("outside");
     temporary.File("scenery/scenery_packs.ini");
-    std::filesystem::create_directory_symlink(outside, temporary.Path() / "scenery/link");
-    const std::vector<SceneryLine> lines = LinesOf(U"SCENERY_PACK Custom Scenery/link/");
-    EXPECT_EQ(TestFolderScen(lines, FolderItem(temporary.Path() / "scenery")),
-              unlisted + U"\n - a\n \n" + missing + U"\n - link");
-    EXPECT_EQ(TestFolderScen(lines, FolderItem(temporary.Path() / "gone")), missing + U"\n - link");
+    fs::create_directory_symlink("../outside", scenery / "link");
+    fs::create_directory_symlink(scenery / "link", scenery / "unlisted link");
+    fs::create_symlink("scenery_packs.ini", scenery / "link to a file");
+    fs::create_symlink("gone", scenery / "dead link");
+    fs::create_symlink("circle", scenery / "circle");
+    const String text = TextFor({U"link", U"link to a file", U"dead link", U"circle"});
+    EXPECT_EQ(TestFolderScen(LinesOf(text), FolderItem(scenery)),
+              unlisted + U"\n - a\n - unlisted link\n \n" + missing + U"\n - circle\n - dead link\n - link to a file");
+    EXPECT_EQ(TestFolderScen(LinesOf(TextFor({U"link"})), FolderItem(temporary.Path() / "gone")),
+              missing + U"\n - link");
+}
+
+TEST(Folders, LinesThatTheTextLacks)
+{
+    TemporaryFolder temporary;
+    for (const char* folder : {"b", "A", "c:d", "listed", "é"})
+        temporary.Folder(folder);
+    const FolderItem dossier(temporary.Path());
+    const StringView head = U"I\n1000 version\nSCENERY";
+    const std::tuple<const char*, String, Int64, String> rows[] = {
+        {"behind the header and its blank line, by name", String(head) + U"\n\n" + TextFor({U"-listed", U"E\u0301"}),
+         24, TextFor({U"A", U"b"})},
+        {"no blank line", String(head) + U"\n" + TextFor({U"listed", U"B", U"a", U"é"}), 23, U""},
+        {"the header alone", String(head), 22, TextFor({U"A", U"b", U"listed", U"é"})},
+        {"no text", U"", 0, TextFor({U"A", U"b", U"listed", U"é"})},
+    };
+    for (const auto& [name, text, place, lines] : rows) {
+        EXPECT_EQ(FirstPlace(text), place) << name;
+        EXPECT_EQ(UnlistedLines(text, dossier), lines) << name;
+    }
+}
+
+TEST(Folders, EnabledWithoutFolder)
+{
+    TemporaryFolder temporary;
+    temporary.Folder("a");
+    const String text = U"SCENERY_PACK /x/\n" + TextFor({U"z", U"a", U"-y", U"A", U"m/n"});
+    std::vector<Int64> starts = EnabledWithoutFolder(text, FolderItem(temporary.Path()));
+    String found;
+    for (const Int64 start : starts)
+        found += NthField(Middle(text, start), U"/", 2);
+    EXPECT_EQ(found, U"zAm") << "the first of two lines of a name has the folder";
 }
 
 TEST(Checks, Naff)

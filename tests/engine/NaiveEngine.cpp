@@ -62,25 +62,66 @@ String CheckModel(const Lines& model)
     return list.empty() ? list : Localisation::Txt_ScenPlusDuneFois() + list;
 }
 
+void AddSection(String& report, StringView title, const Lines& lines)
+{
+    if (lines.empty()) return;
+    if (!report.empty()) report += U"\n \n";
+    report += title;
+    for (const String& line : lines)
+        report += U"\n - " + line;
+}
+
 String CheckFolders(const Lines& sorted, const Lines& folders)
 {
-    Lines names = Reduce(sorted);
-    String list;
+    Lines names = Reduce(sorted), unlisted, otherCase;
+    for (const String& name : names) {
+        const auto isSame = [&](StringView folder) { return SameText(CanonicalForm(name), CanonicalForm(folder)); };
+        const auto folder = std::ranges::find_if(folders, isSame);
+        if (folder == folders.end() || std::ranges::count(folders, CanonicalForm(name)) > 0) continue;
+        const auto before = std::ranges::count_if(std::span(names.data(), &name), isSame);
+        if (before < std::ranges::count_if(folders, isSame)) otherCase.push_back(name + U" (" + *folder + U")");
+    }
     for (const String& folder : folders) {
         const auto isOfFolder = [&](StringView name) { return SameText(CanonicalForm(name), CanonicalForm(folder)); };
         const auto found = std::ranges::find_if(names, isOfFolder);
         if (found == names.end())
-            list += U"\n - " + folder;
+            unlisted.push_back(folder);
         else
             names.erase(found);
     }
-    if (!list.empty()) list = Localisation::Txt_DossDsDossPasDsScen() + list;
-    if (names.empty()) return list;
-    if (!list.empty()) list += U"\n \n";
-    list += Localisation::Txt_ScenDsScenIniPasDsDoss();
-    for (const String& name : names)
-        list += U"\n - " + name;
-    return list;
+    String report;
+    AddSection(report, Localisation::Txt_DossDsDossPasDsScen(), unlisted);
+    AddSection(report, Localisation::Txt_ScenDsScenIniPasDsDoss(), names);
+    AddSection(report, Localisation::Txt_ScenAutreCasse(), otherCase);
+    return report;
+}
+
+/// The lines that aren't blank and stand more often in `lines` than in `others`.
+Lines MoreIn(const Lines& lines, const Lines& others)
+{
+    Lines more;
+    for (const String& line : lines) {
+        const auto isSame = [&](StringView other) { return SameText(line, other); };
+        if (!line.empty() && Search(more, line) < 0 &&
+            std::ranges::count_if(lines, isSame) > std::ranges::count_if(others, isSame)) {
+            more.push_back(line);
+        }
+    }
+    return more;
+}
+
+String Explain(const Lines& source, const Lines& destination)
+{
+    String explanation;
+    AddSection(explanation, Localisation::Txt_PlusDsFichier(), MoreIn(source, destination));
+    AddSection(explanation, Localisation::Txt_PlusDsResultat(), MoreIn(destination, source));
+    const auto before = std::ranges::count(source, String()), after = std::ranges::count(destination, String());
+    if (before == after) return explanation;
+    if (!explanation.empty()) explanation += U"\n \n";
+    const String blanks = Localisation::Txt_LignesVides();
+    const std::size_t first = blanks.find(U"¿%"), second = blanks.rfind(U"¿%");
+    return explanation + blanks.substr(0, first) + ToText(before) + blanks.substr(first + 2, second - first - 2) +
+           ToText(after) + blanks.substr(second + 2);
 }
 
 String TwinIn(StringView line)
@@ -147,10 +188,11 @@ Outcome RunNaively(StringView modelText, StringView sourceText, const std::vecto
     AddTheRest(destination, source, outcome);
     for (const String& line : destination)
         outcome.text += line + U"\n";
+    const String explanation = Explain(source, destination);
     Sort(source);
     Sort(destination);
     if (!std::ranges::equal(source, destination, SameText)) {
-        outcome.reports.emplace_back(Localisation::Txt_ProblemCompInitFinal(), U"");
+        outcome.reports.emplace_back(Localisation::Txt_ProblemCompInitFinal(), explanation);
     } else if (const String report = CheckFolders(destination, folders); !report.empty()) {
         outcome.reports.emplace_back(report, U"");
     }

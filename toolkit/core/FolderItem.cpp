@@ -135,6 +135,12 @@ bool FolderItem::Exists() const { return IsThere(path_); }
 
 bool FolderItem::IsFolder() const { return KindOf(path_) == fs::file_type::directory; }
 
+bool FolderItem::LeadsToFolder() const
+{
+    std::error_code ignored;
+    return fs::is_directory(path_, ignored);
+}
+
 bool FolderItem::IsAlias() const { return KindOf(path_) == fs::file_type::symlink; }
 
 bool FolderItem::IsReadable() const { return ::access(path_.c_str(), R_OK) == 0; }

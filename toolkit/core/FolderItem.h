@@ -45,6 +45,8 @@ public:
 
     [[nodiscard]] bool Exists() const;
     [[nodiscard]] bool IsFolder() const;
+    /// True for a folder, and for an alias that leads to one in the end.
+    [[nodiscard]] bool LeadsToFolder() const;
     [[nodiscard]] bool IsAlias() const;
     [[nodiscard]] bool IsReadable() const;
     /// False for a name that begins with a dot.

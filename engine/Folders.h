@@ -1,0 +1,48 @@
+/// The folders in `Custom Scenery` beside the lines of a text that list them.
+#pragma once
+
+#include "engine/SceneryText.h"
+#include "toolkit/core/FolderItem.h"
+
+/// A line that names a scenery.
+struct Listing {
+    SceneryLine line;
+    StringView name;
+};
+
+/// The lines that name a scenery, in their order.
+std::vector<Listing> ListingsOf(std::span<const SceneryLine> lines);
+
+/// A listing, and its folder that a disk which tells upper from lower case has in another spelling alone.
+struct Misspelling {
+    Listing listing;
+    String folder;
+};
+
+/// What doesn't agree.
+struct FolderFindings {
+    /// The folders that no line names, by name.
+    std::vector<String> unlisted;
+    /// The listings without a folder, by their lines when sorted.
+    std::vector<Listing> missing;
+    /// By their lines when sorted.
+    std::vector<Misspelling> misspelled;
+};
+
+/// Compares the lines with the folders in `dossier`, among them the links that lead to a folder.
+///
+/// A folder answers for one line, the first of its name when sorted. Names are compared in canonical form, and case
+/// doesn't count. The findings live as long as the text behind `lines`.
+FolderFindings CompareFolders(std::span<const SceneryLine> lines, const FolderItem& dossier);
+
+/// The lines that would list, enabled and by name, the folders in `dossier` that `text` doesn't, each with its line
+/// end.
+/// "" when there are none. A folder with ":" in its name on disk is left out: no line can name it.
+String UnlistedLines(StringView text, const FolderItem& dossier);
+
+/// The offset behind the header and the blank line there: where `UnlistedLines` belong. A text that ends with its
+/// header has no line end there yet.
+Int64 FirstPlace(StringView text);
+
+/// Where the enabled lines begin whose scenery has no folder in `dossier`. Characters, ascending.
+std::vector<Int64> EnabledWithoutFolder(StringView text, const FolderItem& dossier);
