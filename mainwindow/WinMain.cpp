@@ -32,7 +32,8 @@ WinMain::WinMain()
                      .height = 500,
                      .minimumWidth = 720,
                      .minimumHeight = 400,
-                     .hasMenuBar = true})
+                     .hasMenuBar = true,
+                     .hasStatusBar = true})
     // clang-format off
     //                            left  top width height  locks       tab
     , BtnSelFichModel     (*this, { 630,  14, 110,  20, T | R,          5}, Btn_SelectFichier())

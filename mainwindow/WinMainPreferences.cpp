@@ -75,7 +75,8 @@ void WinMain::PrefsCharger()
     SetLeft(geometry.left);
     SetTop(geometry.top);
     SetWidth(geometry.width);
-    SetHeight(geometry.height);
+    // The status bar is to be seen, even where the place is the whole screen or was kept without one.
+    SetHeight(std::min<int>(geometry.height, screen.Height - geometry.top - StatusHeight()));
 }
 
 void WinMain::PrefsSauver() const

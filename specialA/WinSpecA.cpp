@@ -35,7 +35,8 @@ WinSpecA::WinSpecA(const DesktopWindow& winMain, DesktopSegmentedButton& segButt
                      .minimumWidth = 670,
                      .minimumHeight = 300,
                      .maximumWidth = 670,
-                     .hasMenuBar = true})
+                     .hasMenuBar = true,
+                     .hasStatusBar = true})
     // clang-format off
     //                       left  top width height  locks       tab
     , LabBlockUI       (*this, -1)

@@ -2,6 +2,8 @@
 
 #include "toolkit/Appearance.h"
 #include "toolkit/DesktopApplication.h"
+#include "toolkit/Probe.h"
+#include "toolkit/StatusBar.h"
 #include "toolkit/core/QtText.h"
 
 #include <QAbstractButton>
@@ -17,7 +19,7 @@
 #include <algorithm>
 #include <utility>
 
-/// The window of the platform: the menu bar, where there is one, above the content.
+/// The window of the platform: the content between a menu bar and a status bar, where there are such.
 class DesktopWindow::Shell final : public QWidget {
 public:
     Shell(DesktopWindow& owner, const WindowStyle& style);
@@ -30,7 +32,10 @@ public:
     /// How far the content lies below the top edge.
     [[nodiscard]] int MenuHeight() const;
 
+    [[nodiscard]] int StatusHeight() const { return statusBar ? statusBar->height() : 0; }
+
     QWidget* const content;
+    StatusBar* const statusBar;
     /// By a dialog.
     bool isBlocked = false;
     bool keyboardIsBlocked = false;
@@ -90,6 +95,7 @@ QWidgetList TabStops(QWidget* control)
 DesktopWindow::Shell::Shell(DesktopWindow& owner, const WindowStyle& style)
     : QWidget(nullptr, FlagsOf(style))
     , content(new QWidget(this))
+    , statusBar(style.hasStatusBar ? new StatusBar(this) : nullptr)
     , owner_(owner)
     , menuBar_(style.hasMenuBar ? DesktopApplication::MakeMenuBar(owner, this) : nullptr)
 {
@@ -108,10 +114,12 @@ DesktopWindow::Shell::Shell(DesktopWindow& owner, const WindowStyle& style)
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
     layout->setSizeConstraint(QLayout::SetMinAndMaxSize);
     layout->setMenuBar(menuBar_);
     layout->addWidget(content);
-    resize(style.width, style.height + MenuHeight());
+    if (statusBar) layout->addWidget(statusBar);
+    resize(style.width, style.height + MenuHeight() + StatusHeight());
 }
 
 QAccessibleInterface* DesktopWindow::Shell::Announce(const QString& /*className*/, QObject* object)
@@ -127,7 +135,7 @@ void DesktopWindow::Shell::ResizeContent(int width, int height)
     const QSize size = QSize(width, height).expandedTo(content->minimumSize()).boundedTo(content->maximumSize());
     // Qt tells a hidden window's widgets of their size only when it is shown.
     owner_.ContentResized(size.width(), size.height());
-    resize(size.width(), size.height() + MenuHeight());
+    resize(size.width(), size.height() + MenuHeight() + StatusHeight());
 }
 
 void DesktopWindow::Shell::MoveContent(int left, int top)
@@ -203,6 +211,23 @@ void DesktopWindow::SetTop(int points) { shell_->MoveContent(Left(), points); }
 void DesktopWindow::SetWidth(int points) { shell_->ResizeContent(points, height_); }
 
 void DesktopWindow::SetHeight(int points) { shell_->ResizeContent(width_, points); }
+
+int DesktopWindow::StatusHeight() const { return shell_->StatusHeight(); }
+
+void DesktopWindow::SetStatus(StringView status)
+{
+    if (shell_->statusBar) shell_->statusBar->SetStatus(ToQt(status));
+}
+
+void DesktopWindow::Say(StringView sentence)
+{
+    if (Probe* const probe = Probe::Current()) probe->Said.emplace_back(sentence);
+    DesktopWindow* where = nullptr;
+    for (DesktopWindow* const window : All())
+        if (window->shell_->statusBar && window->Visible() && (!where || window->shell_->isActiveWindow()))
+            where = window;
+    if (where) where->shell_->statusBar->Say(ToQt(sentence));
+}
 
 bool DesktopWindow::Visible() const { return shell_->isVisible(); }
 

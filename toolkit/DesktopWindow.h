@@ -7,13 +7,13 @@
 #include <memory>
 #include <vector>
 
-/// What a window is made with. Sizes are points of the content, below the menu bar.
+/// What a window is made with. Sizes are points of the content, which lies between menu bar and status bar.
 struct WindowStyle {
     String title;
     int width, height;
     int minimumWidth = 0, minimumHeight = 0;
     int maximumWidth = 32000, maximumHeight = 32000;
-    bool hasMenuBar = false;
+    bool hasMenuBar = false, hasStatusBar = false;
     bool resizable = true;
     /// Keeps the user from all other windows while it is open.
     bool movableModal = false;
@@ -36,7 +36,7 @@ public:
     [[nodiscard]] int MinimumWidth() const;
     [[nodiscard]] int MinimumHeight() const;
 
-    /// The content's place in points from the main screen's top left corner; the frame and the menu bar lie outside.
+    /// The content's place in points from the main screen's top left corner; the frame and the bars lie outside.
     [[nodiscard]] int Left() const;
     [[nodiscard]] int Top() const;
     [[nodiscard]] int Width() const { return width_; }
@@ -45,6 +45,14 @@ public:
     void SetTop(int points);
     void SetWidth(int points);
     void SetHeight(int points);
+
+    /// How far the window reaches below its content.
+    [[nodiscard]] int StatusHeight() const;
+    /// What the status bar always shows.
+    void SetStatus(StringView status);
+    /// Shows a sentence for a while in the status bar of the window that the user works in; where that has none, in
+    /// another's. A screen reader reads it out, the focus stays where it is. An empty one takes the last away.
+    static void Say(StringView sentence);
 
     [[nodiscard]] bool Visible() const;
     /// Whether the window was shown and not closed since; true while it opens, before anything is seen.

@@ -28,6 +28,8 @@ public:
     /// What was asked, in order: message, line end, explanation (where there is one), and the captions of the buttons
     /// in brackets: "Really?\nIt is gone then.[Yes][No]". A chooser gives its prompt, a MessageBox its text alone.
     std::vector<String> Asked;
+    /// The sentences of the status bar.
+    std::vector<String> Said;
     int Beeps = 0;
     /// File names of the sounds.
     std::vector<String> Sounds;

@@ -3,7 +3,10 @@
 #include "toolkit/DesktopTextArea.h"
 #include "toolkit/Probe.h"
 #include "toolkit/Timer.h"
+#include "toolkit/core/QtText.h"
 
+#include <QLabel>
+#include <QStatusBar>
 #include <QTimer>
 
 namespace {
@@ -41,7 +44,7 @@ TEST(Placement, ControlsFollowTheirLocks)
 TEST(Placement, WindowsKeepTheSizesOfTheirContent)
 {
     WindowStyle style{.title = U"W", .width = 760, .height = 500, .minimumWidth = 720, .minimumHeight = 400};
-    style.maximumWidth = 800, style.hasMenuBar = true;
+    style.maximumWidth = 800, style.hasMenuBar = style.hasStatusBar = true;
     DesktopWindow window(style);
     DesktopTextField field(window, {158, 13, 460, 22, L | T | R});
     field.SetName(U"field");
@@ -53,6 +56,8 @@ TEST(Placement, WindowsKeepTheSizesOfTheirContent)
     EXPECT_EQ(content.size(), QSize(760, 500));
     EXPECT_GT(content.y(), 0) << "the menu bar lies above";
     EXPECT_EQ(content.mapToGlobal(QPoint(0, 0)), QPoint(40, 60));
+    EXPECT_EQ(content.window()->height(), content.geometry().bottom() + 1 + window.StatusHeight());
+    EXPECT_GT(window.StatusHeight(), 0);
     window.SetWidth(100);
     window.SetHeight(5000);
     QApplication::processEvents();
@@ -66,6 +71,43 @@ TEST(Placement, WindowsKeepTheSizesOfTheirContent)
     window.SetTop(100);
     EXPECT_EQ(window.Left(), 40);
     EXPECT_EQ(content.mapToGlobal(QPoint(0, 0)).y(), 100);
+}
+
+TEST(Window, ASentenceStandsBelowTheContentAndLeavesTheFocus)
+{
+    const WindowStyle style{.title = U"W", .width = 400, .height = 100, .hasStatusBar = true};
+    DesktopWindow window(style), behind(style), plain({.title = U"plain", .width = 100, .height = 100});
+    DesktopTextField field(window, {0, 0, 100, 22, L | T});
+    behind.Show();
+    ShowActive(window);
+    field.SetFocus();
+    window.SetStatus(U"12 lines");
+    auto* const bar = QApplication::activeWindow()->findChild<QStatusBar*>();
+    const auto labels = bar->findChildren<QLabel*>();
+    struct Row {
+        const char* name;
+        QString sentence;
+        bool hidesStatus, isShortened;
+    };
+    for (const Row& row :
+         {Row{"beside the status", "Saved", false, false}, Row{"in its place", QString(45, 'n'), true, false},
+          Row{"too long for the bar", QString(200, 'n'), true, true}, Row{"none", "", false, false}}) {
+        DesktopWindow::Say(FromQt(row.sentence));
+        EXPECT_EQ(labels[0]->accessibleName(), row.sentence) << row.name;
+        EXPECT_EQ(labels[0]->text() != row.sentence, row.isShortened) << row.name;
+        EXPECT_EQ(labels[0]->toolTip(), row.isShortened ? row.sentence : "") << row.name;
+        EXPECT_NE(labels[1]->isVisible(), row.hidesStatus) << row.name;
+        EXPECT_EQ(window.Focus(), &field);
+    }
+    plain.Show();
+    DesktopWindow::Say(U"said over a window without a bar");
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    EXPECT_EQ(std::ranges::count_if(windows,
+                                    [](const QWidget* shown) {
+                                        const auto* const other = shown->findChild<QStatusBar*>();
+                                        return other && !other->findChild<QLabel*>()->text().isEmpty();
+                                    }),
+              1);
 }
 
 TEST(Window, TabKeyGoesByIndexThenByCreation)
