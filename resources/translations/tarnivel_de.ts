@@ -196,6 +196,118 @@ Spack Après</source>
 Packs vorher
 Packs nachher</translation>
     </message>
+    <message id="Localisation.Nb_Lignes">
+        <source>ligne|lignes</source>
+        <translation>Zeile|Zeilen</translation>
+    </message>
+    <message id="Localisation.Nb_Activees">
+        <source>activée|activées</source>
+        <translation>eingeschaltet|eingeschaltet</translation>
+    </message>
+    <message id="Localisation.Nb_Desactivees">
+        <source>désactivée|désactivées</source>
+        <translation>ausgeschaltet|ausgeschaltet</translation>
+    </message>
+    <message id="Localisation.Nb_SansEquiv">
+        <source>sans équivalent|sans équivalent</source>
+        <translation>ohne Gegenstück|ohne Gegenstück</translation>
+    </message>
+    <message id="Localisation.Nb_Remarques">
+        <source>remarque|remarques</source>
+        <translation>Meldung|Meldungen</translation>
+    </message>
+    <message id="Localisation.Nb_Modifiees">
+        <source>ligne modifiée|lignes modifiées</source>
+        <translation>Zeile geändert|Zeilen geändert</translation>
+    </message>
+    <message id="Localisation.Dit_Ligne">
+        <source>Ligne ¿%</source>
+        <translation>Zeile ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_Reordonne">
+        <source>Réordonné : ¿%</source>
+        <translation>Neu geordnet: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_Arrete">
+        <source>Arrêté : rien n'a été réordonné</source>
+        <translation>Angehalten: nichts wurde neu geordnet</translation>
+    </message>
+    <message id="Localisation.Dit_ModeleRefuse">
+        <source>Modèle refusé : ¿%</source>
+        <translation>Modell abgelehnt: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_SpackRefuse">
+        <source>scenery_packs.ini refusé : ¿%</source>
+        <translation>scenery_packs.ini abgelehnt: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_FinsWindows">
+        <source>fins de ligne Windows</source>
+        <translation>Windows-Zeilenenden</translation>
+    </message>
+    <message id="Localisation.Dit_Bom">
+        <source>marque d'ordre d'octets (BOM)</source>
+        <translation>Bytereihenfolge-Marke (BOM)</translation>
+    </message>
+    <message id="Localisation.Dit_Vide">
+        <source>vide ou illisible</source>
+        <translation>leer oder nicht lesbar</translation>
+    </message>
+    <message id="Localisation.Dit_SansEntete">
+        <source>ne commence pas comme un scenery_packs.ini</source>
+        <translation>beginnt nicht wie eine scenery_packs.ini</translation>
+    </message>
+    <message id="Localisation.Dit_Enregistre">
+        <source>Enregistré : ¿%</source>
+        <translation>Gesichert: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_Archive">
+        <source>ancien fichier : ¿%</source>
+        <translation>alte Datei: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_PasEnregistre">
+        <source>Rien n'a été enregistré</source>
+        <translation>Nichts wurde gesichert</translation>
+    </message>
+    <message id="Localisation.Dit_Introuvable">
+        <source>“¿%” introuvable</source>
+        <translation>„¿%“ nicht gefunden</translation>
+    </message>
+    <message id="Localisation.Dit_SeulTrouve">
+        <source>“¿%” : pas d'autre occurrence</source>
+        <translation>„¿%“: kein weiteres Vorkommen</translation>
+    </message>
+    <message id="Localisation.Dit_RepriseDebut">
+        <source>Reprise au début du texte</source>
+        <translation>Weiter am Anfang des Textes</translation>
+    </message>
+    <message id="Localisation.Dit_RepriseFin">
+        <source>Reprise à la fin du texte</source>
+        <translation>Weiter am Ende des Textes</translation>
+    </message>
+    <message id="Localisation.Dit_RienChercher">
+        <source>Rien à chercher : le champ de recherche est vide</source>
+        <translation>Nichts zu suchen: Das Suchfeld ist leer</translation>
+    </message>
+    <message id="Localisation.Dit_AucuneMarque">
+        <source>Aucune ligne sans équivalent dans ce texte</source>
+        <translation>Keine Zeile ohne Gegenstück in diesem Text</translation>
+    </message>
+    <message id="Localisation.Dit_PasLa">
+        <source>N'existe pas : ¿%</source>
+        <translation>Gibt es nicht: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_AliasPerdu">
+        <source>Cet alias ne mène nulle part : ¿%</source>
+        <translation>Dieser Verweis führt nirgendwohin: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_PasDossier">
+        <source>Cette ligne ne nomme pas de dossier de Custom Scenery</source>
+        <translation>Diese Zeile nennt keinen Ordner von Custom Scenery</translation>
+    </message>
+    <message id="Localisation.Dit_Occupe">
+        <source>Un traitement est en cours : arrêtez-le d'abord</source>
+        <translation>Das Programm arbeitet: erst anhalten</translation>
+    </message>
     <message id="Localisation.Txt_ProbLignPresDxFois">
         <source>Problème, la ligne ci-dessous est présente plus d'une fois :</source>
         <translation>Problem: Die folgende Zeile kommt mehr als einmal vor:</translation>

@@ -196,6 +196,118 @@ Spack Après</source>
 Packs before
 Packs after</translation>
     </message>
+    <message id="Localisation.Nb_Lignes">
+        <source>ligne|lignes</source>
+        <translation>line|lines</translation>
+    </message>
+    <message id="Localisation.Nb_Activees">
+        <source>activée|activées</source>
+        <translation>enabled|enabled</translation>
+    </message>
+    <message id="Localisation.Nb_Desactivees">
+        <source>désactivée|désactivées</source>
+        <translation>disabled|disabled</translation>
+    </message>
+    <message id="Localisation.Nb_SansEquiv">
+        <source>sans équivalent|sans équivalent</source>
+        <translation>unmatched|unmatched</translation>
+    </message>
+    <message id="Localisation.Nb_Remarques">
+        <source>remarque|remarques</source>
+        <translation>report|reports</translation>
+    </message>
+    <message id="Localisation.Nb_Modifiees">
+        <source>ligne modifiée|lignes modifiées</source>
+        <translation>line changed|lines changed</translation>
+    </message>
+    <message id="Localisation.Dit_Ligne">
+        <source>Ligne ¿%</source>
+        <translation>Line ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_Reordonne">
+        <source>Réordonné : ¿%</source>
+        <translation>Reordered: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_Arrete">
+        <source>Arrêté : rien n'a été réordonné</source>
+        <translation>Stopped: nothing was reordered</translation>
+    </message>
+    <message id="Localisation.Dit_ModeleRefuse">
+        <source>Modèle refusé : ¿%</source>
+        <translation>Model refused: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_SpackRefuse">
+        <source>scenery_packs.ini refusé : ¿%</source>
+        <translation>scenery_packs.ini refused: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_FinsWindows">
+        <source>fins de ligne Windows</source>
+        <translation>Windows line ends</translation>
+    </message>
+    <message id="Localisation.Dit_Bom">
+        <source>marque d'ordre d'octets (BOM)</source>
+        <translation>byte-order mark (BOM)</translation>
+    </message>
+    <message id="Localisation.Dit_Vide">
+        <source>vide ou illisible</source>
+        <translation>empty or unreadable</translation>
+    </message>
+    <message id="Localisation.Dit_SansEntete">
+        <source>ne commence pas comme un scenery_packs.ini</source>
+        <translation>does not begin like a scenery_packs.ini</translation>
+    </message>
+    <message id="Localisation.Dit_Enregistre">
+        <source>Enregistré : ¿%</source>
+        <translation>Saved: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_Archive">
+        <source>ancien fichier : ¿%</source>
+        <translation>old file: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_PasEnregistre">
+        <source>Rien n'a été enregistré</source>
+        <translation>Nothing was saved</translation>
+    </message>
+    <message id="Localisation.Dit_Introuvable">
+        <source>“¿%” introuvable</source>
+        <translation>“¿%” not found</translation>
+    </message>
+    <message id="Localisation.Dit_SeulTrouve">
+        <source>“¿%” : pas d'autre occurrence</source>
+        <translation>“¿%”: no other occurrence</translation>
+    </message>
+    <message id="Localisation.Dit_RepriseDebut">
+        <source>Reprise au début du texte</source>
+        <translation>Resumed from the top of the text</translation>
+    </message>
+    <message id="Localisation.Dit_RepriseFin">
+        <source>Reprise à la fin du texte</source>
+        <translation>Resumed from the end of the text</translation>
+    </message>
+    <message id="Localisation.Dit_RienChercher">
+        <source>Rien à chercher : le champ de recherche est vide</source>
+        <translation>Nothing to search for: the search field is empty</translation>
+    </message>
+    <message id="Localisation.Dit_AucuneMarque">
+        <source>Aucune ligne sans équivalent dans ce texte</source>
+        <translation>No unmatched line in this text</translation>
+    </message>
+    <message id="Localisation.Dit_PasLa">
+        <source>N'existe pas : ¿%</source>
+        <translation>Does not exist: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_AliasPerdu">
+        <source>Cet alias ne mène nulle part : ¿%</source>
+        <translation>This link leads nowhere: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_PasDossier">
+        <source>Cette ligne ne nomme pas de dossier de Custom Scenery</source>
+        <translation>This line names no folder of Custom Scenery</translation>
+    </message>
+    <message id="Localisation.Dit_Occupe">
+        <source>Un traitement est en cours : arrêtez-le d'abord</source>
+        <translation>The program is busy: stop it first</translation>
+    </message>
     <message id="Localisation.Txt_ProbLignPresDxFois">
         <source>Problème, la ligne ci-dessous est présente plus d'une fois :</source>
         <translation>Problem: the line below is present more than once:</translation>

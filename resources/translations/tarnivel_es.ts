@@ -196,6 +196,118 @@ Spack Après</source>
 Packs antes
 Packs después</translation>
     </message>
+    <message id="Localisation.Nb_Lignes">
+        <source>ligne|lignes</source>
+        <translation>línea|líneas</translation>
+    </message>
+    <message id="Localisation.Nb_Activees">
+        <source>activée|activées</source>
+        <translation>activada|activadas</translation>
+    </message>
+    <message id="Localisation.Nb_Desactivees">
+        <source>désactivée|désactivées</source>
+        <translation>desactivada|desactivadas</translation>
+    </message>
+    <message id="Localisation.Nb_SansEquiv">
+        <source>sans équivalent|sans équivalent</source>
+        <translation>sin equivalente|sin equivalente</translation>
+    </message>
+    <message id="Localisation.Nb_Remarques">
+        <source>remarque|remarques</source>
+        <translation>observación|observaciones</translation>
+    </message>
+    <message id="Localisation.Nb_Modifiees">
+        <source>ligne modifiée|lignes modifiées</source>
+        <translation>línea cambiada|líneas cambiadas</translation>
+    </message>
+    <message id="Localisation.Dit_Ligne">
+        <source>Ligne ¿%</source>
+        <translation>Línea ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_Reordonne">
+        <source>Réordonné : ¿%</source>
+        <translation>Reordenado: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_Arrete">
+        <source>Arrêté : rien n'a été réordonné</source>
+        <translation>Detenido: no se ha reordenado nada</translation>
+    </message>
+    <message id="Localisation.Dit_ModeleRefuse">
+        <source>Modèle refusé : ¿%</source>
+        <translation>Modelo rechazado: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_SpackRefuse">
+        <source>scenery_packs.ini refusé : ¿%</source>
+        <translation>scenery_packs.ini rechazado: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_FinsWindows">
+        <source>fins de ligne Windows</source>
+        <translation>finales de línea de Windows</translation>
+    </message>
+    <message id="Localisation.Dit_Bom">
+        <source>marque d'ordre d'octets (BOM)</source>
+        <translation>marca de orden de bytes (BOM)</translation>
+    </message>
+    <message id="Localisation.Dit_Vide">
+        <source>vide ou illisible</source>
+        <translation>vacío o ilegible</translation>
+    </message>
+    <message id="Localisation.Dit_SansEntete">
+        <source>ne commence pas comme un scenery_packs.ini</source>
+        <translation>no empieza como un scenery_packs.ini</translation>
+    </message>
+    <message id="Localisation.Dit_Enregistre">
+        <source>Enregistré : ¿%</source>
+        <translation>Guardado: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_Archive">
+        <source>ancien fichier : ¿%</source>
+        <translation>archivo anterior: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_PasEnregistre">
+        <source>Rien n'a été enregistré</source>
+        <translation>No se ha guardado nada</translation>
+    </message>
+    <message id="Localisation.Dit_Introuvable">
+        <source>“¿%” introuvable</source>
+        <translation>“¿%” no se encuentra</translation>
+    </message>
+    <message id="Localisation.Dit_SeulTrouve">
+        <source>“¿%” : pas d'autre occurrence</source>
+        <translation>“¿%”: no hay más apariciones</translation>
+    </message>
+    <message id="Localisation.Dit_RepriseDebut">
+        <source>Reprise au début du texte</source>
+        <translation>Se continúa desde el principio del texto</translation>
+    </message>
+    <message id="Localisation.Dit_RepriseFin">
+        <source>Reprise à la fin du texte</source>
+        <translation>Se continúa desde el final del texto</translation>
+    </message>
+    <message id="Localisation.Dit_RienChercher">
+        <source>Rien à chercher : le champ de recherche est vide</source>
+        <translation>Nada que buscar: el campo de búsqueda está vacío</translation>
+    </message>
+    <message id="Localisation.Dit_AucuneMarque">
+        <source>Aucune ligne sans équivalent dans ce texte</source>
+        <translation>Ninguna línea sin equivalente en este texto</translation>
+    </message>
+    <message id="Localisation.Dit_PasLa">
+        <source>N'existe pas : ¿%</source>
+        <translation>No existe: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_AliasPerdu">
+        <source>Cet alias ne mène nulle part : ¿%</source>
+        <translation>Este enlace no lleva a ninguna parte: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_PasDossier">
+        <source>Cette ligne ne nomme pas de dossier de Custom Scenery</source>
+        <translation>Esta línea no nombra ninguna carpeta de Custom Scenery</translation>
+    </message>
+    <message id="Localisation.Dit_Occupe">
+        <source>Un traitement est en cours : arrêtez-le d'abord</source>
+        <translation>El programa está ocupado: deténgalo primero</translation>
+    </message>
     <message id="Localisation.Txt_ProbLignPresDxFois">
         <source>Problème, la ligne ci-dessous est présente plus d'une fois :</source>
         <translation>Problema: la línea siguiente está presente más de una vez:</translation>

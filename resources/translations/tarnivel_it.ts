@@ -196,6 +196,118 @@ Spack Après</source>
 Pack prima
 Pack dopo</translation>
     </message>
+    <message id="Localisation.Nb_Lignes">
+        <source>ligne|lignes</source>
+        <translation>riga|righe</translation>
+    </message>
+    <message id="Localisation.Nb_Activees">
+        <source>activée|activées</source>
+        <translation>attivata|attivate</translation>
+    </message>
+    <message id="Localisation.Nb_Desactivees">
+        <source>désactivée|désactivées</source>
+        <translation>disattivata|disattivate</translation>
+    </message>
+    <message id="Localisation.Nb_SansEquiv">
+        <source>sans équivalent|sans équivalent</source>
+        <translation>senza equivalente|senza equivalente</translation>
+    </message>
+    <message id="Localisation.Nb_Remarques">
+        <source>remarque|remarques</source>
+        <translation>segnalazione|segnalazioni</translation>
+    </message>
+    <message id="Localisation.Nb_Modifiees">
+        <source>ligne modifiée|lignes modifiées</source>
+        <translation>riga modificata|righe modificate</translation>
+    </message>
+    <message id="Localisation.Dit_Ligne">
+        <source>Ligne ¿%</source>
+        <translation>Riga ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_Reordonne">
+        <source>Réordonné : ¿%</source>
+        <translation>Riordinato: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_Arrete">
+        <source>Arrêté : rien n'a été réordonné</source>
+        <translation>Fermato: nulla è stato riordinato</translation>
+    </message>
+    <message id="Localisation.Dit_ModeleRefuse">
+        <source>Modèle refusé : ¿%</source>
+        <translation>Modello rifiutato: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_SpackRefuse">
+        <source>scenery_packs.ini refusé : ¿%</source>
+        <translation>scenery_packs.ini rifiutato: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_FinsWindows">
+        <source>fins de ligne Windows</source>
+        <translation>fini di riga Windows</translation>
+    </message>
+    <message id="Localisation.Dit_Bom">
+        <source>marque d'ordre d'octets (BOM)</source>
+        <translation>indicatore di ordine dei byte (BOM)</translation>
+    </message>
+    <message id="Localisation.Dit_Vide">
+        <source>vide ou illisible</source>
+        <translation>vuoto o illeggibile</translation>
+    </message>
+    <message id="Localisation.Dit_SansEntete">
+        <source>ne commence pas comme un scenery_packs.ini</source>
+        <translation>non comincia come uno scenery_packs.ini</translation>
+    </message>
+    <message id="Localisation.Dit_Enregistre">
+        <source>Enregistré : ¿%</source>
+        <translation>Salvato: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_Archive">
+        <source>ancien fichier : ¿%</source>
+        <translation>vecchio file: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_PasEnregistre">
+        <source>Rien n'a été enregistré</source>
+        <translation>Nulla è stato salvato</translation>
+    </message>
+    <message id="Localisation.Dit_Introuvable">
+        <source>“¿%” introuvable</source>
+        <translation>“¿%” non trovato</translation>
+    </message>
+    <message id="Localisation.Dit_SeulTrouve">
+        <source>“¿%” : pas d'autre occurrence</source>
+        <translation>“¿%”: nessun'altra occorrenza</translation>
+    </message>
+    <message id="Localisation.Dit_RepriseDebut">
+        <source>Reprise au début du texte</source>
+        <translation>Ripreso dall'inizio del testo</translation>
+    </message>
+    <message id="Localisation.Dit_RepriseFin">
+        <source>Reprise à la fin du texte</source>
+        <translation>Ripreso dalla fine del testo</translation>
+    </message>
+    <message id="Localisation.Dit_RienChercher">
+        <source>Rien à chercher : le champ de recherche est vide</source>
+        <translation>Nulla da cercare: il campo di ricerca è vuoto</translation>
+    </message>
+    <message id="Localisation.Dit_AucuneMarque">
+        <source>Aucune ligne sans équivalent dans ce texte</source>
+        <translation>Nessuna riga senza equivalente in questo testo</translation>
+    </message>
+    <message id="Localisation.Dit_PasLa">
+        <source>N'existe pas : ¿%</source>
+        <translation>Non esiste: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_AliasPerdu">
+        <source>Cet alias ne mène nulle part : ¿%</source>
+        <translation>Questo collegamento non porta da nessuna parte: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_PasDossier">
+        <source>Cette ligne ne nomme pas de dossier de Custom Scenery</source>
+        <translation>Questa riga non indica alcuna cartella di Custom Scenery</translation>
+    </message>
+    <message id="Localisation.Dit_Occupe">
+        <source>Un traitement est en cours : arrêtez-le d'abord</source>
+        <translation>Il programma è occupato: prima fermarlo</translation>
+    </message>
     <message id="Localisation.Txt_ProbLignPresDxFois">
         <source>Problème, la ligne ci-dessous est présente plus d'une fois :</source>
         <translation>Problema: la riga qui sotto è presente più di una volta:</translation>

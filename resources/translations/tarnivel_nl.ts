@@ -196,6 +196,118 @@ Spack Après</source>
 Packs voor
 Packs na</translation>
     </message>
+    <message id="Localisation.Nb_Lignes">
+        <source>ligne|lignes</source>
+        <translation>regel|regels</translation>
+    </message>
+    <message id="Localisation.Nb_Activees">
+        <source>activée|activées</source>
+        <translation>ingeschakeld|ingeschakeld</translation>
+    </message>
+    <message id="Localisation.Nb_Desactivees">
+        <source>désactivée|désactivées</source>
+        <translation>uitgeschakeld|uitgeschakeld</translation>
+    </message>
+    <message id="Localisation.Nb_SansEquiv">
+        <source>sans équivalent|sans équivalent</source>
+        <translation>zonder tegenhanger|zonder tegenhanger</translation>
+    </message>
+    <message id="Localisation.Nb_Remarques">
+        <source>remarque|remarques</source>
+        <translation>melding|meldingen</translation>
+    </message>
+    <message id="Localisation.Nb_Modifiees">
+        <source>ligne modifiée|lignes modifiées</source>
+        <translation>regel gewijzigd|regels gewijzigd</translation>
+    </message>
+    <message id="Localisation.Dit_Ligne">
+        <source>Ligne ¿%</source>
+        <translation>Regel ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_Reordonne">
+        <source>Réordonné : ¿%</source>
+        <translation>Herordend: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_Arrete">
+        <source>Arrêté : rien n'a été réordonné</source>
+        <translation>Gestopt: er is niets herordend</translation>
+    </message>
+    <message id="Localisation.Dit_ModeleRefuse">
+        <source>Modèle refusé : ¿%</source>
+        <translation>Model geweigerd: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_SpackRefuse">
+        <source>scenery_packs.ini refusé : ¿%</source>
+        <translation>scenery_packs.ini geweigerd: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_FinsWindows">
+        <source>fins de ligne Windows</source>
+        <translation>Windows-regeleinden</translation>
+    </message>
+    <message id="Localisation.Dit_Bom">
+        <source>marque d'ordre d'octets (BOM)</source>
+        <translation>bytevolgordemarkering (BOM)</translation>
+    </message>
+    <message id="Localisation.Dit_Vide">
+        <source>vide ou illisible</source>
+        <translation>leeg of onleesbaar</translation>
+    </message>
+    <message id="Localisation.Dit_SansEntete">
+        <source>ne commence pas comme un scenery_packs.ini</source>
+        <translation>begint niet als een scenery_packs.ini</translation>
+    </message>
+    <message id="Localisation.Dit_Enregistre">
+        <source>Enregistré : ¿%</source>
+        <translation>Bewaard: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_Archive">
+        <source>ancien fichier : ¿%</source>
+        <translation>oud bestand: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_PasEnregistre">
+        <source>Rien n'a été enregistré</source>
+        <translation>Er is niets bewaard</translation>
+    </message>
+    <message id="Localisation.Dit_Introuvable">
+        <source>“¿%” introuvable</source>
+        <translation>“¿%” niet gevonden</translation>
+    </message>
+    <message id="Localisation.Dit_SeulTrouve">
+        <source>“¿%” : pas d'autre occurrence</source>
+        <translation>“¿%”: niet nogmaals gevonden</translation>
+    </message>
+    <message id="Localisation.Dit_RepriseDebut">
+        <source>Reprise au début du texte</source>
+        <translation>Verder vanaf het begin van de tekst</translation>
+    </message>
+    <message id="Localisation.Dit_RepriseFin">
+        <source>Reprise à la fin du texte</source>
+        <translation>Verder vanaf het einde van de tekst</translation>
+    </message>
+    <message id="Localisation.Dit_RienChercher">
+        <source>Rien à chercher : le champ de recherche est vide</source>
+        <translation>Niets te zoeken: het zoekveld is leeg</translation>
+    </message>
+    <message id="Localisation.Dit_AucuneMarque">
+        <source>Aucune ligne sans équivalent dans ce texte</source>
+        <translation>Geen regel zonder tegenhanger in deze tekst</translation>
+    </message>
+    <message id="Localisation.Dit_PasLa">
+        <source>N'existe pas : ¿%</source>
+        <translation>Bestaat niet: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_AliasPerdu">
+        <source>Cet alias ne mène nulle part : ¿%</source>
+        <translation>Deze koppeling leidt nergens heen: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_PasDossier">
+        <source>Cette ligne ne nomme pas de dossier de Custom Scenery</source>
+        <translation>Deze regel noemt geen map van Custom Scenery</translation>
+    </message>
+    <message id="Localisation.Dit_Occupe">
+        <source>Un traitement est en cours : arrêtez-le d'abord</source>
+        <translation>Het programma is bezig: stop het eerst</translation>
+    </message>
     <message id="Localisation.Txt_ProbLignPresDxFois">
         <source>Problème, la ligne ci-dessous est présente plus d'une fois :</source>
         <translation>Probleem: de volgende regel komt meer dan eens voor:</translation>
