@@ -13,6 +13,7 @@
 #include "support/FileHelpers.h"
 #include "support/Fncts.h"
 #include "support/Sounds.h"
+#include "support/Status.h"
 #include "support/TextFiles.h"
 #include "support/TextHelpers.h"
 #include "toolkit/Desktop.h"
@@ -236,7 +237,7 @@ bool WinMain::Event_CancelClosing(bool appQuitting)
         return false;
     }
     if (!appQuitting && !Fncts::DrapMenu) {
-        Fncts::BeepNbT(1);
+        Fncts::Refuser(Dit_Occupe());
         return true;
     }
     if (!appQuitting) {

@@ -87,6 +87,7 @@ TEST_F(MainWindow, AStoppedFetchLeavesNothingBehind)
     window->TimerDebRun_Action();
     window->Close();
     EXPECT_EQ(probe.Beeps, 1) << "a run refuses the close";
+    EXPECT_EQ(probe.Said, std::vector<String>{U"Un traitement est en cours : arrêtez-le d'abord"});
     EXPECT_FALSE(app->DrapOkQuit);
     window->BtnRun_Pressed();
     EXPECT_TRUE(Fncts::DrapMenu);
