@@ -79,10 +79,10 @@ def main(command):
             program.set_text(program.find("text", URL), "http://127.0.0.1:9/a :@: b")
             program.move(140, 90, 812, 533)
             kept = state(program)
-            bar = program.extents(program.find("menu bar"))[3]
+            bar, status = (program.extents(program.find(f"{name} bar"))[3] for name in ("menu", "status"))
             assert program.close() == 0
-        # Counted is what stands below the menu bar.
-        assert f"Fenetre WinMain :@: 140,{90 + bar},812,{533 - bar}\n".encode() in preferences(), preferences()
+        # Counted is what stands between menu bar and status bar.
+        assert f"Fenetre WinMain :@: 140,{90 + bar},812,{533 - bar - status}\n".encode() in preferences(), preferences()
 
         with Program([command], private_environment(home)) as program:
             program.wait_for(f"{kept}", lambda: state(program) == kept)
