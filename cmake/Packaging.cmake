@@ -55,5 +55,5 @@ a file or an address. It keeps which packs are enabled and disabled, shows what
 has no partner, checks the result against the folder Custom Scenery, and saves
 it after archiving the old file.")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-translations-l10n, qt6-wayland")
 include(CPack)

@@ -63,7 +63,6 @@ inline constexpr Text Btn_Annuler{U"Btn_Annuler", U"Annuler"};
 inline constexpr Text Btn_Ok{U"Btn_Ok", U"Ok"};
 inline constexpr Text Btn_Fermer{U"Btn_Fermer", U"Fermer"};
 inline constexpr Text Menu_Edit{U"Menu_Edit", U"Édition"};
-inline constexpr Text Menu_EditUndo{U"Menu_EditUndo", U"Annuler"};
 inline constexpr Text Menu_EditClear{U"Menu_EditClear", U"Effacer"};
 inline constexpr Text Menu_EditCopy{U"Menu_EditCopy", U"Copier"};
 inline constexpr Text Menu_EditCut{U"Menu_EditCut", U"Couper"};
@@ -156,10 +155,6 @@ inline constexpr Text Btn_Trait{U"Btn_Trait", U"Traiter"};
 inline constexpr Text Txt_DropQueFichTxt{U"Txt_DropQueFichTxt",
     U"Vous ne pouvez glisser déposer qu'un fichier contenant du texte ici."};
 inline constexpr Text Txt_ChoisirUnFich{U"Txt_ChoisirUnFich", U"Choisir un fichier :"};
-inline constexpr Text Txt_FiltreTexte{U"Txt_FiltreTexte", U"Fichiers texte"};
-inline constexpr Text Txt_FiltreTous{U"Txt_FiltreTous", U"Tous les fichiers"};
-inline constexpr Text Txt_ChoisirDossArchiv{U"Txt_ChoisirDossArchiv",
-    U"Choisir le dossier où garder les anciens “scenery_packs.ini” :"};
 inline constexpr Text Txt_SelectQueFichTxt{U"Txt_SelectQueFichTxt",
     U"Vous pouvez seulement sélectionner un fichier texte."};
 inline constexpr Text LabDest1{U"LabDest1", U"Dest 1 :"};
@@ -175,6 +170,11 @@ inline constexpr Text Txt_FichPasModif{U"Txt_FichPasModif",
 inline constexpr Text Btn_Remplacer{U"Btn_Remplacer", U"Remplacer"};
 inline constexpr Text Btn_NePasRempl{U"Btn_NePasRempl", U"Ne pas remplacer"};
 inline constexpr Text Txt_NbTrouv{U"Txt_NbTrouv", U"Nombre de fois où les textes cherchés ont été trouvés :"};
+inline constexpr Text Txt_TropLignes{U"Txt_TropLignes", U"Le tableau ne peut pas avoir plus de 1 000 lignes."};
+inline constexpr Text Txt_TropLong{U"Txt_TropLong",
+    U"Trop long : une colonne du tableau peut avoir 2 000 000 de caractères."};
+inline constexpr Text Txt_TropColonnes{U"Txt_TropColonnes",
+    U"Les cellules au-delà de la troisième colonne ont été laissées de côté."};
 inline constexpr Text Btn_CopiList_HT{U"Btn_CopiList_HT", U"Copier la liste dans le presse-papiers"};
 inline constexpr Text Pref_ChBoxAffBtnSpecA{U"Pref_ChBoxAffBtnSpecA", U"Afficher bouton “Spécial A”"};
 inline constexpr Text Menu_Preferences{U"Menu_Preferences", U"Préférences…"};

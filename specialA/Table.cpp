@@ -1,33 +1,47 @@
 #include "app/App.h"
+#include "localisation/Localisation.h"
 #include "specialA/WinSpecA.h"
 #include "support/Sounds.h"
+#include "support/Status.h"
 #include "support/TextHelpers.h"
 
 #include <algorithm>
 
+using namespace Localisation;
+
 namespace {
 
-constexpr StringView tab = U"\t";
+constexpr std::size_t mostRows = 1000;
+/// The file of the settings keeps a column in a line, and the longest line that it reads has four bytes for each.
+constexpr std::size_t mostCharacters = 2'000'000;
 
-/// What a screen reader sets, or the name of a file, may hold what parts the elements of a kept list, and the lines of
-/// the file that keeps it.
-String OneElement(StringView text) { return ReplaceAll(ReplaceLineEndings(text, U" "), tab, U" "); }
+/// The name of a file may hold what parts the elements of a kept list, and the lines of the file that keeps it.
+String OneElement(StringView text) { return ReplaceAll(ReplaceLineEndings(text, U" "), U"\t", U" "); }
+
+/// The three names and the blank line that `PushButtCopiList` puts above the rows.
+bool BeginsWithHeading(const std::vector<CellRow>& rows)
+{
+    return rows.size() >= 2 && rows[0].size() == 3 && rows[1] == CellRow{U""};
+}
 
 } // namespace
 
 void WinSpecA::ShowTable()
 {
     App& app = App::Current();
+    const auto columns = {&app.TabSpecAorg, &app.TabSpecAdest1, &app.TabSpecAdest2};
     std::size_t longest = 1;
-    for (const auto* list : {&app.TabSpecAorg, &app.TabSpecAdest1, &app.TabSpecAdest2})
-        longest = std::max(longest, list->size());
-    for (auto* list : {&app.TabSpecAorg, &app.TabSpecAdest1, &app.TabSpecAdest2})
-        list->resize(longest);
+    for (const auto* column : columns)
+        longest = std::max(longest, column->size());
+    for (auto* column : columns)
+        column->resize(longest);
     TextFieldOrg.SetText(app.TabSpecAorg.front());
     TextFieldDest1.SetText(app.TabSpecAdest1.front());
     TextFieldDest2.SetText(app.TabSpecAdest2.front());
+    std::vector<CellRow> rows;
     for (std::size_t i = 1; i < longest; ++i)
-        ListboxRR.AddRow({app.TabSpecAorg[i], app.TabSpecAdest1[i], app.TabSpecAdest2[i]});
+        rows.push_back({app.TabSpecAorg[i], app.TabSpecAdest1[i], app.TabSpecAdest2[i]});
+    ListboxRR.SetRows(rows);
 }
 
 Int16 WinSpecA::FaireTab()
@@ -36,60 +50,60 @@ Int16 WinSpecA::FaireTab()
     app.TabSpecAorg = {OneElement(TextFieldOrg.Text())};
     app.TabSpecAdest1 = {OneElement(TextFieldDest1.Text())};
     app.TabSpecAdest2 = {OneElement(TextFieldDest2.Text())};
-    for (int row = 0; row <= ListboxRR.LastRowIndex(); ++row) {
-        app.TabSpecAorg.push_back(OneElement(ListboxRR.CellTextAt(row, 0)));
-        app.TabSpecAdest1.push_back(OneElement(ListboxRR.CellTextAt(row, 1)));
-        app.TabSpecAdest2.push_back(OneElement(ListboxRR.CellTextAt(row, 2)));
+    for (const CellRow& row : ListboxRR.Rows()) {
+        app.TabSpecAorg.push_back(row[0]);
+        app.TabSpecAdest1.push_back(row[1]);
+        app.TabSpecAdest2.push_back(row[2]);
     }
-    return static_cast<Int16>(ListboxRR.LastRowIndex() + 1);
+    return static_cast<Int16>(ListboxRR.Rows().size());
+}
+
+bool WinSpecA::ListboxRR_Accepts(const std::vector<CellRow>& rows)
+{
+    if (rows.size() > mostRows) return Fncts::Refuser(Txt_TropLignes()), false;
+    for (std::size_t column = 0; column < 3; ++column) {
+        std::size_t characters = 0;
+        for (const CellRow& row : rows)
+            characters += row[column].size();
+        if (characters > mostCharacters) return Fncts::Refuser(Txt_TropLong()), false;
+    }
+    return true;
 }
 
 void WinSpecA::PushButtAdd_Pressed()
 {
-    if (ListboxRR.LastRowIndex() + 1 >= MostRows) return Fncts::BeepNbT(1);
-    ListboxRR.AddRow({});
+    const int count = static_cast<int>(ListboxRR.Rows().size());
+    if (ListboxRR.InsertRows(count, {{}})) ListboxRR.EditCell(count, 0);
 }
 
 void WinSpecA::PushButtSupp_Pressed()
 {
-    const int last = ListboxRR.LastRowIndex(), selected = ListboxRR.SelectedRowIndex();
-    if (selected >= 0) return ListboxRR.RemoveRowAt(selected);
-    if (last >= 0 && Line(last) == U"\t\t") return ListboxRR.RemoveRowAt(last);
+    const std::vector<CellRow>& rows = ListboxRR.Rows();
+    if (const int selected = ListboxRR.SelectedRowIndex(); selected >= 0) return ListboxRR.RemoveRowAt(selected);
+    if (!rows.empty() && rows.back() == CellRow(3)) return ListboxRR.RemoveRowAt(static_cast<int>(rows.size()) - 1);
     Fncts::BeepNbT(1);
-}
-
-String WinSpecA::Heading() const
-{
-    return TextFieldOrg.Text() + U"\t" + TextFieldDest1.Text() + U"\t" + TextFieldDest2.Text();
-}
-
-String WinSpecA::Line(int row) const
-{
-    return ListboxRR.CellTextAt(row, 0) + U"\t" + ListboxRR.CellTextAt(row, 1) + U"\t" + ListboxRR.CellTextAt(row, 2);
 }
 
 void WinSpecA::PushButtCopiList_Pressed()
 {
-    String text = Heading() + U"\n\n";
-    for (int row = 0; row <= ListboxRR.LastRowIndex(); ++row)
-        text += Line(row) + U"\n";
+    String text = TextOfRow({TextFieldOrg.Text(), TextFieldDest1.Text(), TextFieldDest2.Text()}) + U'\n';
+    for (const CellRow& row : ListboxRR.Rows())
+        text += TextOfRow(row);
     Fncts::PlayT(Fncts::_x_Bip::Bip());
     Fncts::PressPapTxt(text);
 }
 
-void WinSpecA::ListboxRR_TextPasted(const String& text)
+void WinSpecA::ListboxRR_RowsPasted(std::vector<CellRow> rows)
 {
-    const String lined = ReplaceLineEndings(text, EndOfLine::UNIX);
-    std::vector<StringView> lines = Split(lined, EndOfLine::UNIX);
-    if (lines.back().empty()) lines.pop_back();
-    if (lines.size() >= 2 && lines[0] == Heading() && lines[1].empty()) lines.erase(lines.begin(), lines.begin() + 2);
-    if (std::ranges::any_of(lines, [](StringView line) { return CountFields(line, tab) > 3; })) Fncts::BeepNbT(1);
-
-    const int selected = ListboxRR.SelectedRowIndex();
-    int before = selected >= 0 ? selected + 1 : ListboxRR.LastRowIndex() + 1;
-    for (const StringView line : lines) {
-        if (ListboxRR.LastRowIndex() + 1 >= MostRows) return Fncts::BeepNbT(1);
-        ListboxRR.AddRowAt(
-            before++, {String(NthField(line, tab, 1)), String(NthField(line, tab, 2)), String(NthField(line, tab, 3))});
+    if (BeginsWithHeading(rows)) rows.erase(rows.begin(), rows.begin() + 2);
+    const std::size_t room = mostRows - ListboxRR.Rows().size();
+    if (std::ranges::any_of(rows, [](const CellRow& row) { return row.size() > 3; }))
+        Fncts::Refuser(Txt_TropColonnes());
+    if (rows.size() > room) {
+        rows.resize(room);
+        Fncts::Refuser(Txt_TropLignes());
     }
+    const int selected = ListboxRR.SelectedRowIndex();
+    if (!rows.empty())
+        ListboxRR.InsertRows(selected >= 0 ? selected + 1 : static_cast<int>(ListboxRR.Rows().size()), rows);
 }

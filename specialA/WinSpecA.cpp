@@ -99,7 +99,8 @@ void WinSpecA::BindHandlers()
     ListboxRR.PaintCellBackground = [](Graphics& graphics, int row, int /*column*/, int width, int height) {
         return PaintStripe(graphics, row, width, height);
     };
-    ListboxRR.TextPasted = [this](const String& text) { ListboxRR_TextPasted(text); };
+    ListboxRR.Accepts = &WinSpecA::ListboxRR_Accepts;
+    ListboxRR.RowsPasted = [this](std::vector<CellRow> rows) { ListboxRR_RowsPasted(std::move(rows)); };
     PushButtTrait.Pressed = [this] { PushButtTrait_Pressed(); };
     CanvDrag.Paint = [](Graphics& graphics, int width, int height) {
         graphics.SetDrawingColor({0x000000}, 70);

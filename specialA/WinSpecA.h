@@ -54,9 +54,9 @@ public:
     void PushButtAdd_Pressed();
     void PushButtSupp_Pressed();
     void PushButtCopiList_Pressed();
-    /// Inserts rows from lines whose cells are separated by tabs. The two lines that `PushButtCopiList` puts above the
-    /// rows are passed over; a beep tells of cells behind the third column, which are left out.
-    void ListboxRR_TextPasted(const String& text);
+    /// Inserts rows below the selected one, without the two that `PushButtCopiList` puts above the others. What there
+    /// is no room for is left out, and told.
+    void ListboxRR_RowsPasted(std::vector<CellRow> rows);
 
 private:
     // WinSpecA.cpp: the shell.
@@ -75,12 +75,9 @@ private:
     void AffCanvDrag(int left, int top, int width, int height);
 
     // Table.cpp
-    static constexpr int MostRows = 1000;
     void ShowTable();
-    /// The names of the three files, as they stand above the copied rows.
-    [[nodiscard]] String Heading() const;
-    /// The cells of a row with tabs between them.
-    [[nodiscard]] String Line(int row) const;
+    /// Whether the table may have these rows; if not, it was told.
+    static bool ListboxRR_Accepts(const std::vector<CellRow>& rows);
     /// Brings the lists of `App` in line with the window; the result is the number of rows.
     Int16 FaireTab();
 

@@ -4,11 +4,12 @@
 #include "toolkit/SessionEnd.h"
 #include "toolkit/core/FolderItem.h"
 #include "toolkit/core/QtText.h"
-#include "toolkit/core/System.h"
 
 #include <QApplication>
 #include <QFontDatabase>
 #include <QIcon>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QTranslator>
 #include <algorithm>
 #include <csignal>
@@ -73,13 +74,12 @@ DesktopApplication::DesktopApplication(int& argc, char** argv, String name, Stri
     QApplication::setApplicationName(ToQt(Name));
     QApplication::setApplicationVersion(ToQt(Version));
     QApplication::setQuitOnLastWindowClosed(false);
-    const std::optional<FolderItem> resources = ResourceFolder();
-    if (!resources) return;
-    const QString folder = ToQt(resources->NativePath());
     // Qt takes from it what the desktop's fonts lack.
-    QFontDatabase::addApplicationFont(folder + QStringLiteral("/TarnivelSymbols.ttf"));
+    if (const auto resources = ResourceFolder())
+        QFontDatabase::addApplicationFont(ToQt(resources->NativePath() + U"/TarnivelSymbols.ttf"));
     auto* const platformTexts = new QTranslator(qApp);
-    if (platformTexts->load(ToQt(U"qtbase_" + UserLanguage()), folder + QStringLiteral("/translations")))
+    if (platformTexts->load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"),
+                            QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(platformTexts);
 }
 

@@ -8,7 +8,7 @@
 #include <vector>
 
 /// What the platform's text controls do for an item of their own, on the control that has the focus.
-enum class EditCommand { None, Undo, Cut, Copy, Paste, Clear, SelectAll };
+enum class EditCommand { None, Undo, Redo, Cut, Copy, Paste, Clear, SelectAll };
 
 /// An item, or a line between items when its text is "-".
 class DesktopMenuItem {

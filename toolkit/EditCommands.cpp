@@ -2,6 +2,7 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QPlainTextEdit>
@@ -10,23 +11,18 @@ namespace {
 
 /// What the two kinds of text controls tell of themselves.
 struct State {
-    bool undo, selection, text, writable;
+    bool undo, redo, selection, text, writable;
 };
 
 State StateOf(const QWidget* control)
 {
     if (const auto* field = qobject_cast<const QLineEdit*>(control))
-        return {field->isUndoAvailable(), field->hasSelectedText(), !field->text().isEmpty(), !field->isReadOnly()};
+        return {field->isUndoAvailable(), field->isRedoAvailable(), field->hasSelectedText(), !field->text().isEmpty(),
+                !field->isReadOnly()};
     if (const auto* area = qobject_cast<const QPlainTextEdit*>(control))
-        return {area->document()->isUndoAvailable(), area->textCursor().hasSelection(), !area->document()->isEmpty(),
-                !area->isReadOnly()};
+        return {area->document()->isUndoAvailable(), area->document()->isRedoAvailable(),
+                area->textCursor().hasSelection(), !area->document()->isEmpty(), !area->isReadOnly()};
     return {};
-}
-
-bool ClipboardHasText()
-{
-    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-    return data && data->hasText();
 }
 
 void Clear(QLineEdit& field) { field.del(); }
@@ -37,6 +33,8 @@ void EditText(EditCommand command, auto& control)
     switch (command) {
     case EditCommand::Undo:
         return control.undo();
+    case EditCommand::Redo:
+        return control.redo();
     case EditCommand::Cut:
         return control.cut();
     case EditCommand::Copy:
@@ -56,16 +54,38 @@ void EditText(EditCommand command, auto& control)
 
 bool IsTextControl(const QWidget* widget)
 {
-    return qobject_cast<const QLineEdit*>(widget) || qobject_cast<const QPlainTextEdit*>(widget);
+    return qobject_cast<const QLineEdit*>(widget) || qobject_cast<const QPlainTextEdit*>(widget) ||
+           dynamic_cast<const EditTarget*>(widget);
+}
+
+bool ClipboardHasText()
+{
+    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+    return data && data->hasText();
+}
+
+EditCommand CommandOf(const QKeyEvent& key)
+{
+    constexpr std::pair<QKeySequence::StandardKey, EditCommand> keys[] = {
+        {QKeySequence::Undo, EditCommand::Undo},   {QKeySequence::Redo, EditCommand::Redo},
+        {QKeySequence::Cut, EditCommand::Cut},     {QKeySequence::Copy, EditCommand::Copy},
+        {QKeySequence::Paste, EditCommand::Paste}, {QKeySequence::SelectAll, EditCommand::SelectAll},
+        {QKeySequence::Delete, EditCommand::Clear}};
+    for (const auto& [standard, command] : keys)
+        if (key.matches(standard)) return command;
+    return EditCommand::None;
 }
 
 bool CanEdit(EditCommand command, const QWidget* control)
 {
     if (!IsTextControl(control) || !control->isEnabled()) return false;
+    if (const auto* target = dynamic_cast<const EditTarget*>(control); target && target->CanEdit(command)) return true;
     const State state = StateOf(control);
     switch (command) {
     case EditCommand::Undo:
         return state.undo && state.writable;
+    case EditCommand::Redo:
+        return state.redo && state.writable;
     case EditCommand::Cut:
     case EditCommand::Clear:
         return state.selection && state.writable;
@@ -84,6 +104,8 @@ bool CanEdit(EditCommand command, const QWidget* control)
 void Edit(EditCommand command, QWidget* control)
 {
     if (!CanEdit(command, control)) return;
+    if (auto* target = dynamic_cast<EditTarget*>(control); target && target->CanEdit(command))
+        return target->Edit(command);
     if (auto* field = qobject_cast<QLineEdit*>(control)) EditText(command, *field);
     if (auto* area = qobject_cast<QPlainTextEdit*>(control)) EditText(command, *area);
 }

@@ -113,10 +113,6 @@ Klicken Sie auf „Speichern“, um den Text des Textbereichs in der Datei zu sp
         <source>Édition</source>
         <translation>Bearbeiten</translation>
     </message>
-    <message id="Localisation.Menu_EditUndo">
-        <source>Annuler</source>
-        <translation>Rückgängig</translation>
-    </message>
     <message id="Localisation.Menu_EditClear">
         <source>Effacer</source>
         <translation>Löschen</translation>
@@ -430,18 +426,6 @@ Packs nachher</translation>
         <source>Choisir un fichier :</source>
         <translation>Wählen Sie eine Datei:</translation>
     </message>
-    <message id="Localisation.Txt_FiltreTexte">
-        <source>Fichiers texte</source>
-        <translation>Textdateien</translation>
-    </message>
-    <message id="Localisation.Txt_FiltreTous">
-        <source>Tous les fichiers</source>
-        <translation>Alle Dateien</translation>
-    </message>
-    <message id="Localisation.Txt_ChoisirDossArchiv">
-        <source>Choisir le dossier où garder les anciens “scenery_packs.ini” :</source>
-        <translation>Wählen Sie den Ordner, in dem die alten „scenery_packs.ini“ aufbewahrt werden:</translation>
-    </message>
     <message id="Localisation.Txt_SelectQueFichTxt">
         <source>Vous pouvez seulement sélectionner un fichier texte.</source>
         <translation>Es kann nur eine Textdatei ausgewählt werden.</translation>
@@ -492,6 +476,18 @@ Packs nachher</translation>
     <message id="Localisation.Txt_NbTrouv">
         <source>Nombre de fois où les textes cherchés ont été trouvés :</source>
         <translation>So oft wurden die gesuchten Texte gefunden:</translation>
+    </message>
+    <message id="Localisation.Txt_TropLignes">
+        <source>Le tableau ne peut pas avoir plus de 1 000 lignes.</source>
+        <translation>Die Tabelle kann nicht mehr als 1.000 Zeilen haben.</translation>
+    </message>
+    <message id="Localisation.Txt_TropLong">
+        <source>Trop long : une colonne du tableau peut avoir 2 000 000 de caractères.</source>
+        <translation>Zu lang: Eine Spalte der Tabelle kann 2.000.000 Zeichen haben.</translation>
+    </message>
+    <message id="Localisation.Txt_TropColonnes">
+        <source>Les cellules au-delà de la troisième colonne ont été laissées de côté.</source>
+        <translation>Die Zellen hinter der dritten Spalte wurden ausgelassen.</translation>
     </message>
     <message id="Localisation.Btn_CopiList_HT">
         <source>Copier la liste dans le presse-papiers</source>

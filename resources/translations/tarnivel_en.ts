@@ -113,10 +113,6 @@ Click the “Save file” button to save the text of the text area to the file s
         <source>Édition</source>
         <translation>Edit</translation>
     </message>
-    <message id="Localisation.Menu_EditUndo">
-        <source>Annuler</source>
-        <translation>Undo</translation>
-    </message>
     <message id="Localisation.Menu_EditClear">
         <source>Effacer</source>
         <translation>Delete</translation>
@@ -135,7 +131,7 @@ Click the “Save file” button to save the text of the text area to the file s
     </message>
     <message id="Localisation.Menu_EditSelectAll">
         <source>Tout sélectionner</source>
-        <translation>Select all</translation>
+        <translation>Select All</translation>
     </message>
     <message id="Localisation.Menu_Fichier">
         <source>Fichier</source>
@@ -430,18 +426,6 @@ Packs after</translation>
         <source>Choisir un fichier :</source>
         <translation>Choose a file:</translation>
     </message>
-    <message id="Localisation.Txt_FiltreTexte">
-        <source>Fichiers texte</source>
-        <translation>Text files</translation>
-    </message>
-    <message id="Localisation.Txt_FiltreTous">
-        <source>Tous les fichiers</source>
-        <translation>All files</translation>
-    </message>
-    <message id="Localisation.Txt_ChoisirDossArchiv">
-        <source>Choisir le dossier où garder les anciens “scenery_packs.ini” :</source>
-        <translation>Choose the folder to keep the old “scenery_packs.ini” in:</translation>
-    </message>
     <message id="Localisation.Txt_SelectQueFichTxt">
         <source>Vous pouvez seulement sélectionner un fichier texte.</source>
         <translation>Only a text file can be selected.</translation>
@@ -487,11 +471,23 @@ Packs after</translation>
     </message>
     <message id="Localisation.Btn_NePasRempl">
         <source>Ne pas remplacer</source>
-        <translation>Don't replace</translation>
+        <translation>Don't Replace</translation>
     </message>
     <message id="Localisation.Txt_NbTrouv">
         <source>Nombre de fois où les textes cherchés ont été trouvés :</source>
         <translation>Number of times that the searched texts were found:</translation>
+    </message>
+    <message id="Localisation.Txt_TropLignes">
+        <source>Le tableau ne peut pas avoir plus de 1 000 lignes.</source>
+        <translation>The table can't have more than 1,000 rows.</translation>
+    </message>
+    <message id="Localisation.Txt_TropLong">
+        <source>Trop long : une colonne du tableau peut avoir 2 000 000 de caractères.</source>
+        <translation>Too long: a column of the table can have 2,000,000 characters.</translation>
+    </message>
+    <message id="Localisation.Txt_TropColonnes">
+        <source>Les cellules au-delà de la troisième colonne ont été laissées de côté.</source>
+        <translation>The cells beyond the third column were left out.</translation>
     </message>
     <message id="Localisation.Btn_CopiList_HT">
         <source>Copier la liste dans le presse-papiers</source>

@@ -113,10 +113,6 @@ Pulse el botón “Guardar” para guardar el texto del área de texto en el arc
         <source>Édition</source>
         <translation>Edición</translation>
     </message>
-    <message id="Localisation.Menu_EditUndo">
-        <source>Annuler</source>
-        <translation>Deshacer</translation>
-    </message>
     <message id="Localisation.Menu_EditClear">
         <source>Effacer</source>
         <translation>Eliminar</translation>
@@ -430,18 +426,6 @@ Packs después</translation>
         <source>Choisir un fichier :</source>
         <translation>Elija un archivo:</translation>
     </message>
-    <message id="Localisation.Txt_FiltreTexte">
-        <source>Fichiers texte</source>
-        <translation>Archivos de texto</translation>
-    </message>
-    <message id="Localisation.Txt_FiltreTous">
-        <source>Tous les fichiers</source>
-        <translation>Todos los archivos</translation>
-    </message>
-    <message id="Localisation.Txt_ChoisirDossArchiv">
-        <source>Choisir le dossier où garder les anciens “scenery_packs.ini” :</source>
-        <translation>Elija la carpeta donde guardar los “scenery_packs.ini” antiguos:</translation>
-    </message>
     <message id="Localisation.Txt_SelectQueFichTxt">
         <source>Vous pouvez seulement sélectionner un fichier texte.</source>
         <translation>Solo puede seleccionar un archivo de texto.</translation>
@@ -492,6 +476,18 @@ Packs después</translation>
     <message id="Localisation.Txt_NbTrouv">
         <source>Nombre de fois où les textes cherchés ont été trouvés :</source>
         <translation>Número de veces que se han encontrado los textos buscados:</translation>
+    </message>
+    <message id="Localisation.Txt_TropLignes">
+        <source>Le tableau ne peut pas avoir plus de 1 000 lignes.</source>
+        <translation>La tabla no puede tener más de 1000 filas.</translation>
+    </message>
+    <message id="Localisation.Txt_TropLong">
+        <source>Trop long : une colonne du tableau peut avoir 2 000 000 de caractères.</source>
+        <translation>Demasiado largo: una columna de la tabla puede tener 2 000 000 de caracteres.</translation>
+    </message>
+    <message id="Localisation.Txt_TropColonnes">
+        <source>Les cellules au-delà de la troisième colonne ont été laissées de côté.</source>
+        <translation>Se han omitido las celdas más allá de la tercera columna.</translation>
     </message>
     <message id="Localisation.Btn_CopiList_HT">
         <source>Copier la liste dans le presse-papiers</source>

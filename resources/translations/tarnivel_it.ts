@@ -113,10 +113,6 @@ Fare clic sul pulsante “Salva file” per salvare il testo dell'area di testo 
         <source>Édition</source>
         <translation>Modifica</translation>
     </message>
-    <message id="Localisation.Menu_EditUndo">
-        <source>Annuler</source>
-        <translation>Annulla</translation>
-    </message>
     <message id="Localisation.Menu_EditClear">
         <source>Effacer</source>
         <translation>Elimina</translation>
@@ -430,18 +426,6 @@ Pack dopo</translation>
         <source>Choisir un fichier :</source>
         <translation>Scegliere un file:</translation>
     </message>
-    <message id="Localisation.Txt_FiltreTexte">
-        <source>Fichiers texte</source>
-        <translation>File di testo</translation>
-    </message>
-    <message id="Localisation.Txt_FiltreTous">
-        <source>Tous les fichiers</source>
-        <translation>Tutti i file</translation>
-    </message>
-    <message id="Localisation.Txt_ChoisirDossArchiv">
-        <source>Choisir le dossier où garder les anciens “scenery_packs.ini” :</source>
-        <translation>Scegliere la cartella in cui conservare i vecchi “scenery_packs.ini”:</translation>
-    </message>
     <message id="Localisation.Txt_SelectQueFichTxt">
         <source>Vous pouvez seulement sélectionner un fichier texte.</source>
         <translation>Si può selezionare solo un file di testo.</translation>
@@ -492,6 +476,18 @@ Pack dopo</translation>
     <message id="Localisation.Txt_NbTrouv">
         <source>Nombre de fois où les textes cherchés ont été trouvés :</source>
         <translation>Numero di volte in cui i testi cercati sono stati trovati:</translation>
+    </message>
+    <message id="Localisation.Txt_TropLignes">
+        <source>Le tableau ne peut pas avoir plus de 1 000 lignes.</source>
+        <translation>La tabella non può avere più di 1.000 righe.</translation>
+    </message>
+    <message id="Localisation.Txt_TropLong">
+        <source>Trop long : une colonne du tableau peut avoir 2 000 000 de caractères.</source>
+        <translation>Troppo lungo: una colonna della tabella può avere 2.000.000 di caratteri.</translation>
+    </message>
+    <message id="Localisation.Txt_TropColonnes">
+        <source>Les cellules au-delà de la troisième colonne ont été laissées de côté.</source>
+        <translation>Le celle oltre la terza colonna sono state tralasciate.</translation>
     </message>
     <message id="Localisation.Btn_CopiList_HT">
         <source>Copier la liste dans le presse-papiers</source>

@@ -113,10 +113,6 @@ Klik op de knop “Opslaan” om de tekst in het tekstvak op te slaan in het bes
         <source>Édition</source>
         <translation>Bewerken</translation>
     </message>
-    <message id="Localisation.Menu_EditUndo">
-        <source>Annuler</source>
-        <translation>Ongedaan maken</translation>
-    </message>
     <message id="Localisation.Menu_EditClear">
         <source>Effacer</source>
         <translation>Verwijderen</translation>
@@ -430,18 +426,6 @@ Packs na</translation>
         <source>Choisir un fichier :</source>
         <translation>Kies een bestand:</translation>
     </message>
-    <message id="Localisation.Txt_FiltreTexte">
-        <source>Fichiers texte</source>
-        <translation>Tekstbestanden</translation>
-    </message>
-    <message id="Localisation.Txt_FiltreTous">
-        <source>Tous les fichiers</source>
-        <translation>Alle bestanden</translation>
-    </message>
-    <message id="Localisation.Txt_ChoisirDossArchiv">
-        <source>Choisir le dossier où garder les anciens “scenery_packs.ini” :</source>
-        <translation>Kies de map waarin de oude “scenery_packs.ini” bewaard worden:</translation>
-    </message>
     <message id="Localisation.Txt_SelectQueFichTxt">
         <source>Vous pouvez seulement sélectionner un fichier texte.</source>
         <translation>U kunt alleen een tekstbestand selecteren.</translation>
@@ -492,6 +476,18 @@ Packs na</translation>
     <message id="Localisation.Txt_NbTrouv">
         <source>Nombre de fois où les textes cherchés ont été trouvés :</source>
         <translation>Zo vaak zijn de gezochte teksten gevonden:</translation>
+    </message>
+    <message id="Localisation.Txt_TropLignes">
+        <source>Le tableau ne peut pas avoir plus de 1 000 lignes.</source>
+        <translation>De tabel kan niet meer dan 1.000 rijen hebben.</translation>
+    </message>
+    <message id="Localisation.Txt_TropLong">
+        <source>Trop long : une colonne du tableau peut avoir 2 000 000 de caractères.</source>
+        <translation>Te lang: een kolom van de tabel kan 2.000.000 tekens hebben.</translation>
+    </message>
+    <message id="Localisation.Txt_TropColonnes">
+        <source>Les cellules au-delà de la troisième colonne ont été laissées de côté.</source>
+        <translation>De cellen voorbij de derde kolom zijn weggelaten.</translation>
     </message>
     <message id="Localisation.Btn_CopiList_HT">
         <source>Copier la liste dans le presse-papiers</source>

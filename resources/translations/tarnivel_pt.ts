@@ -113,10 +113,6 @@ Clique no botão “Guardar” para guardar o texto da área de texto no ficheir
         <source>Édition</source>
         <translation>Editar</translation>
     </message>
-    <message id="Localisation.Menu_EditUndo">
-        <source>Annuler</source>
-        <translation>Desfazer</translation>
-    </message>
     <message id="Localisation.Menu_EditClear">
         <source>Effacer</source>
         <translation>Apagar</translation>
@@ -430,18 +426,6 @@ Packs depois</translation>
         <source>Choisir un fichier :</source>
         <translation>Escolha um ficheiro:</translation>
     </message>
-    <message id="Localisation.Txt_FiltreTexte">
-        <source>Fichiers texte</source>
-        <translation>Ficheiros de texto</translation>
-    </message>
-    <message id="Localisation.Txt_FiltreTous">
-        <source>Tous les fichiers</source>
-        <translation>Todos os ficheiros</translation>
-    </message>
-    <message id="Localisation.Txt_ChoisirDossArchiv">
-        <source>Choisir le dossier où garder les anciens “scenery_packs.ini” :</source>
-        <translation>Escolha a pasta onde guardar os “scenery_packs.ini” antigos:</translation>
-    </message>
     <message id="Localisation.Txt_SelectQueFichTxt">
         <source>Vous pouvez seulement sélectionner un fichier texte.</source>
         <translation>Só pode selecionar um ficheiro de texto.</translation>
@@ -492,6 +476,18 @@ Packs depois</translation>
     <message id="Localisation.Txt_NbTrouv">
         <source>Nombre de fois où les textes cherchés ont été trouvés :</source>
         <translation>Número de vezes que os textos procurados foram encontrados:</translation>
+    </message>
+    <message id="Localisation.Txt_TropLignes">
+        <source>Le tableau ne peut pas avoir plus de 1 000 lignes.</source>
+        <translation>A tabela não pode ter mais de 1000 linhas.</translation>
+    </message>
+    <message id="Localisation.Txt_TropLong">
+        <source>Trop long : une colonne du tableau peut avoir 2 000 000 de caractères.</source>
+        <translation>Demasiado longo: uma coluna da tabela pode ter 2 000 000 de caracteres.</translation>
+    </message>
+    <message id="Localisation.Txt_TropColonnes">
+        <source>Les cellules au-delà de la troisième colonne ont été laissées de côté.</source>
+        <translation>As células além da terceira coluna foram deixadas de fora.</translation>
     </message>
     <message id="Localisation.Btn_CopiList_HT">
         <source>Copier la liste dans le presse-papiers</source>

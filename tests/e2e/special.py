@@ -47,15 +47,17 @@ def click(left, top, *more):
 
 
 def edit(program):
-    """Makes two rows by the keyboard, copies and pastes them, and drags the first to the end; a cell is still open."""
+    """Makes two rows by the keyboard, copies and pastes them, and drags the first to the end; takes back and redoes; a cell
+    is still open."""
     table = program.find("table", "Spécial A")
-    for rows in (1, 2):
-        program.press("+")
-        program.wait_for("the row", lambda rows=rows: Atspi.Table.get_n_rows(table) == rows)
+    rows = lambda: Atspi.Table.get_n_rows(table)  # noqa: E731
+    cells = lambda column: [Atspi.Table.get_accessible_at(table, row, column).get_name() for row in range(rows())]  # noqa: E731
+    program.press("+")
+    program.wait_for("the row", lambda: rows() == 1)
     headers = [node.get_name() for node in nodes(table) if node.get_role_name() == "table column header"]
     assert headers == ["Original :", "Dest 1 :", "Dest 2 :"], headers
-    left, top, _, _ = program.extents(table)
-    click(left + 20, top + 10, "--repeat", 2)
+    left, top, width, _ = program.extents(table)
+    left += width // 20  # behind the numbers
     program.type("wrong")
     program.keys("ctrl+z")
     for word in ("Alpha", "one", "two", "beta", ""):
@@ -64,16 +66,22 @@ def edit(program):
     program.type("B")
     program.keys("Return", "Return")
     program.type("no")
-    program.keys("Escape")
+    program.keys("Escape", "ctrl+z")
+    program.wait_for("two rows", lambda: rows() == 2)
 
     program.press("Copier la liste dans le presse-papiers")
     click(left + 20, top + 10)
     program.keys("ctrl+v")
-    program.wait_for("four rows", lambda: Atspi.Table.get_n_rows(table) == 4)
+    program.wait_for("four rows", lambda: rows() == 4)
+    program.keys("shift+Delete")
+    program.wait_for("three rows", lambda: rows() == 3)
+    for name in ("Édition", "Undo"):
+        place = program.extents(program.find("menu item", name))
+        click(place[0] + 5, place[1] + 5)
+    program.wait_for("the row that was taken back by the menu", lambda: cells(0) == ["Alpha", "Alpha", "beta", "beta"])
     xdotool("mousemove", left + 250, top + 10, "mousedown", 1)
     move_slowly((left + 250, top + 10), (left + 250, top + 75))
     xdotool("mouseup", 1)
-    cells = lambda column: [Atspi.Table.get_accessible_at(table, row, column).get_name() for row in range(4)]  # noqa: E731
     program.wait_for("the moved row", lambda: cells(0) == ["Alpha", "beta", "beta", "Alpha"])
     click(left + 450, top + 50, "--repeat", 2)
     program.keys("ctrl+a")

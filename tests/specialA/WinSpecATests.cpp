@@ -35,11 +35,13 @@ protected:
         window.emplace(winMain, segButtSpecA, timerQuit);
         window->Show();
     }
-    String Row(int row) const
+    String Row(std::size_t row) const
     {
-        return window->ListboxRR.CellTextAt(row, 0) + U"|" + window->ListboxRR.CellTextAt(row, 1) + U"|" +
-               window->ListboxRR.CellTextAt(row, 2);
+        const CellRow& cells = window->ListboxRR.Rows()[row];
+        return cells[0] + U"|" + cells[1] + U"|" + cells[2];
     }
+    /// The last sentence since the last call.
+    String Said() { return probe.Said.empty() ? String() : std::exchange(probe.Said, {}).back(); }
     /// What was asked since the last call.
     std::vector<String> Asked() { return std::exchange(probe.Asked, {}); }
 
@@ -229,29 +231,43 @@ TEST_F(SpecialA, TheTableGrowsAndShrinks)
 {
     app.TabSpecAdest2 = {U"two", U"2", U"lonely"};
     Open();
-    EXPECT_EQ(window->ListboxRR.LastRowIndex(), 1);
+    EXPECT_EQ(window->ListboxRR.Rows().size(), 2U);
     EXPECT_EQ(Row(1), U"||lonely") << "lists of unequal length leave empty cells";
     window->PushButtSupp_Pressed();
     EXPECT_EQ(probe.Beeps, 1) << "the last row isn't empty";
     window->PushButtAdd_Pressed();
+    EXPECT_EQ(window->ListboxRR.SelectedRowIndex(), 2);
+    window->ListboxRR.SetSelectedRowIndex(-1);
     window->PushButtSupp_Pressed();
-    EXPECT_EQ(window->ListboxRR.LastRowIndex(), 1);
+    EXPECT_EQ(window->ListboxRR.Rows().size(), 2U);
     window->ListboxRR.SetSelectedRowIndex(0);
-    window->ListboxRR_TextPasted(U"…\tone\ttwo\n\nx\ty\tz\r\nv");
-    EXPECT_EQ(Row(1), U"x|y|z");
+    window->ListboxRR_RowsPasted(RowsOf(U"other.txt\tone\ttwo\n\nx\ty\tz\nv"));
+    EXPECT_EQ(window->ListboxRR.SelectedRowIndex(), 1);
+    EXPECT_EQ(Row(1), U"x|y|z") << "without the names that were copied with the rows";
     EXPECT_EQ(Row(2), U"v||");
     window->PushButtSupp_Pressed();
-    EXPECT_EQ(Row(0), U"x|y|z") << "the selected row went";
+    EXPECT_EQ(Row(1), U"v||") << "the selected row went";
     window->PushButtSupp_Pressed();
-    EXPECT_EQ(Row(0), U"x|y|z") << "its neighbour isn't selected";
-    EXPECT_EQ(std::exchange(probe.Beeps, 1), 2);
-    while (window->ListboxRR.LastRowIndex() < 999)
-        window->PushButtAdd_Pressed();
-    EXPECT_EQ(probe.Beeps, 1);
+    EXPECT_EQ(Row(1), U"v||") << "its neighbour isn't selected";
+    EXPECT_EQ(probe.Beeps, 2);
+}
+
+TEST_F(SpecialA, TellsTheLimitsOfTheTable)
+{
+    Open();
+    window->ListboxRR_RowsPasted({{U"1", U"2", U"3", U"4"}});
+    EXPECT_EQ(Said(), U"Les cellules au-delà de la troisième colonne ont été laissées de côté.");
+    window->ListboxRR_RowsPasted({{String(1'999'998, U'x')}});
+    EXPECT_EQ(Said(), U"");
+    window->ListboxRR_RowsPasted({{U"y"}});
+    EXPECT_EQ(Said(), U"Trop long : une colonne du tableau peut avoir 2 000 000 de caractères.");
+    EXPECT_EQ(window->ListboxRR.Rows().size(), 3U);
+    window->ListboxRR_RowsPasted(std::vector<CellRow>(998));
+    EXPECT_EQ(Said(), U"Le tableau ne peut pas avoir plus de 1 000 lignes.");
+    EXPECT_EQ(window->ListboxRR.Rows().size(), 1000U);
     window->PushButtAdd_Pressed();
-    window->ListboxRR_TextPasted(U"more");
-    EXPECT_EQ(window->ListboxRR.LastRowIndex(), 999);
-    EXPECT_EQ(probe.Beeps, 3);
+    EXPECT_EQ(Said(), U"Le tableau ne peut pas avoir plus de 1 000 lignes.");
+    EXPECT_EQ(window->ListboxRR.Rows().size(), 1000U);
 }
 
 TEST_F(SpecialA, HandsAllBackWhenItCloses)
@@ -260,7 +276,7 @@ TEST_F(SpecialA, HandsAllBackWhenItCloses)
     app.WspecAheight = 450;
     Open(original);
     EXPECT_EQ(window->Height(), 450);
-    window->ListboxRR.AddRow({U"s", U"r1", U"r\t\n2"});
+    window->ListboxRR.InsertRows(1, {{U"s", U"r1", U"r2"}});
     window->TextFieldDest2.SetText(U"two\twords");
     window->SetHeight(500);
     Fncts::DrapMenu = false;
@@ -274,7 +290,7 @@ TEST_F(SpecialA, HandsAllBackWhenItCloses)
     EXPECT_EQ(app.WspecAheight, 500);
     EXPECT_EQ(app.PathSpecA, Fncts::AbsPath_f(FolderItem(original), true));
     EXPECT_EQ(app.TabSpecAorg, (std::vector<String>{U"original.txt", U"a", U"s"}));
-    EXPECT_EQ(app.TabSpecAdest2, (std::vector<String>{U"two words", U"2", U"r  2"})) << "no tab, no line end";
+    EXPECT_EQ(app.TabSpecAdest2, (std::vector<String>{U"two words", U"2", U"r2"})) << "no tab";
     app.WspecAheight = 900;
     Open();
     EXPECT_EQ(window->Height(), 400) << "no room on the screen";
