@@ -132,6 +132,8 @@ inline constexpr Text Txt_PlusDsResultat{U"Txt_PlusDsResultat",
 inline constexpr Text Txt_LignesVides{U"Txt_LignesVides",
     U"Lignes vides : ¿% dans le fichier initial, ¿% dans le fichier final."};
 inline constexpr Text Btn_Cont{U"Btn_Cont", U"Continuer"};
+inline constexpr Text Txt_TexteModifie{U"Txt_TexteModifie",
+    U"Le texte a été modifié et n'est pas enregistré. Continuer sans enregistrer ?"};
 inline constexpr Text Txt_TxtAreaPasScenPack{U"Txt_TxtAreaPasScenPack",
     U"Le TextArea ne contient pas de scenery_packs."};
 inline constexpr Text Txt_PasAncFichAsauv{U"Txt_PasAncFichAsauv", U"Il n'y a pas d'ancien fichier à sauvegarder."};

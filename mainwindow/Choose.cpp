@@ -72,22 +72,19 @@ std::function<void(const FolderItem& item)> WinMain::IfUsable(void (WinMain::*ta
 /// A new file: what a run made of the old one goes.
 void WinMain::TakeModel(const FolderItem& item)
 {
-    TextFieldMod1.SetText(Fncts::AbsPath_f(item, true));
-    texts_.InitVars(true, false);
-    AffArea();
+    if (Forget({rowModel, rowDest})) TextFieldMod1.SetText(Fncts::AbsPath_f(item, true));
 }
 
 void WinMain::TakeSpack(const FolderItem& item)
 {
-    TextFieldSpack.SetText(Fncts::AbsPath_f(item, true));
-    texts_.InitVars(false, true);
-    AffArea();
+    if (Forget({rowSource, rowDest})) TextFieldSpack.SetText(Fncts::AbsPath_f(item, true));
 }
 
 void WinMain::TakeArchiveFolder(const FolderItem& item) { TextFieldArchiv.SetText(Fncts::AbsPath_f(item, true)); }
 
 void WinMain::BtnAffDoss_Pressed()
 {
+    ReturnFocus(BtnAffDoss);
     if (TextAreaAff.SelectionLength() == 0) SelLigneEnt();
     const String name(RetScenLigne(TextAreaAff.SelectedText()));
     if (name.empty()) return Fncts::BeepNbT(1);

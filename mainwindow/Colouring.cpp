@@ -2,32 +2,14 @@
 
 #include "engine/SceneryText.h"
 
-namespace {
-
-void MarkLine(Colours& colours, StringView text, Int64 jNbre)
+std::vector<ColorSpan> ColourKeywords(StringView line)
 {
-    const Int64 kNbre = jNbre < std::ssize(text) ? IndexOf(text, TxtEoF, jNbre) + 1 : -1;
-    if (jNbre < kNbre)
-        colours.spans.push_back({jNbre, kNbre - jNbre, Colouring::MarkedLine});
-    else
-        colours.badMarks.push_back({jNbre, kNbre});
-}
-
-void ColourKeyword(Colours& colours, StringView text, StringView keyword, ColorGroup color)
-{
-    const Int64 length = std::ssize(keyword);
-    for (Int64 found = IndexOf(text, keyword); found >= 0; found = IndexOf(text, keyword, found + length))
-        colours.spans.push_back({found, length, color});
-}
-
-} // namespace
-
-Colours ColourText(StringView text, std::span<const Int64> marks)
-{
-    Colours colours;
-    for (const Int64 mark : marks)
-        MarkLine(colours, text, mark);
-    ColourKeyword(colours, text, DisabledPrefix, Colouring::DisabledKeyword);
-    ColourKeyword(colours, text, EnabledPrefix, Colouring::EnabledKeyword);
-    return colours;
+    constexpr StringView start = U"SCENERY_PACK"; // of both keywords
+    std::vector<ColorSpan> spans;
+    for (Int64 at = IndexOf(line, start); at >= 0; at = IndexOf(line, start, at + std::ssize(start)))
+        for (const LineState state : {LineState::Disabled, LineState::Enabled})
+            if (BeginsWith(Middle(line, at), PrefixOf(state)))
+                spans.push_back({at, std::ssize(PrefixOf(state)),
+                                 state == LineState::Enabled ? Colouring::EnabledKeyword : Colouring::DisabledKeyword});
+    return spans;
 }

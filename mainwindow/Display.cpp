@@ -1,73 +1,58 @@
-#include "app/App.h"
-#include "mainwindow/Colouring.h"
-#include "mainwindow/ReportSeries.h"
+#include "localisation/Localisation.h"
 #include "mainwindow/WinMain.h"
+#include "support/Diagnostics.h"
+#include "support/DialogHelpers.h"
 #include "support/Sounds.h"
-#include "toolkit/Dialogs.h"
 
-namespace {
-
-String MarkMessage(const BadMark& mark)
-{
-    return U"Error ! Please contact the authors.\nAffArea :\njNbre = " + ToText(mark.jNbre) + U"\nkNbre = " +
-           ToText(mark.kNbre);
-}
-
-} // namespace
-
-String* WinMain::TextOfRow(int row)
-{
-    switch (row) {
-    case rowModel:
-        return &texts_.TextModel;
-    case rowSource:
-        return &texts_.TextSrcSpack;
-    case rowDest:
-        return &texts_.TextDestSpack;
-    default:
-        return nullptr;
-    }
-}
+#include <algorithm>
 
 void WinMain::PopMenuAff_SelectionChanged()
 {
-    if (String* edited = TextOfRow(static_cast<int>(MemPopMaff)))
-        *edited = TextAreaAff.Text();
-    else
-        MessageBox(U"Error ! Please contact the authors.\nMemPopMaff, Which Selection ?");
     AffArea();
-    // Last: what was edited belongs to the row that was on screen.
-    MemPopMaff = PopMenuAff.SelectedRowIndex();
+    // A view picked by the mouse is to be read or edited; the Tab key leads to the popup, and there the arrow keys on.
+    if (Focus() != &PopMenuAff) TextAreaAff.SetFocus();
+}
+
+void WinMain::AffArea()
+{
+    const int row = PopMenuAff.SelectedRowIndex();
+    if (row < rowModel || row > rowDest) {
+        Fncts::BeepNbT(3);
+        return TellAuthorsShortly(U"PopMenuAff, Which Selection ?");
+    }
+    TextAreaAff.SetDocument(Document(row));
     TextAreaAff.SetAccessibleName(PopMenuAff.SelectedRowText());
 }
 
-void WinMain::AffArea() { ShowRow(&DesktopTextArea::SetStyledText); }
-
-void WinMain::ShowRow(Shower shower)
+void WinMain::ShowRun(const SceneryTexts& texts)
 {
-    switch (PopMenuAff.SelectedRowIndex()) {
-    case rowModel:
-        return ShowText(texts_.TextModel, texts_.CoulModSpack, shower);
-    case rowSource:
-        return ShowText(texts_.TextSrcSpack, {}, shower);
-    case rowDest:
-        return ShowText(texts_.TextDestSpack, texts_.CoulDestSpack, shower);
-    default:
-        TextAreaAff.SetText({});
-        Fncts::BeepNbT(3);
-        MessageBox(U"Error ! Please contact the authors.\nPopMenuAff, Which Selection ?");
-    }
+    Document(rowModel).ReplaceText(texts.TextModel, texts.CoulModSpack);
+    Document(rowSource).ReplaceText(texts.TextSrcSpack);
+    Document(rowDest).ReplaceText(texts.TextDestSpack, texts.CoulDestSpack);
+    for (TextDocument& document : documents_)
+        document.SetUnmodified();
 }
 
-void WinMain::ShowText(StringView text, std::span<const Int64> marks, Shower shower)
+bool WinMain::Forget(std::initializer_list<int> rows)
 {
-    const Colours colours = ColourText(text, marks);
-    (TextAreaAff.*shower)(text, colours.spans);
-    ReportSeries messages([](const String& message, const String&) {
-        Fncts::BeepNbT(3);
-        MessageBox(message);
-    });
-    for (const BadMark& mark : colours.badMarks)
-        messages.Add(MarkMessage(mark));
-    messages.Finish();
+    if (!AsksToLose(rows)) return false;
+    for (const int row : rows)
+        Document(row).SetText({});
+    return true;
+}
+
+bool WinMain::AsksToLose(std::initializer_list<int> rows)
+{
+    using namespace Localisation;
+    if (std::ranges::none_of(rows, [this](int row) { return Document(row).Modified(); })) return true;
+    constexpr Int16 goesOn = 3;
+    Fncts::BeepNbT(1);
+    return Fncts::MyDialogBox(
+               {.message = Txt_TexteModifie(), .btnAction = Btn_Annuler(), .btnAlternate = Btn_Cont(), .win = this}) ==
+           goesOn;
+}
+
+void WinMain::ReturnFocus(const DesktopUIControl& button)
+{
+    if (Focus() != &button) TextAreaAff.SetFocus();
 }

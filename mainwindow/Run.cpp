@@ -30,16 +30,19 @@ void WinMain::BtnRun_Pressed()
         App::Current().EnableMenuBoutons(false);
         TimerDebRun.SetRunMode(Timer::RunModes::Single);
     } else {
+        TimerDebRun.SetRunMode(Timer::RunModes::Off);
         URLCnctLirePage.Disconnect();
-        texts_.InitVars(true, false);
-        AffArea();
+        SceneryTexts nothing;
+        // Stopped before it began, a run has not touched the source.
+        if (!DrapRun) nothing.TextSrcSpack = Document(rowSource).Text();
+        ShowRun(nothing);
         EndRun();
     }
 }
 
 void WinMain::TimerDebRun_Action()
 {
-    texts_.InitVars(true, true);
+    DrapRun = true;
     if (RadGrpSrc.SelectedIndex() == 0)
         return RunSuite(Fncts::LireFichier(Fncts::GetFitemAbsPath(TextFieldMod1.Text(), false)));
     const String url = TextFieldMod2.Text();
@@ -51,32 +54,34 @@ void WinMain::TimerDebRun_Action()
 
 void WinMain::RunSuite(String model)
 {
-    texts_.TextModel = std::move(model);
-    bool failed = Refuses(texts_.TextModel);
+    SceneryTexts texts;
+    texts.TextModel = std::move(model);
+    bool failed = Refuses(texts.TextModel);
     const std::optional<FolderItem> spack = Fncts::GetFitemAbsPath(TextFieldSpack.Text(), false);
-    texts_.TextSrcSpack = Fncts::LireFichier(spack);
-    failed = Refuses(texts_.TextSrcSpack) || failed;
+    texts.TextSrcSpack = Fncts::LireFichier(spack);
+    failed = Refuses(texts.TextSrcSpack) || failed;
     if (failed) {
         Fncts::BeepNbT(1);
-        texts_.TextDestSpack = ErrorMarker;
+        texts.TextDestSpack = ErrorMarker;
     } else {
-        Reorder(*spack->Parent());
+        Reorder(texts, *spack->Parent());
     }
-    AffArea();
+    ShowRun(texts);
     EndRun();
 }
 
 void WinMain::EndRun()
 {
+    DrapRun = false;
     App::Current().EnableMenuBoutons(true);
     // A disabled text area has lost the focus that it got when the run began.
     TextAreaAff.SetFocus();
 }
 
-void WinMain::Reorder(const FolderItem& dossier)
+void WinMain::Reorder(SceneryTexts& texts, const FolderItem& dossier)
 {
     ReportSeries reports([this](const String& message, const String& explanation) { Tell(message, explanation); });
-    CreerSpack(texts_, dossier,
+    CreerSpack(texts, dossier,
                [&reports](const String& message, const String& explanation) { reports.Add(message, explanation); });
     reports.Finish();
 }

@@ -34,10 +34,9 @@ void WinMain::ActSaveFile()
     std::optional<FolderItem> archiveFolder;
     if (!DecideOnArchive(*target, archiveFolder) || !ConfirmsSave(*target)) return;
     if (archiveFolder && !Archive(*target, *archiveFolder, moment)) return;
-    if (Fncts::SauvFichier(*target, text))
-        Fncts::PlayT(Fncts::_x_Msg::Msg());
-    else
-        Tell(Txt_ErreurEcrNouvScen());
+    if (!Fncts::SauvFichier(*target, text)) return Tell(Txt_ErreurEcrNouvScen());
+    Document(PopMenuAff.SelectedRowIndex()).SetUnmodified();
+    Fncts::PlayT(Fncts::_x_Msg::Msg());
 }
 
 bool WinMain::DecideOnArchive(const FolderItem& target, std::optional<FolderItem>& folder)

@@ -1,7 +1,7 @@
 #include "mainwindow/Toggling.h"
 #include "mainwindow/WinMain.h"
+#include "support/Diagnostics.h"
 #include "toolkit/Desktop.h"
-#include "toolkit/Dialogs.h"
 
 namespace {
 
@@ -18,23 +18,21 @@ ToggleMode ModeOfKeys()
 void WinMain::BtnEnabDis_Pressed()
 {
     const ToggleMode mode = ModeOfKeys();
-    const String text = TextAreaAff.Text();
-    if (const Int64 position = IndexOf(text, EndOfLine::CR); position >= 0)
-        MessageBox(U"Error ! Please contact the authors.\nBtnEnabDis, TpEof is used in the Text !\nPos = " +
-                   ToText(position));
-    const Selection selection{TextAreaAff.SelectionStart(), TextAreaAff.SelectionLength()};
-    std::optional<Toggled> toggled = ToggleLines(text, selection, mode);
+    ReturnFocus(BtnEnabDis);
+    if (const Int64 position = TextAreaAff.FirstReturn(); position >= 0)
+        TellAuthorsShortly(U"BtnEnabDis, TpEof is used in the Text !\nPos = " + ToText(position));
+    const auto [first, text] = TextAreaAff.SelectedLines();
+    std::optional<Toggled> toggled =
+        ToggleLines(text, {TextAreaAff.SelectionStart() - first, TextAreaAff.SelectionLength()}, mode);
     if (!toggled) return;
-    if (String* shown = TextOfRow(PopMenuAff.SelectedRowIndex()))
-        *shown = std::move(toggled->text);
-    else
-        MessageBox(U"Error ! Please contact the authors.\nBtnEnabDis, Which Selection in PopMenuAff ?");
-    ShowRow(&DesktopTextArea::ReplaceStyledText);
-    TextAreaAff.Select(toggled->selection.start, toggled->selection.length);
+    for (TextChange& change : toggled->changes)
+        change.start += first;
+    TextAreaAff.Change(toggled->changes, toggled->selection.start + first, toggled->selection.length);
 }
 
 void WinMain::SelLigneEnt()
 {
-    const Selection line = LineAround(TextAreaAff.Text(), TextAreaAff.SelectionStart());
-    TextAreaAff.Select(line.start, line.length);
+    const auto [first, text] = TextAreaAff.SelectedLines();
+    const Selection line = LineAround(text, TextAreaAff.SelectionStart() - first);
+    TextAreaAff.Select(line.start + first, line.length);
 }

@@ -4,34 +4,14 @@
 
 namespace {
 
-/// A line end, and the keyword behind it as the mode changes it, or nothing behind it that changes.
-struct Change {
-    Int64 length = 0;
-    StringView keyword;
-};
-
-Change ChangeAt(StringView keywordAndRest, ToggleMode mode)
+/// What a line begins with and what comes in its place, or nothing for a line that doesn't change.
+std::optional<TextChange> ChangeOf(StringView line, Int64 start, ToggleMode mode)
 {
-    if (mode != ToggleMode::Disable && BeginsWith(keywordAndRest, DisabledPrefix))
-        return {std::ssize(DisabledPrefix), EnabledPrefix};
-    if (mode != ToggleMode::Enable && BeginsWith(keywordAndRest, EnabledPrefix))
-        return {std::ssize(EnabledPrefix), DisabledPrefix};
+    if (mode != ToggleMode::Disable && BeginsWith(line, DisabledPrefix))
+        return TextChange{start, std::ssize(DisabledPrefix), String(EnabledPrefix)};
+    if (mode != ToggleMode::Enable && BeginsWith(line, EnabledPrefix))
+        return TextChange{start, std::ssize(EnabledPrefix), String(DisabledPrefix)};
     return {};
-}
-
-/// `range` with the keyword behind each of its line ends changed.
-String ChangeKeywords(StringView range, ToggleMode mode)
-{
-    String changed;
-    changed.reserve(range.size());
-    for (Int64 from = 0;;) {
-        const Int64 lineEnd = IndexOf(range, TxtEoF, from);
-        if (lineEnd < 0) return changed.append(Middle(range, from));
-        const Int64 keyword = lineEnd + LgTxtEoF;
-        const Change change = ChangeAt(Middle(range, keyword), mode);
-        changed.append(Middle(range, from, keyword - from)).append(change.keyword);
-        from = keyword + change.length;
-    }
 }
 
 bool LineEndBefore(StringView text, Int64 position)
@@ -58,12 +38,17 @@ std::optional<Toggled> ToggleLines(StringView text, Selection selection, ToggleM
     if (selection.length <= 0) return {};
 
     // The line end before the selection brings its first line in.
-    const Int64 drawnIn = selection.start > LgTxtEoF && LineEndBefore(text, selection.start) ? LgTxtEoF : 0;
-    const Int64 start = selection.start - drawnIn;
+    const bool drawnIn = selection.start > LgTxtEoF && LineEndBefore(text, selection.start);
     const Int64 end = selection.start + selection.length;
-    const String changed = ChangeKeywords(Middle(text, start, end - start), mode);
-
-    String whole(Left(text, start));
-    whole.append(changed).append(Middle(text, end));
-    return Toggled{std::move(whole), {selection.start, std::ssize(changed) - drawnIn}};
+    const StringView selected = Left(text, end);
+    Toggled toggled{{}, selection};
+    for (Int64 lineEnd = IndexOf(selected, TxtEoF, selection.start - (drawnIn ? LgTxtEoF : 0)); lineEnd >= 0;
+         lineEnd = IndexOf(selected, TxtEoF, lineEnd + LgTxtEoF)) {
+        const Int64 start = lineEnd + LgTxtEoF;
+        std::optional<TextChange> change = ChangeOf(Middle(selected, start), start, mode);
+        if (!change) continue;
+        toggled.selection.length += std::ssize(change->text) - change->length;
+        toggled.changes.push_back(std::move(*change));
+    }
+    return toggled;
 }

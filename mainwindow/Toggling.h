@@ -1,7 +1,7 @@
 /// Enabling and disabling pack lines of a text.
 #pragma once
 
-#include "toolkit/core/Text.h"
+#include "toolkit/TextDocument.h"
 
 /// A range of characters; a length of 0 is a caret.
 struct Selection {
@@ -23,13 +23,14 @@ enum class ToggleMode {
 };
 
 struct Toggled {
-    String text;
-    /// The same lines as before, as long as they are now.
+    /// The keywords that become others, in order.
+    std::vector<TextChange> changes;
+    /// The same lines as before, as long as they are then.
     Selection selection;
 };
 
-/// The text with the pack lines that start in the selection changed; a caret stands for its line (`LineAround`).
-/// Nothing when no character is selected even so.
+/// How the pack lines change that start in the selection; a caret stands for its line (`LineAround`). Nothing when no
+/// character is selected even so.
 ///
 /// A keyword counts at the start of a line alone, and its line end before it must be there: the first line of a text
 /// never changes, and neither does a line that is selected from its middle on. Case is ignored, and a changed keyword

@@ -18,6 +18,8 @@
 #include "support/TextHelpers.h"
 #include "toolkit/Desktop.h"
 
+#include <algorithm>
+
 using namespace Localisation;
 
 namespace {
@@ -111,6 +113,11 @@ void WinMain::Tell(StringView message, StringView explanation)
 
 void WinMain::BindHandlers()
 {
+    for (TextDocument& document : documents_)
+        document.ModifiedChanged = [this] { SetModified(std::ranges::any_of(documents_, &TextDocument::Modified)); };
+    for (DesktopUIControl* const control :
+         std::initializer_list<DesktopUIControl*>{&BtnEnabDis, &BtnAffDoss, &BtnSave, &PopMenuAff})
+        control->SetFocusByTabAlone();
     Opening = [this] { Event_Opening(); };
     CancelClosing = [this](bool appQuitting) { return Event_CancelClosing(appQuitting); };
     Activated = [this] {
@@ -200,11 +207,9 @@ void WinMain::Event_Opening()
     if (const String failure = StartFailure(); !failure.empty()) return RefuseStart(failure);
     PrefsCharger();
     SegButtSpecA.SetVisible(App::Current().DrapAffBtnSpecA);
-    texts_.InitVars(true, true);
     Fncts::AinitProg = true;
     App::Current().EnableMenuBoutons(true);
-    MemPopMaff = PopMenuAff.SelectedRowIndex();
-    TextAreaAff.SetAccessibleName(PopMenuAff.SelectedRowText());
+    AffArea();
     TextAreaAff.SetFocus();
 }
 
@@ -241,6 +246,7 @@ bool WinMain::Event_CancelClosing(bool appQuitting)
         return true;
     }
     if (!appQuitting) {
+        if (!AsksToLose({rowModel, rowSource, rowDest})) return true;
         if (SegButtSpecA.Selected(0) && winSpecA_) winSpecA_->Close();
         if (Fncts::AinitProg) PrefsSauver();
         App::Current().DrapOkQuit = true;

@@ -2,10 +2,13 @@
 #pragma once
 
 #include "engine/SceneryTexts.h"
+#include "mainwindow/Colouring.h"
 #include "support/Covers.h"
 #include "toolkit/DesktopTextArea.h"
 #include "toolkit/Timer.h"
 #include "toolkit/URLConnection.h"
+
+#include <array>
 
 class WinAide;
 class WinPrefs;
@@ -15,9 +18,13 @@ struct DateTime;
 /// The window on which everything is done: it names the model and the scenery_packs.ini, runs, and shows and edits the
 /// three texts.
 ///
-/// The controls hold the settings; a path is kept as text in its field and turned into a file at each use. An edit
-/// lives in the text area until another view is chosen.
+/// The controls hold the settings; a path is kept as text in its field and turned into a file at each use. The three
+/// texts live in documents, of which the text area shows one.
 class WinMain final : public DesktopWindow {
+    /// By row; the text area, which shows one of them, goes first.
+    std::array<TextDocument, 3> documents_{TextDocument(SceneryColours()), TextDocument(SceneryColours()),
+                                           TextDocument(SceneryColours())};
+
 public:
     WinMain();
     ~WinMain() override;
@@ -74,7 +81,7 @@ public:
 
     // Display.cpp
     void PopMenuAff_SelectionChanged();
-    /// Shows the text of the selected row, coloured, and drops what was edited in the text area.
+    /// Shows the document of the selected row.
     void AffArea();
 
 private:
@@ -102,7 +109,7 @@ private:
     // Run.cpp
     /// The second half of a run, wherever the model came from.
     void RunSuite(String model);
-    void Reorder(const FolderItem& dossier);
+    void Reorder(SceneryTexts& texts, const FolderItem& dossier);
     void EndRun();
 
     // Save.cpp
@@ -128,18 +135,20 @@ private:
 
     // Display.cpp
     static constexpr int rowModel = 0, rowSource = 1, rowDest = 2;
-    /// The working text that a row of the popup shows, or null for another row.
-    String* TextOfRow(int row);
-    using Shower = void (DesktopTextArea::*)(StringView text, std::span<const ColorSpan> colors);
-    /// `AffArea` with another way for the text area to show a text: `ReplaceStyledText` makes it a step to undo.
-    void ShowRow(Shower shower);
-    void ShowText(StringView text, std::span<const Int64> marks, Shower shower);
+    TextDocument& Document(int row) { return documents_.at(static_cast<std::size_t>(row)); }
+    /// Hands the texts of a run over to the documents, each as one step that can be taken back.
+    void ShowRun(const SceneryTexts& texts);
+    /// Empties documents for good, unless the user wants to keep what was edited there.
+    bool Forget(std::initializer_list<int> rows);
+    /// Whether the edits in these documents may go; asks only when there are any.
+    bool AsksToLose(std::initializer_list<int> rows);
+    /// After a press by the mouse the keyboard is the text's again; a button that the Tab key led to keeps it.
+    void ReturnFocus(const DesktopUIControl& button);
 
-    SceneryTexts texts_;
     // The other windows, from an opening to the next.
     std::unique_ptr<WinAide> winAide_;
     std::unique_ptr<WinPrefs> winPrefs_;
     std::unique_ptr<WinSpecA> winSpecA_;
-    /// The row whose text stands in the text area.
-    Int64 MemPopMaff = -1;
+    /// A run has begun: the timer behind the press has fired.
+    bool DrapRun = false;
 };

@@ -1,46 +1,64 @@
 /// An editable text of many lines, with colours.
 #pragma once
 
-#include "toolkit/Color.h"
 #include "toolkit/DesktopUIControl.h"
+#include "toolkit/TextDocument.h"
 
-#include <memory>
-
-/// Black on white in every appearance, grey while it is disabled; wraps at its width, and scrolls vertically.
+/// Black on white in every appearance, grey while it is disabled; wraps at its width, and scrolls vertically. Ctrl with
+/// the wheel, plus, minus and 0 zoom it.
 ///
-/// It gives back exactly the characters that it was given, whatever they are. All positions count characters, the only
-/// place where they meet the 16-bit units of Qt is inside this class.
+/// It shows a document of its own until it is given another. All positions count characters of the document on screen.
 class DesktopTextArea : public DesktopUIControl {
 public:
-    /// `fontSize` in points of the layout, 0 for the system's size.
+    /// `fontSize` in points of the layout, 0 for the desktop's size.
     DesktopTextArea(DesktopWindow& window, const Placement& placement, int fontSize = 0);
     ~DesktopTextArea() override;
 
-    [[nodiscard]] String Text() const;
-    /// Shows a text in black; the caret goes to offset 0, with nothing selected.
-    void SetText(StringView text);
-    /// Shows a text with colours: of spans that overlap the later one wins, what none covers is black. The caret goes
-    /// to offset 0, with nothing selected, and what is typed next is black.
-    void SetStyledText(StringView text, std::span<const ColorSpan> colors);
-    /// The same as a step that the user can undo, which brings back the former text with its colours and the caret.
-    /// What is scrolled stays so.
-    void ReplaceStyledText(StringView text, std::span<const ColorSpan> colors);
+    /// Shows a document, with its caret and where it was scrolled to. It must live as long as it is shown.
+    void SetDocument(TextDocument& document);
 
+    [[nodiscard]] String Text() const;
+    void SetText(StringView text);
     /// A text that can only be read has no caret, and the mouse wheel and the keys scroll it.
     void SetReadOnly(bool readOnly);
 
     [[nodiscard]] Int64 SelectionStart() const;
     [[nodiscard]] Int64 SelectionLength() const;
     [[nodiscard]] String SelectedText() const;
-    /// Selects characters, as far as the text has them; a length of 0 sets the caret.
+    /// Selects characters, as far as the text has them; a length of 0 sets the caret. What is scrolled stays so.
     void Select(Int64 start, Int64 length);
 
-    /// The line on screen, counted from 0, in which a character stands; a wrapped line counts as several.
-    [[nodiscard]] Int64 LineNumber(Int64 position) const;
-    /// Scrolls until that line is at the top, or as far as the text goes.
-    void SetVerticalScrollPosition(Int64 line);
+    /// Offset of the first CR, or -1.
+    [[nodiscard]] Int64 FirstReturn() const;
+
+    struct Passage {
+        Int64 start;
+        String text;
+    };
+    /// The whole lines that the selection or the caret touches, with the two characters before them.
+    [[nodiscard]] Passage SelectedLines() const;
+
+    /// Ascending changes, none overlapping, as one step to undo, or none where there is no change; then selects. What
+    /// is scrolled stays so, also when the step is undone or redone.
+    void Change(std::span<const TextChange> changes, Int64 start, Int64 length);
+
+    /// Each one step to undo on the lines that the selection or the caret touches; colours, selection and what is
+    /// scrolled stay. False where nothing can be done, such as moving into or from the first `fixedLines` lines.
+    bool MoveLines(bool down, Int64 fixedLines);
+    bool DoubleLines();
+    bool DeleteLines();
+
+    /// Scrolls until the line on screen of a character stands `linesAbove` lines below the top, or as far as the text
+    /// goes. A wrapped line counts as several.
+    void ScrollTo(Int64 position, Int64 linesAbove);
+
+    enum class Jump { None, Ahead, Around };
+    /// Sets the caret to the next or previous line that shows a mark, `linesAbove` lines below the top; past the end of
+    /// the text it goes on at the other one.
+    Jump GoToMark(bool forward, Int64 linesAbove);
 
 private:
-    class Editor;
-    Editor& editor() const;
+    class TextEditor& editor() const;
+
+    TextDocument own_;
 };

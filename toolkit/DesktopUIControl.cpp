@@ -56,6 +56,8 @@ bool DesktopUIControl::TakesInput() const { return window_.TakesInput(); }
 
 void DesktopUIControl::SetFocus() { widget_->setFocus(); }
 
+void DesktopUIControl::SetFocusByTabAlone() { widget_->setFocusPolicy(Qt::TabFocus); }
+
 void DesktopUIControl::Apply()
 {
     // A control that begins in the content is drawn to its end, even where its placement is a point too high.

@@ -60,6 +60,8 @@ public:
     void SetAccessibleName(StringView name);
 
     void SetFocus();
+    /// A press by the mouse leaves the focus where it is.
+    void SetFocusByTabAlone();
     [[nodiscard]] DesktopWindow& Parent() const { return window_; }
     /// Whether an act of the user counts; see `DesktopWindow::TakesInput`.
     [[nodiscard]] bool TakesInput() const;

@@ -100,7 +100,7 @@ DesktopWindow::Shell::Shell(DesktopWindow& owner, const WindowStyle& style)
     , menuBar_(style.hasMenuBar ? DesktopApplication::MakeMenuBar(owner, this) : nullptr)
 {
     QAccessible::installFactory(&Announce);
-    setWindowTitle(ToQt(style.title));
+    setWindowTitle(ToQt(style.title) + QStringLiteral("[*]"));
     if (style.movableModal) setWindowModality(Qt::ApplicationModal);
     SetControlFont(*content);
     content->setMinimumSize(style.resizable ? QSize(style.minimumWidth, style.minimumHeight)
@@ -194,7 +194,9 @@ DesktopWindow* DesktopWindow::Front()
     return visible != All().end() ? *visible : nullptr;
 }
 
-String DesktopWindow::Title() const { return FromQt(shell_->windowTitle()); }
+String DesktopWindow::Title() const { return FromQt(shell_->windowTitle().remove(QStringLiteral("[*]"))); }
+
+void DesktopWindow::SetModified(bool modified) { shell_->setWindowModified(modified); }
 
 int DesktopWindow::MinimumWidth() const { return shell_->content->minimumWidth(); }
 

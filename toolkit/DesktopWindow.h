@@ -33,6 +33,8 @@ public:
     static const std::vector<DesktopWindow*>& All() { return all_; }
 
     [[nodiscard]] String Title() const;
+    /// Shows that the window holds what is not saved yet, as the platform does.
+    void SetModified(bool modified);
     [[nodiscard]] int MinimumWidth() const;
     [[nodiscard]] int MinimumHeight() const;
 

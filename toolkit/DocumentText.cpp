@@ -7,20 +7,26 @@
 
 namespace {
 
+/// What stands for a CR: before a LF a character that is drawn as nothing, elsewhere one that breaks the line.
+constexpr char16_t endingReturn = 0x206F, loneReturn = QChar::LineSeparator;
 /// The last two are what Qt marks the bounds of frames with.
-constexpr char32_t carried[] = {U'\r', 0x2028, 0x2029, 0xFDD0, 0xFDD1};
+constexpr char32_t carried[] = {endingReturn, loneReturn, QChar::ParagraphSeparator, 0xFDD0, 0xFDD1};
 constexpr char16_t firstCarrier = 0xD800;
 
-bool IsCarried(char16_t unit) { return std::ranges::find(carried, unit) != std::end(carried); }
-
 } // namespace
+
+bool IsReturn(QChar unit) { return unit == endingReturn || unit == loneReturn; }
 
 QString ToDocument(StringView text)
 {
     QString units = ToQt(text);
-    for (QChar& unit : units)
-        if ((unit == u'\r' || unit.unicode() >= 0x2028) && IsCarried(unit.unicode()))
-            unit = QChar(static_cast<char16_t>(firstCarrier + (std::ranges::find(carried, unit.unicode()) - carried)));
+    for (qsizetype i = 0; i < units.size(); ++i) {
+        QChar& unit = units[i];
+        if (unit == u'\r')
+            unit = QChar(i + 1 < units.size() && units[i + 1] == u'\n' ? endingReturn : loneReturn);
+        else if (const auto* at = std::ranges::find(carried, unit.unicode()); at != std::end(carried))
+            unit = QChar(static_cast<char16_t>(firstCarrier + (at - carried)));
+    }
     return units;
 }
 
@@ -30,8 +36,10 @@ String FromDocument(QStringView units)
     text.reserve(static_cast<std::size_t>(units.size()));
     for (qsizetype i = 0; i < units.size(); ++i) {
         const char16_t unit = units[i].unicode();
-        if (unit == QChar::ParagraphSeparator || unit == QChar::LineSeparator) {
+        if (unit == QChar::ParagraphSeparator) {
             text += U'\n';
+        } else if (IsReturn(QChar(unit))) {
+            text += U'\r';
         } else if (!QChar::isSurrogate(unit)) {
             text += unit;
         } else if (i + 1 < units.size() && units[i + 1].isLowSurrogate()) {

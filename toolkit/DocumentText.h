@@ -6,10 +6,14 @@
 #include <QString>
 #include <QTextOption>
 
-/// A text for insertion into a document. LF stands for itself and begins a new block. The other characters that Qt
-/// takes for the end of a block or a line become halves of pairs that can't stand in a valid text; Qt shows such a half
-/// like a character that the font doesn't have.
+/// A text for insertion into a document. LF stands for itself and begins a new block. A CR before a LF is drawn as
+/// nothing, another one breaks the line within its block. The other characters that Qt takes for the end of a block or
+/// a line become halves of pairs that can't stand in a valid text; Qt shows such a half like a character that the font
+/// doesn't have.
 QString ToDocument(StringView text);
+
+/// Whether a unit of a document stands for a CR.
+bool IsReturn(QChar unit);
 
 /// The text that a document, or a selection of it, stands for.
 String FromDocument(QStringView units);

@@ -1,5 +1,7 @@
 #include "toolkit/EditCommands.h"
 
+#include "toolkit/TextEditor.h"
+
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -28,13 +30,19 @@ State StateOf(const QWidget* control)
 void Clear(QLineEdit& field) { field.del(); }
 void Clear(QPlainTextEdit& area) { area.textCursor().removeSelectedText(); }
 
+void Travel(QLineEdit& field, bool forth) { forth ? field.redo() : field.undo(); }
+void Travel(QPlainTextEdit& area, bool forth)
+{
+    if (auto* const editor = dynamic_cast<TextEditor*>(&area)) editor->Travel(forth);
+}
+
 void EditText(EditCommand command, auto& control)
 {
     switch (command) {
     case EditCommand::Undo:
-        return control.undo();
+        return Travel(control, false);
     case EditCommand::Redo:
-        return control.redo();
+        return Travel(control, true);
     case EditCommand::Cut:
         return control.cut();
     case EditCommand::Copy:

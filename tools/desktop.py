@@ -127,7 +127,7 @@ class Program:
 
         def found():
             shown = self.windows(dialogs=False)
-            return next((window for window in shown if self.front in (None, window.get_name())), None)
+            return next((window for window in shown if self.front in (None, window.get_name().rstrip("*"))), None)
 
         return self.wait_for(f"a window {self.front or ''}", found)
 

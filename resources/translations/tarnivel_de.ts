@@ -356,6 +356,10 @@ Packs nachher</translation>
         <source>Continuer</source>
         <translation>Fortfahren</translation>
     </message>
+    <message id="Localisation.Txt_TexteModifie">
+        <source>Le texte a été modifié et n'est pas enregistré. Continuer sans enregistrer ?</source>
+        <translation>Der Text wurde geändert und nicht gesichert. Ohne Sichern fortfahren?</translation>
+    </message>
     <message id="Localisation.Txt_TxtAreaPasScenPack">
         <source>Le TextArea ne contient pas de scenery_packs.</source>
         <translation>Der Textbereich enthält keine scenery_packs.</translation>

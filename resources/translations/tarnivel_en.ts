@@ -356,6 +356,10 @@ Packs after</translation>
         <source>Continuer</source>
         <translation>Continue</translation>
     </message>
+    <message id="Localisation.Txt_TexteModifie">
+        <source>Le texte a été modifié et n'est pas enregistré. Continuer sans enregistrer ?</source>
+        <translation>The text has been edited and not saved. Go on without saving?</translation>
+    </message>
     <message id="Localisation.Txt_TxtAreaPasScenPack">
         <source>Le TextArea ne contient pas de scenery_packs.</source>
         <translation>The text area does not hold a scenery_packs.</translation>

@@ -356,6 +356,10 @@ Packs después</translation>
         <source>Continuer</source>
         <translation>Continuar</translation>
     </message>
+    <message id="Localisation.Txt_TexteModifie">
+        <source>Le texte a été modifié et n'est pas enregistré. Continuer sans enregistrer ?</source>
+        <translation>El texto se ha modificado y no se ha guardado. ¿Continuar sin guardar?</translation>
+    </message>
     <message id="Localisation.Txt_TxtAreaPasScenPack">
         <source>Le TextArea ne contient pas de scenery_packs.</source>
         <translation>El área de texto no contiene un scenery_packs.</translation>

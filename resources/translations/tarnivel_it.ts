@@ -356,6 +356,10 @@ Pack dopo</translation>
         <source>Continuer</source>
         <translation>Continua</translation>
     </message>
+    <message id="Localisation.Txt_TexteModifie">
+        <source>Le texte a été modifié et n'est pas enregistré. Continuer sans enregistrer ?</source>
+        <translation>Il testo è stato modificato e non salvato. Continuare senza salvare?</translation>
+    </message>
     <message id="Localisation.Txt_TxtAreaPasScenPack">
         <source>Le TextArea ne contient pas de scenery_packs.</source>
         <translation>L'area di testo non contiene uno scenery_packs.</translation>

@@ -356,6 +356,10 @@ Packs na</translation>
         <source>Continuer</source>
         <translation>Doorgaan</translation>
     </message>
+    <message id="Localisation.Txt_TexteModifie">
+        <source>Le texte a été modifié et n'est pas enregistré. Continuer sans enregistrer ?</source>
+        <translation>De tekst is gewijzigd en niet bewaard. Doorgaan zonder te bewaren?</translation>
+    </message>
     <message id="Localisation.Txt_TxtAreaPasScenPack">
         <source>Le TextArea ne contient pas de scenery_packs.</source>
         <translation>Het tekstvak bevat geen scenery_packs.</translation>

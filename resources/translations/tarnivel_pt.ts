@@ -356,6 +356,10 @@ Packs depois</translation>
         <source>Continuer</source>
         <translation>Continuar</translation>
     </message>
+    <message id="Localisation.Txt_TexteModifie">
+        <source>Le texte a été modifié et n'est pas enregistré. Continuer sans enregistrer ?</source>
+        <translation>O texto foi modificado e não foi guardado. Continuar sem guardar?</translation>
+    </message>
     <message id="Localisation.Txt_TxtAreaPasScenPack">
         <source>Le TextArea ne contient pas de scenery_packs.</source>
         <translation>A área de texto não contém um scenery_packs.</translation>

@@ -7,6 +7,7 @@ from sample import DISABLED, ENABLED, pack, sample
 
 BLACK, GREEN, RED, ORANGE = "0,0,0", "0,200,0", "255,0,0", "255,127,0"
 FOLDERS = "Ces dossiers sont dans le dossier “Custom Scenery” mais pas dans “scenery_packs.ini” :"
+MODIFIED = "Le texte a été modifié et n'est pas enregistré. Continuer sans enregistrer ?"
 SCENERIES = "Ces Sceneries sont dans “scenery_packs.ini” mais pas dans le dossier “Custom Scenery” :"
 CONTROLS = {
     "frame": ["Tarnivel"],
@@ -70,8 +71,15 @@ def main(command):
         assert files.is_in_model_order(result), result
         assert check_colors(program, area, unknown) == {BLACK, GREEN, RED, ORANGE}
 
-        edited = result + ENABLED + "Custom Scenery/Ajouté à la main 😀/\n"
-        program.set_text(area, edited)
+        added = ENABLED + "Custom Scenery/Ajout/"
+        edited = result + added + "\n"
+        program.focus(area)
+        program.keys("ctrl+End")
+        program.type(added)
+        program.keys("Return")
+        program.wait_for("the typed line", lambda: program.text(area) == edited)
+        assert program.color_at(area, len(result)) == GREEN
+        assert program.color_at(area, len(edited) - 3) == BLACK
         program.choose("Spack Modèle")
         model = program.find("text", "Spack Modèle")
         assert program.text(model).rstrip("\n").split("\n") == files.model
@@ -81,7 +89,12 @@ def main(command):
         assert program.text(after) == edited
         check_colors(program, after, unknown)
 
-        assert (program.close(), program.stderr()) == (0, "")
+        program.keys("ctrl+q")
+        assert program.answer() == [MODIFIED]
+        assert program.window().get_name() == "Tarnivel*", "the safe answer is the first"
+        program.keys("ctrl+q")
+        program.answer("Continuer")
+        assert (program.wait_for_end(), program.stderr()) == (0, "")
 
 
 main(*sys.argv[1:])

@@ -22,28 +22,45 @@ inline String InvertNaively(StringView text, Selection selection)
     return inverted;
 }
 
+/// A text after a toggle, or nothing where there is none.
+struct AfterToggle {
+    String text;
+    Selection selection;
+};
+
+inline std::optional<AfterToggle> Toggle(StringView text, Selection selection, ToggleMode mode)
+{
+    const std::optional<Toggled> toggled = ToggleLines(text, selection, mode);
+    if (!toggled) return {};
+    AfterToggle after{String(text), toggled->selection};
+    for (auto change = toggled->changes.rbegin(); change != toggled->changes.rend(); ++change)
+        after.text.replace(static_cast<std::size_t>(change->start), static_cast<std::size_t>(change->length),
+                           change->text);
+    return after;
+}
+
 inline void ExpectLawfulToggles(StringView text, Selection selection)
 {
-    const std::optional<Toggled> once = ToggleLines(text, selection, ToggleMode::Invert);
+    const std::optional<AfterToggle> once = Toggle(text, selection, ToggleMode::Invert);
     if (selection.length == 0) selection = LineAround(text, selection.start);
     EXPECT_EQ(once.has_value(), selection.length > 0);
     if (!once) return;
     EXPECT_EQ(once->text, InvertNaively(text, selection));
 
-    const Toggled twice = *ToggleLines(once->text, once->selection, ToggleMode::Invert);
+    const AfterToggle twice = *Toggle(once->text, once->selection, ToggleMode::Invert);
     EXPECT_TRUE(SameText(twice.text, text)) << "twice gives the text back, with its keywords in capitals";
     EXPECT_EQ(twice.selection, selection);
-    const Toggled thrice = *ToggleLines(twice.text, twice.selection, ToggleMode::Invert);
+    const AfterToggle thrice = *Toggle(twice.text, twice.selection, ToggleMode::Invert);
     EXPECT_EQ(thrice.text, once->text);
 
     for (const ToggleMode mode : {ToggleMode::Enable, ToggleMode::Disable}) {
-        const Toggled forced = *ToggleLines(text, selection, mode);
-        const Toggled again = *ToggleLines(forced.text, forced.selection, mode);
+        const AfterToggle forced = *Toggle(text, selection, mode);
+        const AfterToggle again = *Toggle(forced.text, forced.selection, mode);
         EXPECT_EQ(again.text, forced.text) << "what is forced stays";
         EXPECT_EQ(again.selection, forced.selection);
         // The other state is forced on all lines of the selection, wherever they come from.
         const ToggleMode other = mode == ToggleMode::Enable ? ToggleMode::Disable : ToggleMode::Enable;
-        EXPECT_EQ(ToggleLines(forced.text, forced.selection, other)->text,
-                  ToggleLines(forced.text, forced.selection, ToggleMode::Invert)->text);
+        EXPECT_EQ(Toggle(forced.text, forced.selection, other)->text,
+                  Toggle(forced.text, forced.selection, ToggleMode::Invert)->text);
     }
 }

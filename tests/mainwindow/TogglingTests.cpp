@@ -60,7 +60,7 @@ TEST(Toggling, LinesInTheSelectionChange)
     };
     for (const Row& row : rows) {
         const Marked before(row.before), after(row.after);
-        const std::optional<Toggled> toggled = ToggleLines(before.text, before.selection, row.mode);
+        const std::optional<AfterToggle> toggled = Toggle(before.text, before.selection, row.mode);
         ASSERT_TRUE(toggled) << row.name;
         EXPECT_EQ(toggled->text, after.text) << row.name;
         EXPECT_EQ(toggled->selection, after.selection) << row.name;

@@ -113,18 +113,71 @@ TEST_F(MainWindow, ManyReportsDoNotAskWithoutEnd)
     EXPECT_NE(probe.Asked.back().find(U"SCENERY_PACK line 99\n"), String::npos);
 }
 
-TEST_F(MainWindow, AMarkThatAnEditMadeBadIsTold)
+TEST_F(MainWindow, WhatAHandHasMadeIsAskedForBeforeItGoes)
+{
+    const String question = U"Le texte a été modifié et n'est pas enregistré. Continuer sans enregistrer ?"
+                            U"[Annuler][Continuer]";
+    Open();
+    const auto model = folder.File("model", header), other = folder.File("other", header);
+    Choose(window->TextFieldMod1, model);
+    Choose(window->TextFieldSpack, folder.File("Custom Scenery/source", std::string(header) + "SCENERY_PACK a/\n"));
+    Run();
+    const auto toggle = [this] {
+        window->TextAreaAff.Select(30, 0);
+        window->BtnEnabDis_Pressed();
+    };
+    const auto asks = [&](bool asked) {
+        EXPECT_EQ(probe.Asked, asked ? std::vector<String>{question} : std::vector<String>{});
+        probe.Asked.clear();
+    };
+    // A result as a run left it, and one over an edit.
+    window->TextFieldMod1.ItemGiven(FolderItem(model));
+    Run();
+    toggle();
+    Run();
+    asks(false);
+
+    toggle();
+    window->TextFieldMod1.ItemGiven(FolderItem(other));
+    asks(true);
+    EXPECT_EQ(Fncts::GetFitemAbsPath(window->TextFieldMod1.Text(), false)->Path(), model);
+    window->Close();
+    asks(true);
+    EXPECT_FALSE(app->DrapOkQuit);
+    View(1);
+    window->TextFieldSpack.ItemGiven(FolderItem(other));
+    asks(true);
+    EXPECT_NE(View(2), U"");
+    probe.Answers = {3};
+    window->TextFieldMod1.ItemGiven(FolderItem(other));
+    asks(true);
+    EXPECT_EQ(View(2), U"");
+    EXPECT_NE(View(1), U"") << "the other file's text stays";
+
+    window->TextFieldMod1.ItemGiven(FolderItem(model));
+    Run();
+    toggle();
+    window->BtnSave_Pressed();
+    probe.Asked.clear();
+    window->Close();
+    asks(false);
+    EXPECT_TRUE(app->DrapOkQuit) << "saved is saved";
+}
+
+TEST_F(MainWindow, ASecondPressAtOnceStopsTheRunBeforeItBegins)
 {
     Open();
     Choose(window->TextFieldMod1, folder.File("model", header));
-    Choose(window->TextFieldSpack, folder.File("Custom Scenery/source", std::string(header) + "unknown\n"));
+    Choose(window->TextFieldSpack, folder.File("Custom Scenery/source", header));
     Run();
-    window->TextAreaAff.SetText(U"short");
-    View(1);
-    EXPECT_EQ(View(2), U"short");
-    EXPECT_EQ(probe.Asked,
-              std::vector<String>{U"Error ! Please contact the authors.\nAffArea :\njNbre = 23\nkNbre = -1"});
-    EXPECT_EQ(probe.Beeps, 3);
+    window->BtnRun_Pressed();
+    window->BtnRun_Pressed();
+    EXPECT_EQ(View(1), U"I\n1000 version\nSCENERY\n");
+    EXPECT_EQ(View(2), U"");
+    const auto later = std::chrono::steady_clock::now() + std::chrono::milliseconds(50);
+    while (std::chrono::steady_clock::now() < later)
+        DesktopApplication::YieldToPlatform();
+    EXPECT_EQ(View(2), U"") << "the timer has stopped";
 }
 
 TEST_F(MainWindow, ThePreferencesFillTheControls)

@@ -7,13 +7,20 @@
 #include <QClipboard>
 #include <QMimeData>
 #include <QPlainTextEdit>
-#include <QScrollBar>
 
 namespace {
 
-constexpr ColorGroup red{0xFF0000}, green{0x00C800}, orange{0xFF7F00};
+constexpr ColorGroup red{0xFF0000}, orange{0xFF7F00};
+
+/// "ab" is red.
+std::vector<ColorSpan> ColourAb(StringView line)
+{
+    const Int64 at = IndexOf(line, U"ab");
+    return at < 0 ? std::vector<ColorSpan>() : std::vector<ColorSpan>{{at, 2, red}};
+}
 
 struct TextAreaTest : ::testing::Test {
+    TextDocument document{{ColourAb, orange}};
     DesktopWindow window{{.title = U"Text", .width = 300, .height = 200}};
     DesktopTextArea area{window, {0, 0, 300, 200}};
     QPlainTextEdit* editor = nullptr;
@@ -38,7 +45,7 @@ const std::pair<const char*, StringView> awkward[] = {
     {"doubled last line ends", U"a\n\n\n"},
     {"line ends of other systems", U"a\rb\r\nc\n\rd"},
     {"NUL, tab and other controls", std::u32string_view(U"\0a\0\t\u0001\u001b\v\f\u0085", 9)},
-    {"separators of Unicode", U"a\u2028b\u2029c"},
+    {"separators of Unicode", U"a\u2028b\u2029c\u206f\r\n"},
     {"characters that bound frames", U"\ufdd0a\ufdd1\ufdcf\ufdd2"},
     {"blanks that don't break", U"\u00a02024\u00a0\u202f"},
     {"marks of byte order and objects", U"\ufeffa\ufffc\ufffe\uffff\ufffd"},
@@ -67,11 +74,8 @@ TEST_F(TextAreaTest, GivesBackEveryCharacter)
     for (char32_t character = 0; character <= 0x10FFFF; ++character)
         if ((character < 0xD800 || character > 0xDFFF) && character % 0x10000 < (character < 0x10000 ? 0x10000 : 64))
             all += character;
-    std::vector<ColorSpan> colors;
-    for (Int64 i = 0; i < static_cast<Int64>(all.size()); i += 5)
-        colors.push_back({i, 3, i % 2 == 0 ? red : green});
     editor->hide(); // Looking for a font for each of them takes its time.
-    area.SetStyledText(all, colors);
+    area.SetText(all);
     EXPECT_TRUE(area.Text() == all);
     area.SetText(U"");
 }
@@ -145,33 +149,30 @@ std::string ColorAt(QPlainTextEdit& editor, int offset)
     return color < 0 ? "" : attributes.mid(color + 6).section(u';', 0, 0).toStdString();
 }
 
-TEST_F(TextAreaTest, ShowsColors)
+TEST_F(TextAreaTest, TellsColorsToAScreenReader)
 {
-    area.SetText(U"before");
-    Press(Qt::Key_X);
-    const std::vector<ColorSpan> colors = {{2, 5, orange}, {3, 2, red}};
-    area.SetStyledText(U"😀a\nbcdefg", colors);
-    EXPECT_EQ(area.Text(), U"😀a\nbcdefg");
-    EXPECT_EQ(ColorAt(*editor, 2), "");
-    EXPECT_EQ(ColorAt(*editor, 4), "rgb(255,0,0)");
-    EXPECT_EQ(ColorAt(*editor, 6), "rgb(255,127,0)");
-    EXPECT_EQ(ColorAt(*editor, 8), "");
-    EXPECT_EQ(area.SelectionStart(), 0);
-    EXPECT_EQ(area.SelectionLength(), 0);
-
-    area.SetStyledText(U"abc", std::vector<ColorSpan>{{0, 3, red}});
-    Press(Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(area.Text(), U"abc") << "there is nothing to undo";
-    Press(Qt::Key_X);
-    Press(Qt::Key_Y);
-    EXPECT_EQ(area.Text(), U"xyabc");
-    EXPECT_EQ(ColorAt(*editor, 0), "") << "what is typed next is black";
-    EXPECT_EQ(ColorAt(*editor, 1), "");
-    EXPECT_EQ(ColorAt(*editor, 2), "rgb(255,0,0)");
-
-    Press(Qt::Key_End);
+    area.SetDocument(document);
+    const Int64 marks[] = {3};
+    document.SetText(U"😀a\nabc\nab", marks);
+    const std::string expected[] = {
+        "", "", "", "", "rgb(255,0,0)", "rgb(255,0,0)", "rgb(255,127,0)", "", "rgb(255,0,0)", "rgb(255,0,0)"};
+    for (int position = 0; position < 10; ++position)
+        EXPECT_EQ(ColorAt(*editor, position), expected[position]) << position;
+    EXPECT_EQ(document.Marks(), std::vector<Int64>{3});
     area.SetText(U"plain");
-    EXPECT_EQ(ColorAt(*editor, 0), "") << "the colour at the caret doesn't stay for the next text";
+    EXPECT_EQ(document.Text(), U"plain") << "the area's text is that of its document";
+}
+
+TEST_F(TextAreaTest, CarriageReturnsAreDrawnAsWhatTheyAre)
+{
+    const auto drawn = [this](StringView text) {
+        area.SetText(text);
+        return editor->grab().toImage();
+    };
+    editor->setCursorWidth(0);
+    EXPECT_EQ(drawn(U"I\r\n1000 version\r\nSCENERY\r\n"), drawn(U"I\n1000 version\nSCENERY\n"));
+    EXPECT_EQ(drawn(U"I\r1000\rSCENERY"), drawn(U"I\n1000\nSCENERY"));
+    EXPECT_NE(drawn(U"a\u206fb"), drawn(U"ab"));
 }
 
 TEST_F(TextAreaTest, BearsALongLine)
@@ -193,56 +194,6 @@ TEST_F(TextAreaTest, SelectsCharacters)
         EXPECT_EQ(area.SelectionStart(), std::min<Int64>(start, 7)) << start;
         EXPECT_EQ(area.SelectionLength(), std::ssize(selected)) << start;
     }
-}
-
-TEST_F(TextAreaTest, AReplacedTextComesBackWithItsColours)
-{
-    const auto colorAt = [this](int position) {
-        QTextCursor cursor(editor->document());
-        cursor.setPosition(position);
-        return cursor.charFormat().foreground().color();
-    };
-    const ColorSpan before[] = {{2, 3, red}}, after[] = {{0, 1, green}};
-    area.SetStyledText(U"I\nabc\n", before);
-    area.Select(2, 1);
-    area.ReplaceStyledText(U"xyz", after);
-    EXPECT_EQ(area.Text(), U"xyz");
-    EXPECT_EQ(colorAt(1), QColor(green.rgb));
-    Press(Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(area.Text(), U"I\nabc\n");
-    EXPECT_EQ(colorAt(3), QColor(red.rgb));
-    EXPECT_NE(colorAt(1), QColor(green.rgb));
-    EXPECT_EQ(area.SelectionStart(), 3);
-}
-
-TEST_F(TextAreaTest, AReplacedTextStaysScrolled)
-{
-    String text;
-    for (int line = 0; line < 500; ++line)
-        text += U"abc\n";
-    area.SetText(text);
-    area.Select(800, 0);
-    area.SetVerticalScrollPosition(195);
-    const int scrolled = editor->verticalScrollBar()->value();
-    area.ReplaceStyledText(U"I\n" + text, {});
-    EXPECT_EQ(editor->verticalScrollBar()->value(), scrolled);
-    area.Select(802, 3);
-    Press(Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(editor->verticalScrollBar()->value(), scrolled);
-}
-
-TEST_F(TextAreaTest, ScrollsToALineOnScreen)
-{
-    String text;
-    for (int line = 0; line < 500; ++line)
-        text += line % 2 == 0 ? U"short\n" : String(120, U'w') + U"\n";
-    area.SetText(text);
-    const Int64 last = IndexOf(text, U"short", Int64{498} / 2 * (6 + 121));
-    area.SetVerticalScrollPosition(area.LineNumber(last) - 2);
-    area.Select(last, 5);
-    EXPECT_TRUE(editor->viewport()->rect().contains(editor->cursorRect())) << "the match is to be seen";
-    area.SetVerticalScrollPosition(area.LineNumber(0) - 2);
-    EXPECT_EQ(editor->verticalScrollBar()->value(), 0);
 }
 
 } // namespace

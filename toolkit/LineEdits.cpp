@@ -1,0 +1,107 @@
+#include "toolkit/DesktopTextArea.h"
+#include "toolkit/TextEditor.h"
+
+#include <algorithm>
+
+namespace {
+
+/// Whole lines, from the first through the last.
+struct Lines {
+    QTextBlock first, last;
+
+    [[nodiscard]] int Start() const { return first.position(); }
+    /// Before the last line's end.
+    [[nodiscard]] int End() const { return last.position() + last.length() - 1; }
+};
+
+/// The rest behind the last line end of a text is no line.
+bool IsRest(const QTextBlock& block) { return block.length() == 1 && !block.next().isValid(); }
+
+/// The lines that the selection has characters of, or those of the caret.
+Lines SelectedBy(const QTextCursor& cursor)
+{
+    const QTextDocument& document = *cursor.document();
+    Lines lines{document.findBlock(cursor.selectionStart()), document.findBlock(cursor.selectionEnd())};
+    if (lines.first != lines.last && lines.last.position() == cursor.selectionEnd()) lines.last = lines.last.previous();
+    return lines;
+}
+
+/// Lines with their formats, and no end behind the last of them.
+class Copy {
+public:
+    explicit Copy(const Lines& lines)
+    {
+        for (QTextBlock block = lines.first;; block = block.next()) {
+            for (auto at = block.begin(); !at.atEnd(); ++at)
+                pieces_.emplace_back(at.fragment().text(), at.fragment().charFormat());
+            if (block == lines.last) return;
+            pieces_.emplace_back(QStringLiteral("\n"), QTextCharFormat());
+        }
+    }
+    void InsertAt(QTextCursor& cursor) const
+    {
+        for (const auto& [text, format] : pieces_)
+            cursor.insertText(text, format);
+    }
+
+private:
+    std::vector<std::pair<QString, QTextCharFormat>> pieces_;
+};
+
+void Remove(QTextCursor& cursor, int start, int end)
+{
+    cursor.setPosition(start);
+    cursor.setPosition(end, QTextCursor::KeepAnchor);
+    cursor.removeSelectedText();
+}
+
+} // namespace
+
+/// The line beside the selected ones goes to their other side: as small an edit as can be.
+bool DesktopTextArea::MoveLines(bool down, Int64 fixedLines)
+{
+    const auto [anchor, caret] = editor().Selected();
+    const Lines lines = SelectedBy(editor().textCursor());
+    const QTextBlock other = down ? lines.last.next() : lines.first.previous();
+    if (!other.isValid() || IsRest(other) || IsRest(lines.last)) return false;
+    if (std::min(lines.first.blockNumber(), other.blockNumber()) < fixedLines) return false;
+    return editor().Edit([&, anchor = anchor, caret = caret](QTextCursor& cursor) {
+        const Copy copy({other, other});
+        const int length = other.length(), start = lines.Start(), end = lines.End();
+        if (down)
+            Remove(cursor, end, end + length);
+        else
+            Remove(cursor, start - length, start);
+        cursor.setPosition(down ? start : end - length);
+        if (!down) cursor.insertText(QStringLiteral("\n"), QTextCharFormat());
+        copy.InsertAt(cursor);
+        if (down) cursor.insertText(QStringLiteral("\n"), QTextCharFormat());
+        const int by = down ? length : -length, last = editor().Body().End();
+        return TextEditor::Range{std::min(anchor + by, last), std::min(caret + by, last)};
+    });
+}
+
+bool DesktopTextArea::DoubleLines()
+{
+    const TextEditor::Range selected = editor().Selected();
+    const Lines lines = SelectedBy(editor().textCursor());
+    if (IsRest(lines.last)) return false;
+    return editor().Edit([&](QTextCursor& cursor) {
+        const Copy copy(lines);
+        cursor.setPosition(lines.End());
+        cursor.insertText(QStringLiteral("\n"), QTextCharFormat());
+        copy.InsertAt(cursor);
+        return selected;
+    });
+}
+
+bool DesktopTextArea::DeleteLines()
+{
+    const Lines lines = SelectedBy(editor().textCursor());
+    const int start = lines.Start(), end = std::min(lines.End() + 1, editor().Body().End());
+    if (start == end) return false;
+    return editor().Edit([&](QTextCursor& cursor) {
+        Remove(cursor, start, end);
+        return TextEditor::Range{start, start};
+    });
+}
