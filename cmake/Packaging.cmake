@@ -3,7 +3,7 @@
 include(GNUInstallDirs)
 
 set(application fr.kavesti.tarnivel)
-install(TARGETS tarnivel RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} BUNDLE DESTINATION .)
+install(TARGETS tarnivel tarnivel-order RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} BUNDLE DESTINATION .)
 if(APPLE)
   set(CPACK_GENERATOR DragNDrop)
   include(CPack)
@@ -34,7 +34,9 @@ function(install_compressed source name destination)
   add_custom_target(compressed_${name} ALL DEPENDS ${compressed})
   install(FILES ${compressed} DESTINATION ${destination})
 endfunction()
-install_compressed(packaging/tarnivel.1 tarnivel.1 ${CMAKE_INSTALL_MANDIR}/man1)
+foreach(page tarnivel.1 tarnivel-order.1)
+  install_compressed(packaging/${page} ${page} ${CMAKE_INSTALL_MANDIR}/man1)
+endforeach()
 install_compressed(packaging/changelog changelog ${CMAKE_INSTALL_DOCDIR})
 
 set(CPACK_GENERATOR DEB TGZ)
@@ -55,5 +57,7 @@ a file or an address. It keeps which packs are enabled and disabled, shows what
 has no partner, checks the result against the folder Custom Scenery, and saves
 it after archiving the old file.")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# Loaded at its first use, so that no linker tells of it.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS libarchive13)
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-translations-l10n, qt6-wayland")
 include(CPack)

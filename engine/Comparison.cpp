@@ -1,6 +1,7 @@
 #include "engine/Comparison.h"
 
 #include "engine/ManyTexts.h"
+#include "engine/Sections.h"
 #include "localisation/Localisation.h"
 
 #include <iterator>
@@ -9,26 +10,16 @@ namespace {
 
 using Lines = std::span<const SceneryLine>;
 
-/// A title with the lines below it that aren't blank and whose surplus is positive; "" when there are none.
-String Section(StringView title, Lines lines, std::span<const std::size_t> numbers, std::vector<Int64> surplus)
+/// The lines that aren't blank and whose surplus is positive, once each.
+std::vector<String> Surplus(Lines lines, std::span<const std::size_t> numbers, std::vector<Int64> surplus)
 {
-    String section;
+    std::vector<String> found;
     for (std::size_t i = 0; i < lines.size(); ++i) {
         Int64& more = surplus[numbers[i]];
-        if (more <= 0 || lines[i].text.empty()) continue;
+        if (more > 0 && !lines[i].text.empty()) found.emplace_back(lines[i].text);
         more = 0;
-        if (section.empty()) section = title;
-        section.append(EndOfLine::Native).append(U" - ").append(lines[i].text);
     }
-    return section;
-}
-
-String TellBlankLines(std::ptrdiff_t inFile, std::ptrdiff_t inResult)
-{
-    if (inFile == inResult) return {};
-    const String text = Localisation::Txt_LignesVides();
-    const std::vector<StringView> pieces = Split(text, U"¿%");
-    return String(pieces[0]).append(ToText(inFile)).append(pieces[1]).append(ToText(inResult)).append(pieces[2]);
+    return found;
 }
 
 } // namespace
@@ -47,13 +38,12 @@ String ExplainDifferences(Lines file, Lines result)
         moreInResult[numbers[i]] -= change;
     }
     String explanation;
-    for (const String& section : {Section(Localisation::Txt_PlusDsFichier(), file, ofFile, moreInFile),
-                                  Section(Localisation::Txt_PlusDsResultat(), result, ofResult, moreInResult),
-                                  TellBlankLines(std::ranges::count(file, StringView(), &SceneryLine::text),
-                                                 std::ranges::count(result, StringView(), &SceneryLine::text))}) {
-        if (section.empty()) continue;
+    AppendSection(explanation, Localisation::Txt_PlusDsFichier(), Surplus(file, ofFile, moreInFile));
+    AppendSection(explanation, Localisation::Txt_PlusDsResultat(), Surplus(result, ofResult, moreInResult));
+    const auto blanksOf = [](Lines lines) { return std::ranges::count(lines, StringView(), &SceneryLine::text); };
+    if (blanksOf(file) != blanksOf(result)) {
         if (!explanation.empty()) explanation.append(EndOfLine::Native).append(U" ").append(EndOfLine::Native);
-        explanation.append(section);
+        explanation.append(WithNumber(WithNumber(Localisation::Txt_LignesVides(), blanksOf(file)), blanksOf(result)));
     }
     return explanation;
 }

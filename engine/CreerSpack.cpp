@@ -10,14 +10,6 @@
 
 namespace {
 
-std::vector<SceneryLine> LinesWithoutBlankEnd(StringView text)
-{
-    std::vector<SceneryLine> lines = LinesOf(text);
-    while (!lines.empty() && lines.back().text.empty())
-        lines.pop_back();
-    return lines;
-}
-
 /// Reports what leaves open which line of the source is meant; true when something was reported.
 bool ReportsDoubt(const SceneryLine& line, const Entry& entry, const Report& report)
 {

@@ -61,6 +61,14 @@ std::vector<SceneryLine> LinesOf(StringView text)
     return lines;
 }
 
+std::vector<SceneryLine> LinesWithoutBlankEnd(StringView text)
+{
+    std::vector<SceneryLine> lines = LinesOf(text);
+    while (!lines.empty() && lines.back().text.empty())
+        lines.pop_back();
+    return lines;
+}
+
 Int64 LongTxtTab(std::span<const SceneryLine> lignes, Int64 lgEoF, Int64 dernier)
 {
     Int64 length = 0;

@@ -70,6 +70,9 @@ struct SceneryLine {
 /// The lines of a text. The views live as long as the text behind `text`.
 std::vector<SceneryLine> LinesOf(StringView text);
 
+/// The same without the blank lines at the end.
+std::vector<SceneryLine> LinesWithoutBlankEnd(StringView text);
+
 /// The characters of lines 0 to `dernier` with a line end of `lgEoF` behind each: where the line behind them begins.
 /// 0 for -1.
 Int64 LongTxtTab(std::span<const SceneryLine> lignes, Int64 lgEoF, Int64 dernier);

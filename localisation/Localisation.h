@@ -131,6 +131,39 @@ inline constexpr Text Txt_PlusDsResultat{U"Txt_PlusDsResultat",
     U"Dans le fichier final, mais pas ou moins souvent dans le fichier initial :"};
 inline constexpr Text Txt_LignesVides{U"Txt_LignesVides",
     U"Lignes vides : ¿% dans le fichier initial, ¿% dans le fichier final."};
+inline constexpr Text Menu_TexteProposer{U"Menu_TexteProposer", U"Proposer un modèle…"};
+inline constexpr Text Txt_ChoisirModele{U"Txt_ChoisirModele", U"Enregistrer le modèle proposé sous :"};
+inline constexpr Text Txt_PropFait{U"Txt_PropFait", U"Le modèle est proposé, mais pas encore enregistré."};
+inline constexpr Text Txt_PropAeroports{U"Txt_PropAeroports", U"Aéroports : ¿%"};
+inline constexpr Text Txt_PropAeroportsXP{U"Txt_PropAeroportsXP", U"Aéroports de X-Plane : ¿%"};
+inline constexpr Text Txt_PropOverlays{U"Txt_PropOverlays", U"Surcouches (overlays) : ¿%"};
+inline constexpr Text Txt_PropInconnus{U"Txt_PropInconnus", U"Inconnus : ¿%"};
+inline constexpr Text Txt_PropPlugins{U"Txt_PropPlugins", U"Greffons (plugins) : ¿%"};
+inline constexpr Text Txt_PropBibliotheques{U"Txt_PropBibliotheques", U"Bibliothèques : ¿%"};
+inline constexpr Text Txt_PropMaillages{U"Txt_PropMaillages", U"Maillages et tuiles photo : ¿%"};
+inline constexpr Text Txt_PropDoublons{U"Txt_PropDoublons", U"Omis, une ligne plus haut nommant la même scène : ¿%"};
+inline constexpr Text Txt_RaisonDossAbsent{U"Txt_RaisonDossAbsent", U"le dossier manque"};
+inline constexpr Text Txt_RaisonRien{U"Txt_RaisonRien", U"rien n'y dit ce que c'est"};
+inline constexpr Text Txt_RaisonTuileIllisible{U"Txt_RaisonTuileIllisible", U"une tuile ne peut pas être lue"};
+inline constexpr Text Txt_RaisonTuileAbimee{U"Txt_RaisonTuileAbimee", U"une tuile est abîmée"};
+inline constexpr Text Txt_RaisonSansArchive{U"Txt_RaisonSansArchive",
+    U"une tuile est abîmée, ou comprimée alors que libarchive manque"};
+inline constexpr Text Txt_RaisonPasUnPack{U"Txt_RaisonPasUnPack", U"ce n'est pas une ligne de pack"};
+inline constexpr Text Dit_PasUtf8{U"Dit_PasUtf8", U"ce n'est pas de l'UTF-8"};
+inline constexpr Text Txt_OrdreAide{U"Txt_OrdreAide",
+    U"Utilisation : tarnivel-order [--check] MODÈLE SCENERY_PACKS\n"
+    U"              tarnivel-order --propose SCENERY_PACKS\n"
+    U"              tarnivel-order --help | --version\n"
+    U"\n"
+    U"Écrit les lignes de SCENERY_PACKS dans l'ordre de MODÈLE sur la sortie standard,\n"
+    U"et ce qui ne concorde pas sur celle des erreurs. “-” est l'entrée standard.\n"
+    U"Aucun fichier n'est modifié.\n"
+    U"\n"
+    U"  --check    n'écrit que ce qui ne concorde pas\n"
+    U"  --propose  écrit un modèle d'après ce que contiennent les packs\n"
+    U"\n"
+    U"État de sortie : 0 tout concorde, 1 quelque chose a été signalé,\n"
+    U"2 un texte a été refusé ou n'a pu être lu, 64 mauvaise utilisation."};
 inline constexpr Text Btn_Cont{U"Btn_Cont", U"Continuer"};
 inline constexpr Text Txt_TexteModifie{U"Txt_TexteModifie",
     U"Le texte a été modifié et n'est pas enregistré. Continuer sans enregistrer ?"};

@@ -352,6 +352,106 @@ Packs nachher</translation>
         <source>Lignes vides : ¿% dans le fichier initial, ¿% dans le fichier final.</source>
         <translation>Leere Zeilen: ¿% in der ursprünglichen Datei, ¿% in der endgültigen.</translation>
     </message>
+    <message id="Localisation.Menu_TexteProposer">
+        <source>Proposer un modèle…</source>
+        <translation>Modell vorschlagen…</translation>
+    </message>
+    <message id="Localisation.Txt_ChoisirModele">
+        <source>Enregistrer le modèle proposé sous :</source>
+        <translation>Vorgeschlagenes Modell sichern unter:</translation>
+    </message>
+    <message id="Localisation.Txt_PropFait">
+        <source>Le modèle est proposé, mais pas encore enregistré.</source>
+        <translation>Das Modell ist vorgeschlagen, aber noch nicht gesichert.</translation>
+    </message>
+    <message id="Localisation.Txt_PropAeroports">
+        <source>Aéroports : ¿%</source>
+        <translation>Flughäfen: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropAeroportsXP">
+        <source>Aéroports de X-Plane : ¿%</source>
+        <translation>Flughäfen von X-Plane: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropOverlays">
+        <source>Surcouches (overlays) : ¿%</source>
+        <translation>Auflagen (Overlays): ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropInconnus">
+        <source>Inconnus : ¿%</source>
+        <translation>Unbekannt: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropPlugins">
+        <source>Greffons (plugins) : ¿%</source>
+        <translation>Erweiterungen (Plugins): ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropBibliotheques">
+        <source>Bibliothèques : ¿%</source>
+        <translation>Bibliotheken: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropMaillages">
+        <source>Maillages et tuiles photo : ¿%</source>
+        <translation>Geländenetze und Fotokacheln: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropDoublons">
+        <source>Omis, une ligne plus haut nommant la même scène : ¿%</source>
+        <translation>Weggelassen, da eine Zeile weiter oben dieselbe Szenerie nennt: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_RaisonDossAbsent">
+        <source>le dossier manque</source>
+        <translation>der Ordner fehlt</translation>
+    </message>
+    <message id="Localisation.Txt_RaisonRien">
+        <source>rien n'y dit ce que c'est</source>
+        <translation>nichts darin sagt, was es ist</translation>
+    </message>
+    <message id="Localisation.Txt_RaisonTuileIllisible">
+        <source>une tuile ne peut pas être lue</source>
+        <translation>eine Kachel ist nicht lesbar</translation>
+    </message>
+    <message id="Localisation.Txt_RaisonTuileAbimee">
+        <source>une tuile est abîmée</source>
+        <translation>eine Kachel ist beschädigt</translation>
+    </message>
+    <message id="Localisation.Txt_RaisonSansArchive">
+        <source>une tuile est abîmée, ou comprimée alors que libarchive manque</source>
+        <translation>eine Kachel ist beschädigt, oder gepackt und libarchive fehlt</translation>
+    </message>
+    <message id="Localisation.Txt_RaisonPasUnPack">
+        <source>ce n'est pas une ligne de pack</source>
+        <translation>das ist keine Zeile eines Pakets</translation>
+    </message>
+    <message id="Localisation.Dit_PasUtf8">
+        <source>ce n'est pas de l'UTF-8</source>
+        <translation>das ist kein UTF-8</translation>
+    </message>
+    <message id="Localisation.Txt_OrdreAide">
+        <source>Utilisation : tarnivel-order [--check] MODÈLE SCENERY_PACKS
+              tarnivel-order --propose SCENERY_PACKS
+              tarnivel-order --help | --version
+
+Écrit les lignes de SCENERY_PACKS dans l'ordre de MODÈLE sur la sortie standard,
+et ce qui ne concorde pas sur celle des erreurs. “-” est l'entrée standard.
+Aucun fichier n'est modifié.
+
+  --check    n'écrit que ce qui ne concorde pas
+  --propose  écrit un modèle d'après ce que contiennent les packs
+
+État de sortie : 0 tout concorde, 1 quelque chose a été signalé,
+2 un texte a été refusé ou n'a pu être lu, 64 mauvaise utilisation.</source>
+        <translation>Aufruf: tarnivel-order [--check] MODELL SCENERY_PACKS
+        tarnivel-order --propose SCENERY_PACKS
+        tarnivel-order --help | --version
+
+Schreibt die Zeilen von SCENERY_PACKS in der Reihenfolge von MODELL auf die
+Standardausgabe, und was nicht übereinstimmt auf die Standardfehlerausgabe.
+„-“ ist die Standardeingabe. Keine Datei wird verändert.
+
+  --check    schreibt nur, was nicht übereinstimmt
+  --propose  schreibt ein Modell nach dem, was die Pakete enthalten
+
+Rückgabewert: 0 alles stimmt überein, 1 etwas wurde gemeldet,
+2 ein Text wurde abgelehnt oder war nicht lesbar, 64 falscher Aufruf.</translation>
+    </message>
     <message id="Localisation.Btn_Cont">
         <source>Continuer</source>
         <translation>Fortfahren</translation>

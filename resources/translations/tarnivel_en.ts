@@ -352,6 +352,106 @@ Packs after</translation>
         <source>Lignes vides : ¿% dans le fichier initial, ¿% dans le fichier final.</source>
         <translation>Blank lines: ¿% in the initial file, ¿% in the final file.</translation>
     </message>
+    <message id="Localisation.Menu_TexteProposer">
+        <source>Proposer un modèle…</source>
+        <translation>Propose a Model…</translation>
+    </message>
+    <message id="Localisation.Txt_ChoisirModele">
+        <source>Enregistrer le modèle proposé sous :</source>
+        <translation>Save the proposed model as:</translation>
+    </message>
+    <message id="Localisation.Txt_PropFait">
+        <source>Le modèle est proposé, mais pas encore enregistré.</source>
+        <translation>The model is proposed, but not saved yet.</translation>
+    </message>
+    <message id="Localisation.Txt_PropAeroports">
+        <source>Aéroports : ¿%</source>
+        <translation>Airports: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropAeroportsXP">
+        <source>Aéroports de X-Plane : ¿%</source>
+        <translation>Airports of X-Plane: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropOverlays">
+        <source>Surcouches (overlays) : ¿%</source>
+        <translation>Overlays: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropInconnus">
+        <source>Inconnus : ¿%</source>
+        <translation>Unknown: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropPlugins">
+        <source>Greffons (plugins) : ¿%</source>
+        <translation>Plugins: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropBibliotheques">
+        <source>Bibliothèques : ¿%</source>
+        <translation>Libraries: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropMaillages">
+        <source>Maillages et tuiles photo : ¿%</source>
+        <translation>Base meshes and photo tiles: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropDoublons">
+        <source>Omis, une ligne plus haut nommant la même scène : ¿%</source>
+        <translation>Left out, since a line further up names the same scenery: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_RaisonDossAbsent">
+        <source>le dossier manque</source>
+        <translation>the folder is missing</translation>
+    </message>
+    <message id="Localisation.Txt_RaisonRien">
+        <source>rien n'y dit ce que c'est</source>
+        <translation>nothing in it tells what it is</translation>
+    </message>
+    <message id="Localisation.Txt_RaisonTuileIllisible">
+        <source>une tuile ne peut pas être lue</source>
+        <translation>a tile can't be read</translation>
+    </message>
+    <message id="Localisation.Txt_RaisonTuileAbimee">
+        <source>une tuile est abîmée</source>
+        <translation>a tile is damaged</translation>
+    </message>
+    <message id="Localisation.Txt_RaisonSansArchive">
+        <source>une tuile est abîmée, ou comprimée alors que libarchive manque</source>
+        <translation>a tile is damaged, or packed while libarchive is missing</translation>
+    </message>
+    <message id="Localisation.Txt_RaisonPasUnPack">
+        <source>ce n'est pas une ligne de pack</source>
+        <translation>this is no line of a pack</translation>
+    </message>
+    <message id="Localisation.Dit_PasUtf8">
+        <source>ce n'est pas de l'UTF-8</source>
+        <translation>this is not UTF-8</translation>
+    </message>
+    <message id="Localisation.Txt_OrdreAide">
+        <source>Utilisation : tarnivel-order [--check] MODÈLE SCENERY_PACKS
+              tarnivel-order --propose SCENERY_PACKS
+              tarnivel-order --help | --version
+
+Écrit les lignes de SCENERY_PACKS dans l'ordre de MODÈLE sur la sortie standard,
+et ce qui ne concorde pas sur celle des erreurs. “-” est l'entrée standard.
+Aucun fichier n'est modifié.
+
+  --check    n'écrit que ce qui ne concorde pas
+  --propose  écrit un modèle d'après ce que contiennent les packs
+
+État de sortie : 0 tout concorde, 1 quelque chose a été signalé,
+2 un texte a été refusé ou n'a pu être lu, 64 mauvaise utilisation.</source>
+        <translation>Usage: tarnivel-order [--check] MODEL SCENERY_PACKS
+       tarnivel-order --propose SCENERY_PACKS
+       tarnivel-order --help | --version
+
+Writes the lines of SCENERY_PACKS in the order of MODEL to standard output,
+and what doesn't agree to standard error. “-” is standard input.
+No file is changed.
+
+  --check    writes nothing but what doesn't agree
+  --propose  writes a model made from what the packs hold
+
+Exit status: 0 all agrees, 1 something was reported,
+2 a text was refused or could not be read, 64 wrong use.</translation>
+    </message>
     <message id="Localisation.Btn_Cont">
         <source>Continuer</source>
         <translation>Continue</translation>

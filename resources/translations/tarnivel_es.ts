@@ -352,6 +352,106 @@ Packs después</translation>
         <source>Lignes vides : ¿% dans le fichier initial, ¿% dans le fichier final.</source>
         <translation>Líneas vacías: ¿% en el archivo inicial, ¿% en el archivo final.</translation>
     </message>
+    <message id="Localisation.Menu_TexteProposer">
+        <source>Proposer un modèle…</source>
+        <translation>Proponer un modelo…</translation>
+    </message>
+    <message id="Localisation.Txt_ChoisirModele">
+        <source>Enregistrer le modèle proposé sous :</source>
+        <translation>Guardar el modelo propuesto como:</translation>
+    </message>
+    <message id="Localisation.Txt_PropFait">
+        <source>Le modèle est proposé, mais pas encore enregistré.</source>
+        <translation>El modelo está propuesto, pero aún no guardado.</translation>
+    </message>
+    <message id="Localisation.Txt_PropAeroports">
+        <source>Aéroports : ¿%</source>
+        <translation>Aeropuertos: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropAeroportsXP">
+        <source>Aéroports de X-Plane : ¿%</source>
+        <translation>Aeropuertos de X-Plane: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropOverlays">
+        <source>Surcouches (overlays) : ¿%</source>
+        <translation>Superposiciones (overlays): ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropInconnus">
+        <source>Inconnus : ¿%</source>
+        <translation>Desconocidos: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropPlugins">
+        <source>Greffons (plugins) : ¿%</source>
+        <translation>Complementos (plugins): ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropBibliotheques">
+        <source>Bibliothèques : ¿%</source>
+        <translation>Bibliotecas: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropMaillages">
+        <source>Maillages et tuiles photo : ¿%</source>
+        <translation>Mallas base y teselas de foto: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropDoublons">
+        <source>Omis, une ligne plus haut nommant la même scène : ¿%</source>
+        <translation>Omitidos, pues una línea anterior nombra el mismo escenario: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_RaisonDossAbsent">
+        <source>le dossier manque</source>
+        <translation>falta la carpeta</translation>
+    </message>
+    <message id="Localisation.Txt_RaisonRien">
+        <source>rien n'y dit ce que c'est</source>
+        <translation>nada en ella dice qué es</translation>
+    </message>
+    <message id="Localisation.Txt_RaisonTuileIllisible">
+        <source>une tuile ne peut pas être lue</source>
+        <translation>no se puede leer una tesela</translation>
+    </message>
+    <message id="Localisation.Txt_RaisonTuileAbimee">
+        <source>une tuile est abîmée</source>
+        <translation>una tesela está dañada</translation>
+    </message>
+    <message id="Localisation.Txt_RaisonSansArchive">
+        <source>une tuile est abîmée, ou comprimée alors que libarchive manque</source>
+        <translation>una tesela está dañada, o comprimida y falta libarchive</translation>
+    </message>
+    <message id="Localisation.Txt_RaisonPasUnPack">
+        <source>ce n'est pas une ligne de pack</source>
+        <translation>no es una línea de paquete</translation>
+    </message>
+    <message id="Localisation.Dit_PasUtf8">
+        <source>ce n'est pas de l'UTF-8</source>
+        <translation>no es UTF-8</translation>
+    </message>
+    <message id="Localisation.Txt_OrdreAide">
+        <source>Utilisation : tarnivel-order [--check] MODÈLE SCENERY_PACKS
+              tarnivel-order --propose SCENERY_PACKS
+              tarnivel-order --help | --version
+
+Écrit les lignes de SCENERY_PACKS dans l'ordre de MODÈLE sur la sortie standard,
+et ce qui ne concorde pas sur celle des erreurs. “-” est l'entrée standard.
+Aucun fichier n'est modifié.
+
+  --check    n'écrit que ce qui ne concorde pas
+  --propose  écrit un modèle d'après ce que contiennent les packs
+
+État de sortie : 0 tout concorde, 1 quelque chose a été signalé,
+2 un texte a été refusé ou n'a pu être lu, 64 mauvaise utilisation.</source>
+        <translation>Uso: tarnivel-order [--check] MODELO SCENERY_PACKS
+     tarnivel-order --propose SCENERY_PACKS
+     tarnivel-order --help | --version
+
+Escribe las líneas de SCENERY_PACKS en el orden de MODELO en la salida
+estándar, y lo que no concuerda en la de errores. “-” es la entrada estándar.
+No se modifica ningún archivo.
+
+  --check    escribe solo lo que no concuerda
+  --propose  escribe un modelo según lo que contienen los paquetes
+
+Estado de salida: 0 todo concuerda, 1 se ha señalado algo,
+2 un texto fue rechazado o no se pudo leer, 64 uso incorrecto.</translation>
+    </message>
     <message id="Localisation.Btn_Cont">
         <source>Continuer</source>
         <translation>Continuar</translation>

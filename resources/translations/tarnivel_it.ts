@@ -352,6 +352,106 @@ Pack dopo</translation>
         <source>Lignes vides : ¿% dans le fichier initial, ¿% dans le fichier final.</source>
         <translation>Righe vuote: ¿% nel file iniziale, ¿% nel file finale.</translation>
     </message>
+    <message id="Localisation.Menu_TexteProposer">
+        <source>Proposer un modèle…</source>
+        <translation>Proponi un modello…</translation>
+    </message>
+    <message id="Localisation.Txt_ChoisirModele">
+        <source>Enregistrer le modèle proposé sous :</source>
+        <translation>Salva il modello proposto come:</translation>
+    </message>
+    <message id="Localisation.Txt_PropFait">
+        <source>Le modèle est proposé, mais pas encore enregistré.</source>
+        <translation>Il modello è proposto, ma non ancora salvato.</translation>
+    </message>
+    <message id="Localisation.Txt_PropAeroports">
+        <source>Aéroports : ¿%</source>
+        <translation>Aeroporti: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropAeroportsXP">
+        <source>Aéroports de X-Plane : ¿%</source>
+        <translation>Aeroporti di X-Plane: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropOverlays">
+        <source>Surcouches (overlays) : ¿%</source>
+        <translation>Sovrapposizioni (overlay): ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropInconnus">
+        <source>Inconnus : ¿%</source>
+        <translation>Sconosciuti: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropPlugins">
+        <source>Greffons (plugins) : ¿%</source>
+        <translation>Estensioni (plugin): ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropBibliotheques">
+        <source>Bibliothèques : ¿%</source>
+        <translation>Librerie: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropMaillages">
+        <source>Maillages et tuiles photo : ¿%</source>
+        <translation>Mesh di base e riquadri fotografici: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropDoublons">
+        <source>Omis, une ligne plus haut nommant la même scène : ¿%</source>
+        <translation>Omessi, perché una riga più in alto nomina lo stesso scenario: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_RaisonDossAbsent">
+        <source>le dossier manque</source>
+        <translation>manca la cartella</translation>
+    </message>
+    <message id="Localisation.Txt_RaisonRien">
+        <source>rien n'y dit ce que c'est</source>
+        <translation>niente dice che cosa sia</translation>
+    </message>
+    <message id="Localisation.Txt_RaisonTuileIllisible">
+        <source>une tuile ne peut pas être lue</source>
+        <translation>un riquadro non è leggibile</translation>
+    </message>
+    <message id="Localisation.Txt_RaisonTuileAbimee">
+        <source>une tuile est abîmée</source>
+        <translation>un riquadro è danneggiato</translation>
+    </message>
+    <message id="Localisation.Txt_RaisonSansArchive">
+        <source>une tuile est abîmée, ou comprimée alors que libarchive manque</source>
+        <translation>un riquadro è danneggiato, o compresso e manca libarchive</translation>
+    </message>
+    <message id="Localisation.Txt_RaisonPasUnPack">
+        <source>ce n'est pas une ligne de pack</source>
+        <translation>non è la riga di un pacchetto</translation>
+    </message>
+    <message id="Localisation.Dit_PasUtf8">
+        <source>ce n'est pas de l'UTF-8</source>
+        <translation>non è UTF-8</translation>
+    </message>
+    <message id="Localisation.Txt_OrdreAide">
+        <source>Utilisation : tarnivel-order [--check] MODÈLE SCENERY_PACKS
+              tarnivel-order --propose SCENERY_PACKS
+              tarnivel-order --help | --version
+
+Écrit les lignes de SCENERY_PACKS dans l'ordre de MODÈLE sur la sortie standard,
+et ce qui ne concorde pas sur celle des erreurs. “-” est l'entrée standard.
+Aucun fichier n'est modifié.
+
+  --check    n'écrit que ce qui ne concorde pas
+  --propose  écrit un modèle d'après ce que contiennent les packs
+
+État de sortie : 0 tout concorde, 1 quelque chose a été signalé,
+2 un texte a été refusé ou n'a pu être lu, 64 mauvaise utilisation.</source>
+        <translation>Uso: tarnivel-order [--check] MODELLO SCENERY_PACKS
+     tarnivel-order --propose SCENERY_PACKS
+     tarnivel-order --help | --version
+
+Scrive le righe di SCENERY_PACKS nell'ordine di MODELLO sullo standard output,
+e ciò che non concorda sullo standard error. “-” è lo standard input.
+Nessun file viene modificato.
+
+  --check    scrive solo ciò che non concorda
+  --propose  scrive un modello secondo ciò che i pacchetti contengono
+
+Stato di uscita: 0 tutto concorda, 1 qualcosa è stato segnalato,
+2 un testo è stato rifiutato o non è leggibile, 64 uso errato.</translation>
+    </message>
     <message id="Localisation.Btn_Cont">
         <source>Continuer</source>
         <translation>Continua</translation>

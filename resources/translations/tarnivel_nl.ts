@@ -352,6 +352,106 @@ Packs na</translation>
         <source>Lignes vides : ¿% dans le fichier initial, ¿% dans le fichier final.</source>
         <translation>Lege regels: ¿% in het oorspronkelijke bestand, ¿% in het uiteindelijke bestand.</translation>
     </message>
+    <message id="Localisation.Menu_TexteProposer">
+        <source>Proposer un modèle…</source>
+        <translation>Model voorstellen…</translation>
+    </message>
+    <message id="Localisation.Txt_ChoisirModele">
+        <source>Enregistrer le modèle proposé sous :</source>
+        <translation>Het voorgestelde model bewaren als:</translation>
+    </message>
+    <message id="Localisation.Txt_PropFait">
+        <source>Le modèle est proposé, mais pas encore enregistré.</source>
+        <translation>Het model is voorgesteld, maar nog niet bewaard.</translation>
+    </message>
+    <message id="Localisation.Txt_PropAeroports">
+        <source>Aéroports : ¿%</source>
+        <translation>Luchthavens: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropAeroportsXP">
+        <source>Aéroports de X-Plane : ¿%</source>
+        <translation>Luchthavens van X-Plane: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropOverlays">
+        <source>Surcouches (overlays) : ¿%</source>
+        <translation>Lagen erbovenop (overlays): ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropInconnus">
+        <source>Inconnus : ¿%</source>
+        <translation>Onbekend: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropPlugins">
+        <source>Greffons (plugins) : ¿%</source>
+        <translation>Uitbreidingen (plugins): ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropBibliotheques">
+        <source>Bibliothèques : ¿%</source>
+        <translation>Bibliotheken: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropMaillages">
+        <source>Maillages et tuiles photo : ¿%</source>
+        <translation>Basisnetten en fototegels: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropDoublons">
+        <source>Omis, une ligne plus haut nommant la même scène : ¿%</source>
+        <translation>Weggelaten, omdat een regel erboven dezelfde scenery noemt: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_RaisonDossAbsent">
+        <source>le dossier manque</source>
+        <translation>de map ontbreekt</translation>
+    </message>
+    <message id="Localisation.Txt_RaisonRien">
+        <source>rien n'y dit ce que c'est</source>
+        <translation>niets erin zegt wat het is</translation>
+    </message>
+    <message id="Localisation.Txt_RaisonTuileIllisible">
+        <source>une tuile ne peut pas être lue</source>
+        <translation>een tegel is niet te lezen</translation>
+    </message>
+    <message id="Localisation.Txt_RaisonTuileAbimee">
+        <source>une tuile est abîmée</source>
+        <translation>een tegel is beschadigd</translation>
+    </message>
+    <message id="Localisation.Txt_RaisonSansArchive">
+        <source>une tuile est abîmée, ou comprimée alors que libarchive manque</source>
+        <translation>een tegel is beschadigd, of ingepakt terwijl libarchive ontbreekt</translation>
+    </message>
+    <message id="Localisation.Txt_RaisonPasUnPack">
+        <source>ce n'est pas une ligne de pack</source>
+        <translation>dit is geen regel van een pakket</translation>
+    </message>
+    <message id="Localisation.Dit_PasUtf8">
+        <source>ce n'est pas de l'UTF-8</source>
+        <translation>dit is geen UTF-8</translation>
+    </message>
+    <message id="Localisation.Txt_OrdreAide">
+        <source>Utilisation : tarnivel-order [--check] MODÈLE SCENERY_PACKS
+              tarnivel-order --propose SCENERY_PACKS
+              tarnivel-order --help | --version
+
+Écrit les lignes de SCENERY_PACKS dans l'ordre de MODÈLE sur la sortie standard,
+et ce qui ne concorde pas sur celle des erreurs. “-” est l'entrée standard.
+Aucun fichier n'est modifié.
+
+  --check    n'écrit que ce qui ne concorde pas
+  --propose  écrit un modèle d'après ce que contiennent les packs
+
+État de sortie : 0 tout concorde, 1 quelque chose a été signalé,
+2 un texte a été refusé ou n'a pu être lu, 64 mauvaise utilisation.</source>
+        <translation>Gebruik: tarnivel-order [--check] MODEL SCENERY_PACKS
+         tarnivel-order --propose SCENERY_PACKS
+         tarnivel-order --help | --version
+
+Schrijft de regels van SCENERY_PACKS in de volgorde van MODEL naar de
+standaarduitvoer, en wat niet overeenstemt naar de standaardfoutuitvoer.
+“-” is de standaardinvoer. Er wordt geen bestand gewijzigd.
+
+  --check    schrijft alleen wat niet overeenstemt
+  --propose  schrijft een model naar wat de pakketten bevatten
+
+Afsluitstatus: 0 alles stemt overeen, 1 er is iets gemeld,
+2 een tekst is geweigerd of kon niet worden gelezen, 64 verkeerd gebruik.</translation>
+    </message>
     <message id="Localisation.Btn_Cont">
         <source>Continuer</source>
         <translation>Doorgaan</translation>

@@ -1,0 +1,125 @@
+/// tarnivel-order: the reordering for scripts. It reads texts, writes one to standard output, and changes no file.
+#include "engine/CreerSpack.h"
+#include "localisation/Localisation.h"
+#include "packs/LookAtPack.h"
+#include "toolkit/core/Exceptions.h"
+#include "toolkit/core/TextInputStream.h"
+
+#include <cstdio>
+#include <iostream>
+#include <iterator>
+
+namespace {
+
+using namespace Localisation;
+
+enum Status { Agrees = 0, Reported = 1, Refused = 2, WrongUse = 64 };
+
+constexpr std::string_view standardInput = "-";
+
+/// A text that can't be had; the reason is for the user.
+struct Refusal {
+    String reason;
+};
+
+void Say(StringView text) { std::cerr << Encodings::UTF8.Encode(text) << '\n'; }
+
+String ShownName(std::string_view name) { return U"“" + Encodings::UTF8.Decode(name) + U"”"; }
+
+Bytes ReadAll(std::string_view name)
+{
+    if (name == standardInput) return {std::istreambuf_iterator<char>(std::cin), {}};
+    try {
+        return TextInputStream::Open(FolderItem(std::filesystem::absolute(name))).ReadAll();
+    } catch (const IOException& error) {
+        throw Refusal{error.Message};
+    }
+}
+
+String Read(std::string_view name)
+{
+    const Bytes bytes = ReadAll(name);
+    // The window leaves out what is no text; a script isn't there to see that.
+    if (!Encodings::UTF8.IsValidData(bytes)) throw Refusal{Dit_PasUtf8()};
+    const String raw = Encodings::UTF8.Decode(bytes);
+    const Acceptance acceptance = AcceptSceneryText(raw);
+    if (acceptance.accepted) return acceptance.text;
+    if (raw.empty()) throw Refusal{Dit_Vide()};
+    if (raw.starts_with(U'\uFEFF')) throw Refusal{Dit_Bom()};
+    throw Refusal{AcceptSceneryText(ReplaceLineEndings(raw, TxtEoF)).accepted ? Dit_FinsWindows() : Dit_SansEntete()};
+}
+
+/// The text, or nothing once the user has been told why there is none.
+std::optional<String> Accepted(std::string_view name)
+{
+    try {
+        return Read(name);
+    } catch (const Refusal& refusal) {
+        Say(ShownName(name) + U": " + refusal.reason);
+        return {};
+    }
+}
+
+FolderItem FolderOf(std::string_view spack)
+{
+    return FolderItem(std::filesystem::absolute(spack == standardInput ? "x" : spack).parent_path());
+}
+
+Status Write(StringView text, Status status)
+{
+    std::cout << Encodings::UTF8.Encode(text) << std::flush;
+    if (std::cout) return status;
+    Say(Txt_ErreurEcritFich());
+    return Refused;
+}
+
+Status Order(std::string_view modelName, std::string_view spackName, bool check)
+{
+    std::optional<String> model = Accepted(modelName), spack = Accepted(spackName);
+    if (!model || !spack) return Refused;
+    SceneryTexts texts{std::move(*model), std::move(*spack), {}, {}, {}};
+    Status status = Agrees;
+    CreerSpack(texts, FolderOf(spackName), [&status](const String& message, const String& explanation) {
+        status = Reported;
+        Say(message + (explanation.empty() ? U"" : U"\n" + explanation) + U"\n");
+    });
+    if (texts.TextDestSpack == ErrorMarker) return Refused;
+    return check ? status : Write(texts.TextDestSpack, status);
+}
+
+Status Propose(std::string_view spackName)
+{
+    const std::optional<String> spack = Accepted(spackName);
+    if (!spack) return Refused;
+    const FolderItem dossier = FolderOf(spackName);
+    std::vector<Pack> packs;
+    for (const String& line : LinesToPropose(*spack, dossier))
+        packs.push_back({line, LookAtPack(line, dossier)});
+    const Proposal proposal = ProposeModel(*spack, packs);
+    Say(proposal.report);
+    return Write(proposal.model, Agrees);
+}
+
+bool IsName(std::string_view argument) { return argument == standardInput || !argument.starts_with('-'); }
+
+Status Run(std::span<const std::string_view> arguments)
+{
+    const std::string_view option = arguments.empty() || IsName(arguments[0]) ? "" : arguments[0];
+    const auto names = arguments.subspan(option.empty() ? 0 : 1);
+    const bool areNames = std::ranges::all_of(names, IsName) && std::ranges::count(names, standardInput) < 2;
+    if (option == "--help" && names.empty()) return Write(Txt_OrdreAide() + U"\n", Agrees);
+    if (option == "--version" && names.empty()) return Write(U"tarnivel-order " VERSION "\n", Agrees);
+    if (option == "--propose" && names.size() == 1 && areNames) return Propose(names[0]);
+    if ((option.empty() || option == "--check") && names.size() == 2 && areNames)
+        return Order(names[0], names[1], !option.empty());
+    Say(Txt_OrdreAide());
+    return WrongUse;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const std::vector<std::string_view> arguments(argv + 1, argv + argc);
+    return Run(arguments);
+}

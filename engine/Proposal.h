@@ -1,0 +1,39 @@
+/// A first model, made from what the packs are.
+#pragma once
+
+#include "engine/SceneryText.h"
+#include "toolkit/core/FolderItem.h"
+
+/// What a pack shows of itself.
+struct PackFacts {
+    enum class Tile { None, Overlay, Base };
+
+    bool airports = false, library = false, plugins = false;
+    Tile tile = Tile::None;
+    /// For the user, why it can't be told what the pack is; else "".
+    String doubt;
+};
+
+/// A line of a `scenery_packs.ini`, or one for a folder that it doesn't list, and what its pack shows.
+struct Pack {
+    String line;
+    PackFacts facts;
+};
+
+/// The lines that a proposal is made of: those for the folders in `dossier` that `text` doesn't list, by name, and then
+/// the lines of `text` that aren't blank.
+std::vector<String> LinesToPropose(StringView text, const FolderItem& dossier);
+
+struct Proposal {
+    /// An accepted text.
+    String model;
+    /// The names of each kind, with their number, and of what could not be told the reason.
+    String report;
+};
+
+/// Orders the packs by their kinds; within a kind they stay as they come. Behind the header are as many blank lines as
+/// `text` has in all, so that a run finds the same number on both sides.
+///
+/// Of several lines for one scenery only the first gets into the model, which would be refused otherwise; the report
+/// tells the others.
+Proposal ProposeModel(StringView text, std::span<const Pack> packs);

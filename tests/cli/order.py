@@ -1,0 +1,107 @@
+"""tarnivel-order on whole runs, on texts that it refuses, and on outputs that go wrong: order.py PROGRAM"""
+
+import os
+import pathlib
+import subprocess
+import sys
+import tempfile
+
+TESTS = pathlib.Path(__file__).resolve().parent.parent
+HEADER = b"I\n1000 version\nSCENERY\n"
+AGREES, REPORTED, REFUSED, WRONG_USE = 0, 1, 2, 64
+
+
+def run(program, *arguments, language="fr", stdin=b"", **more):
+    """Exit state, standard output and standard error."""
+    environment = dict(os.environ, LC_ALL=f"{language}_XX.UTF-8", LANGUAGE=language)
+    done = subprocess.run(
+        [program, *arguments], input=stdin, capture_output=not more, env=environment, timeout=60, check=False, **more
+    )
+    return done.returncode, done.stdout, done.stderr
+
+
+def test_whole_runs(program, folder):
+    runs = sorted((TESTS / "data/runs").iterdir())
+    assert len(runs) > 40
+    for case in runs:
+        custom = folder / case.name
+        custom.mkdir()
+        for name in (case / "folders.txt").read_text().splitlines() if (case / "folders.txt").exists() else ():
+            (custom / name).mkdir(parents=True)
+        spack = custom / "scenery_packs.ini"
+        spack.write_bytes((case / "source.ini").read_bytes())
+        findings = (case / "findings.txt").read_text().splitlines()[2:]
+        reports = [line for line in findings if not line.startswith("--- ")]
+        expected = (case / "expected.ini").read_bytes()
+        refused = expected == b"### Error ###"
+        status = REFUSED if refused else REPORTED if reports else AGREES
+        for option in ([], ["--check"]):
+            code, out, err = run(program, *option, case / "model.ini", spack)
+            assert code == status, (case.name, code, err)
+            assert out == (b"" if refused or option else expected), (case.name, out)
+            assert [line for line in err.decode().splitlines() if line] == reports, (case.name, err)
+
+
+def test_what_it_is_given(program, folder):
+    good, pipe = folder / "good.ini", folder / "pipe"
+    good.write_bytes(HEADER + b"\nSCENERY_PACK /a/\n")
+    os.mkfifo(pipe)
+    rows = [
+        ("the model from standard input", ["-", good], good.read_bytes(), AGREES, ""),
+        ("the file from standard input", [good, "-"], good.read_bytes(), AGREES, ""),
+        ("nothing on standard input", ["-", good], b"", REFUSED, "“-”: vide ou illisible"),
+        ("Windows line ends", ["-", good], HEADER.replace(b"\n", b"\r\n"), REFUSED, "“-”: fins de ligne Windows"),
+        ("a byte-order mark", ["-", good], b"\xef\xbb\xbf" + HEADER, REFUSED, "“-”: marque d'ordre d'octets (BOM)"),
+        ("no UTF-8", ["-", good], HEADER + b"\xff", REFUSED, "“-”: ce n'est pas de l'UTF-8"),
+        ("another text", ["-", good], b"hello", REFUSED, "“-”: ne commence pas comme un scenery_packs.ini"),
+        ("no such file", [good, folder / "gone"], b"", REFUSED, f"“{folder}/gone”: "),
+        ("a pipe under its name", [pipe, good], b"", REFUSED, f"“{pipe}”: "),
+        ("one name", [good], b"", WRONG_USE, "Utilisation : "),
+        ("three names", [good, good, good], b"", WRONG_USE, "Utilisation : "),
+        ("no name", [], b"", WRONG_USE, "Utilisation : "),
+        ("both from standard input", ["-", "-"], b"", WRONG_USE, "Utilisation : "),
+        ("an unknown option", ["--write", good, good], b"", WRONG_USE, "Utilisation : "),
+        ("an option behind the names", [good, good, "--check"], b"", WRONG_USE, "Utilisation : "),
+    ]
+    for name, arguments, stdin, status, told in rows:
+        code, out, err = run(program, *arguments, stdin=stdin)
+        assert code == status, (name, code, err)
+        assert out == (good.read_bytes() if status == AGREES else b""), (name, out)
+        assert err.decode().startswith(told) and bool(err) == bool(told), (name, err)
+    assert run(program, "--help", language="de")[1].startswith(b"Aufruf: tarnivel-order")
+    assert run(program, "--version") == (AGREES, b"tarnivel-order 1.1.3\n", b"")
+
+
+def test_proposal(program, folder):
+    subprocess.run([sys.executable, TESTS.parent / "tools/make_sample.py", folder], check=True)
+    spack = folder / "Custom Scenery/scenery_packs.ini"
+    code, model, report = run(program, "--propose", spack, language="en")
+    assert code == AGREES and b"Unknown: 2\n" in report and b"Overlays: 8\n" in report, report
+    code, ordered, _ = run(program, "-", spack, stdin=model)
+    assert code == REPORTED and sorted(ordered.splitlines()) == sorted(spack.read_bytes().splitlines())
+    spack.write_bytes(ordered)
+    assert run(program, "--propose", spack, language="en")[1] == model
+
+
+def test_outputs_that_go_wrong(program, folder):
+    long = folder / "long.ini"
+    long.write_bytes(HEADER + b"".join(b"SCENERY_PACK /%d/\n" % number for number in range(100_000)))
+    with open("/dev/full", "wb") as full:
+        assert run(program, long, long, stdout=full, stderr=subprocess.DEVNULL)[0] == REFUSED
+    read, write = os.pipe()
+    os.close(read)
+    code = run(program, long, long, stdout=write, stderr=subprocess.DEVNULL)[0]
+    assert code == -13, "a pipe that nobody reads ends it as any other filter"
+
+
+def test_libraries(program, _):
+    libraries = subprocess.run(["ldd", program], check=True, capture_output=True, text=True).stdout
+    assert "libQt6Core" in libraries
+    for window in ("Gui", "Widgets", "Network", "Multimedia", "DBus", "libX11", "libxcb", "libwayland", "libarchive"):
+        assert window not in libraries, libraries
+
+
+for test in [value for name, value in list(globals().items()) if name.startswith("test_")]:
+    with tempfile.TemporaryDirectory() as temporary:
+        os.chdir(temporary)
+        test(sys.argv[1], pathlib.Path.cwd())

@@ -1,0 +1,152 @@
+#include "packs/LookAtPack.h"
+#include "packs/Tile.h"
+#include "tests/TemporaryFolder.h"
+#include "toolkit/core/TextInputStream.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+using std::string_literals::operator""s;
+
+std::string Number(std::size_t number)
+{
+    std::string bytes;
+    for (const int shift : {0, 8, 16, 24})
+        bytes += static_cast<char>(number >> shift);
+    return bytes;
+}
+
+std::string Atom(const std::string& name, const std::string& content)
+{
+    return name + Number(content.size() + 8) + content;
+}
+
+std::string Dsf(const std::string& atoms) { return "XPLNEDSF" + Number(1) + atoms; }
+
+std::string DsfWith(const std::string& properties) { return Dsf(Atom("DAEH", Atom("PORP", properties))); }
+
+const std::string overlay = DsfWith("sim/west\0008\0sim/overlay\0001\0"s);
+const std::string base = DsfWith("sim/west\0008\0"s);
+const std::string packedOverlay = TextInputStream::Open(FolderItem(fs::path(PACKS) / "overlay.7z")).ReadAll();
+
+TEST(Tile, TileKindOf)
+{
+    std::string nested;
+    for (int depth = 0; depth < 10'000; ++depth)
+        nested = Atom("DAEH", nested);
+    const std::tuple<const char*, std::string, TileKind> rows[] = {
+        {"an overlay", overlay + "GEOD and all the rest", TileKind::Overlay},
+        {"no property of overlays", base, TileKind::Base},
+        {"no property at all", DsfWith(""), TileKind::Base},
+        {"the property is 0", DsfWith("sim/overlay\0000\0"s), TileKind::Base},
+        {"the text as a value", DsfWith("x\0sim/overlay\0001\0y\0"s), TileKind::Base},
+        {"atoms before the head and the properties",
+         Dsf(Atom("DOEG", "xyz") + Atom("DAEH", Atom("XXXX", "") + Atom("PORP", "sim/overlay\0001\0"s))),
+         TileKind::Overlay},
+        {"nothing", "", TileKind::Damaged},
+        {"another version", "XPLNEDSF" + Number(2) + overlay.substr(12), TileKind::Damaged},
+        {"cut in the head", overlay.substr(0, overlay.size() - 1), TileKind::Damaged},
+        {"no head", Dsf(Atom("DOEG", "")), TileKind::Damaged},
+        {"properties outside the head", Dsf(Atom("PORP", "sim/overlay\0001\0"s)), TileKind::Damaged},
+        {"a length below that of its own bytes", Dsf("DOEG" + Number(7)) + overlay.substr(12), TileKind::Damaged},
+        {"a length of 4 GiB", Dsf("DAEH" + Number(0xFFFFFFFF)), TileKind::Damaged},
+        {"a name without a value", DsfWith("sim/overlay\0"s), TileKind::Damaged},
+        {"a value without an end", DsfWith("sim/overlay\0001"s), TileKind::Damaged},
+        {"heads in heads", Dsf(nested), TileKind::Damaged},
+    };
+    for (const auto& [name, bytes, kind] : rows)
+        EXPECT_EQ(TileKindOf(bytes), kind) << name;
+}
+
+class Scenery : public testing::Test {
+protected:
+    TemporaryFolder temporary;
+    const fs::path custom = temporary.Folder("X-Plane/Custom Scenery");
+
+    void Put(const fs::path& file, std::string_view content = {}) const
+    {
+        temporary.File("X-Plane/Custom Scenery" / file, content);
+    }
+
+    /// What a line's pack is, in a word or by the doubt.
+    [[nodiscard]] String Seen(StringView line) const
+    {
+        const PackFacts facts = LookAtPack(line, FolderItem(custom));
+        if (!facts.doubt.empty()) return facts.doubt;
+        String seen = facts.airports ? U"airports " : U"";
+        if (facts.tile != PackFacts::Tile::None)
+            seen += facts.tile == PackFacts::Tile::Overlay ? U"overlay " : U"base ";
+        if (facts.library) seen += U"library ";
+        if (facts.plugins) seen += U"plugins ";
+        return seen;
+    }
+};
+
+TEST_F(Scenery, ShowsWhatItIs)
+{
+    const fs::path tiles = "p/Earth nav data/+40+000";
+    const std::tuple<const char*, std::vector<std::pair<fs::path, std::string>>, StringView> rows[] = {
+        {"airports",
+         {{"p/Earth nav data/apt.dat", ""}, {tiles / "+42+008.dsf", "broken"}, {"p/library.txt", ""}},
+         U"airports "},
+        {"in another case", {{"p/EARTH NAV DATA/Apt.Dat", ""}}, U"airports "},
+        {"an overlay", {{tiles / "+42+008.dsf", overlay}}, U"overlay "},
+        {"a base, for all its library", {{tiles / "+42+008.DSF", base}, {"p/library.txt", ""}}, U"base "},
+        {"a packed overlay", {{tiles / "+42+008.dsf", packedOverlay}}, U"overlay "},
+        {"the first tile by name counts",
+         {{tiles / "+41+008.dsf", base}, {tiles / "+42+008.dsf", overlay}, {"p/Earth nav data/+30+000/a.txt", ""}},
+         U"base "},
+        {"a head of 200 kB",
+         {{tiles / "a.dsf", DsfWith(std::string(200'000, 'x') + "\0x\0sim/overlay\0001\0"s)}},
+         U"overlay "},
+        {"a head of 300 kB",
+         {{tiles / "a.dsf", DsfWith(std::string(300'000, 'x') + "\0x\0"s)}},
+         U"une tuile est abîmée"},
+        {"half an archive",
+         {{tiles / "a.dsf", packedOverlay.substr(0, packedOverlay.size() / 2)}},
+         U"une tuile est abîmée"},
+        {"an empty tile", {{tiles / "a.dsf", ""}}, U"une tuile est abîmée"},
+        {"a library and a plugin", {{"p/library.txt", ""}, {"p/plugins/64/lin.xpl", ""}}, U"library plugins "},
+        {"a file named like the folder of plugins", {{"p/plugins", ""}}, U"rien n'y dit ce que c'est"},
+        {"nothing", {{"p/readme.txt", ""}, {"p/Earth nav data/+40+000/readme.txt", ""}}, U"rien n'y dit ce que c'est"},
+        {"no folder", {{"p", ""}}, U"le dossier manque"},
+    };
+    for (const auto& [name, files, seen] : rows) {
+        fs::remove_all(custom / "p");
+        for (const auto& [file, content] : files)
+            Put(file, content);
+        EXPECT_EQ(Seen(U"SCENERY_PACK_DISABLED Custom Scenery/p/"), seen) << name;
+    }
+}
+
+TEST_F(Scenery, LiesWhereItsLineSays)
+{
+    Put("../Global Scenery/g/library.txt");
+    Put("../../elsewhere/Plugged/plugins/x");
+    Put("e\u0301/library.txt");
+    fs::create_directory_symlink("../../elsewhere/Plugged", custom / "link");
+    const String outside = FolderItem(temporary.Path()).NativePath();
+    const std::tuple<const char*, String, StringView> rows[] = {
+        {"beside", U"SCENERY_PACK Global Scenery/g/", U"library "},
+        {"anywhere, by its path", U"SCENERY_PACK " + outside + U"/elsewhere/plugged/", U"plugins "},
+        {"behind a link", U"scenery_pack custom scenery/LINK/", U"plugins "},
+        {"under a composed name", U"SCENERY_PACK Custom Scenery/É/", U"library "},
+        {"X-Plane's own airports lie nowhere", U"SCENERY_PACK *GLOBAL_AIRPORTS*", U"le dossier manque"},
+        {"no pack line", U"# Custom Scenery/link/", U"ce n'est pas une ligne de pack"},
+    };
+    for (const auto& [name, line, seen] : rows)
+        EXPECT_EQ(Seen(line), seen) << name;
+}
+
+TEST_F(Scenery, DoesNotWaitForAPipe)
+{
+    fs::create_directories(custom / "p/Earth nav data/+40+000");
+    ASSERT_EQ(mkfifo((custom / "p/Earth nav data/+40+000/a.dsf").c_str(), 0600), 0);
+    EXPECT_EQ(Seen(U"SCENERY_PACK Custom Scenery/p/"), U"une tuile ne peut pas être lue");
+}
+
+} // namespace
