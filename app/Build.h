@@ -4,9 +4,9 @@
 #include "toolkit/core/Text.h"
 
 namespace Build {
-inline constexpr StringView Version = U"1.1.3";
-/// What the program was built for and with.
-inline constexpr StringView TypeCompil = U"Mac INTEL 64-bit (Lumbra2023r4)";
-/// Date and time of the build, with no-break spaces so that a tooltip keeps them on one line.
-inline constexpr StringView Stamp = U"2024-02-25\u00A010:51\u00A0CET";
+extern const StringView Version;
+/// The system and processor that it is for, and the compiler.
+extern const StringView TypeCompil;
+/// Time of the last commit, or SOURCE_DATE_EPOCH; with no-break spaces so that a tooltip keeps it on one line.
+extern const StringView Stamp;
 } // namespace Build

@@ -11,9 +11,9 @@ struct MenuBar1 {
     DesktopMenuItem FichSelArchivDoss{U"FichSelArchivDoss", Localisation::Menu_FichSelDossArchiv(), U"Cmd+Option+O"};
     DesktopMenuItem FichSelFichSpack{U"FichSelFichSpack", Localisation::Menu_FichSelFichScenPack(), U"Cmd+O"};
     DesktopMenuItem FichSaveFile{U"FichSaveFile", Localisation::Btn_SauvFichier(), U"Cmd+S"};
-    DesktopQuitMenuItem FileQuit{U"FileQuit", U"&Quit", U"Cmd+Cmd+Q"};
+    DesktopQuitMenuItem FileQuit{U"FileQuit", Localisation::Btn_Quit(), U"Cmd+Cmd+Q"};
 
-    DesktopMenuItem EditUndo{U"EditUndo", U"&Undo", U"Cmd+Z", EditCommand::Undo};
+    DesktopMenuItem EditUndo{U"EditUndo", Localisation::Menu_EditUndo(), U"Cmd+Z", EditCommand::Undo};
     DesktopMenuItem EditCut{U"EditCut", Localisation::Menu_EditCut(), U"Cmd+X", EditCommand::Cut};
     DesktopMenuItem EditCopy{U"EditCopy", Localisation::Menu_EditCopy(), U"Cmd+C", EditCommand::Copy};
     DesktopMenuItem EditPaste{U"EditPaste", Localisation::Menu_EditPaste(), U"Cmd+V", EditCommand::Paste};

@@ -59,5 +59,5 @@ it after archiving the old file.")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # Loaded at its first use, so that no linker tells of it.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS libarchive13)
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-translations-l10n, qt6-wayland")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland")
 include(CPack)

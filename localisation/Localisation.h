@@ -63,6 +63,7 @@ inline constexpr Text Btn_Annuler{U"Btn_Annuler", U"Annuler"};
 inline constexpr Text Btn_Ok{U"Btn_Ok", U"Ok"};
 inline constexpr Text Btn_Fermer{U"Btn_Fermer", U"Fermer"};
 inline constexpr Text Menu_Edit{U"Menu_Edit", U"Édition"};
+inline constexpr Text Menu_EditUndo{U"Menu_EditUndo", U"Annuler"};
 inline constexpr Text Menu_EditClear{U"Menu_EditClear", U"Effacer"};
 inline constexpr Text Menu_EditCopy{U"Menu_EditCopy", U"Copier"};
 inline constexpr Text Menu_EditCut{U"Menu_EditCut", U"Couper"};
@@ -190,6 +191,10 @@ inline constexpr Text Btn_Trait{U"Btn_Trait", U"Traiter"};
 inline constexpr Text Txt_DropQueFichTxt{U"Txt_DropQueFichTxt",
     U"Vous ne pouvez glisser déposer qu'un fichier contenant du texte ici."};
 inline constexpr Text Txt_ChoisirUnFich{U"Txt_ChoisirUnFich", U"Choisir un fichier :"};
+inline constexpr Text Txt_FiltreTexte{U"Txt_FiltreTexte", U"Fichiers texte"};
+inline constexpr Text Txt_FiltreTous{U"Txt_FiltreTous", U"Tous les fichiers"};
+inline constexpr Text Txt_ChoisirDossArchiv{U"Txt_ChoisirDossArchiv",
+    U"Choisir le dossier où garder les anciens “scenery_packs.ini” :"};
 inline constexpr Text Txt_SelectQueFichTxt{U"Txt_SelectQueFichTxt",
     U"Vous pouvez seulement sélectionner un fichier texte."};
 inline constexpr Text LabDest1{U"LabDest1", U"Dest 1 :"};

@@ -26,7 +26,7 @@ std::optional<FolderItem> ChooseFile(const FolderItem& start)
 
 std::optional<FolderItem> ChooseFolder(const FolderItem& start)
 {
-    return Fncts::MyDialogFolder(start, U"Select the Folder to save old 'scenery_packs.ini':", nullptr, true);
+    return Fncts::MyDialogFolder(start, Localisation::Txt_ChoisirDossArchiv(), nullptr, true);
 }
 
 } // namespace

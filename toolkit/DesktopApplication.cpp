@@ -4,12 +4,11 @@
 #include "toolkit/SessionEnd.h"
 #include "toolkit/core/FolderItem.h"
 #include "toolkit/core/QtText.h"
+#include "toolkit/core/System.h"
 
 #include <QApplication>
 #include <QFontDatabase>
 #include <QIcon>
-#include <QLibraryInfo>
-#include <QLocale>
 #include <QTranslator>
 #include <algorithm>
 #include <csignal>
@@ -74,12 +73,13 @@ DesktopApplication::DesktopApplication(int& argc, char** argv, String name, Stri
     QApplication::setApplicationName(ToQt(Name));
     QApplication::setApplicationVersion(ToQt(Version));
     QApplication::setQuitOnLastWindowClosed(false);
+    const std::optional<FolderItem> resources = ResourceFolder();
+    if (!resources) return;
+    const QString folder = ToQt(resources->NativePath());
     // Qt takes from it what the desktop's fonts lack.
-    if (const auto resources = ResourceFolder())
-        QFontDatabase::addApplicationFont(ToQt(resources->NativePath() + U"/TarnivelSymbols.ttf"));
+    QFontDatabase::addApplicationFont(folder + QStringLiteral("/TarnivelSymbols.ttf"));
     auto* const platformTexts = new QTranslator(qApp);
-    if (platformTexts->load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"),
-                            QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    if (platformTexts->load(ToQt(U"qtbase_" + UserLanguage()), folder + QStringLiteral("/translations")))
         QApplication::installTranslator(platformTexts);
 }
 

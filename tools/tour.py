@@ -16,9 +16,9 @@ from xml.etree import ElementTree
 
 from desktop import has, private_environment
 
-LANGUAGES = ("fr", "en", "de", "es", "it", "pt", "nl")
 TOOLS = pathlib.Path(__file__).parent
 TRANSLATIONS = TOOLS.parent / "resources" / "translations"
+LANGUAGES = ("fr", *sorted(file.stem.split("_")[1] for file in TRANSLATIONS.glob("*.ts")))
 # Colours of a dark desktop, in the file in which one of them keeps them.
 DARK = {"Window": "35,35,40", "View": "27,27,30", "Button": "50,50,56", "Selection": "60,110,180"}
 

@@ -113,6 +113,10 @@ Klicken Sie auf „Speichern“, um den Text des Textbereichs in der Datei zu sp
         <source>Édition</source>
         <translation>Bearbeiten</translation>
     </message>
+    <message id="Localisation.Menu_EditUndo">
+        <source>Annuler</source>
+        <translation>Rückgängig</translation>
+    </message>
     <message id="Localisation.Menu_EditClear">
         <source>Effacer</source>
         <translation>Löschen</translation>
@@ -529,6 +533,18 @@ Rückgabewert: 0 alles stimmt überein, 1 etwas wurde gemeldet,
     <message id="Localisation.Txt_ChoisirUnFich">
         <source>Choisir un fichier :</source>
         <translation>Wählen Sie eine Datei:</translation>
+    </message>
+    <message id="Localisation.Txt_FiltreTexte">
+        <source>Fichiers texte</source>
+        <translation>Textdateien</translation>
+    </message>
+    <message id="Localisation.Txt_FiltreTous">
+        <source>Tous les fichiers</source>
+        <translation>Alle Dateien</translation>
+    </message>
+    <message id="Localisation.Txt_ChoisirDossArchiv">
+        <source>Choisir le dossier où garder les anciens “scenery_packs.ini” :</source>
+        <translation>Wählen Sie den Ordner, in dem die alten „scenery_packs.ini“ aufbewahrt werden:</translation>
     </message>
     <message id="Localisation.Txt_SelectQueFichTxt">
         <source>Vous pouvez seulement sélectionner un fichier texte.</source>

@@ -113,6 +113,10 @@ Click the “Save file” button to save the text of the text area to the file s
         <source>Édition</source>
         <translation>Edit</translation>
     </message>
+    <message id="Localisation.Menu_EditUndo">
+        <source>Annuler</source>
+        <translation>Undo</translation>
+    </message>
     <message id="Localisation.Menu_EditClear">
         <source>Effacer</source>
         <translation>Delete</translation>
@@ -131,7 +135,7 @@ Click the “Save file” button to save the text of the text area to the file s
     </message>
     <message id="Localisation.Menu_EditSelectAll">
         <source>Tout sélectionner</source>
-        <translation>Select All</translation>
+        <translation>Select all</translation>
     </message>
     <message id="Localisation.Menu_Fichier">
         <source>Fichier</source>
@@ -530,6 +534,18 @@ Exit status: 0 all agrees, 1 something was reported,
         <source>Choisir un fichier :</source>
         <translation>Choose a file:</translation>
     </message>
+    <message id="Localisation.Txt_FiltreTexte">
+        <source>Fichiers texte</source>
+        <translation>Text files</translation>
+    </message>
+    <message id="Localisation.Txt_FiltreTous">
+        <source>Tous les fichiers</source>
+        <translation>All files</translation>
+    </message>
+    <message id="Localisation.Txt_ChoisirDossArchiv">
+        <source>Choisir le dossier où garder les anciens “scenery_packs.ini” :</source>
+        <translation>Choose the folder to keep the old “scenery_packs.ini” in:</translation>
+    </message>
     <message id="Localisation.Txt_SelectQueFichTxt">
         <source>Vous pouvez seulement sélectionner un fichier texte.</source>
         <translation>Only a text file can be selected.</translation>
@@ -575,7 +591,7 @@ Exit status: 0 all agrees, 1 something was reported,
     </message>
     <message id="Localisation.Btn_NePasRempl">
         <source>Ne pas remplacer</source>
-        <translation>Don't Replace</translation>
+        <translation>Don't replace</translation>
     </message>
     <message id="Localisation.Txt_NbTrouv">
         <source>Nombre de fois où les textes cherchés ont été trouvés :</source>

@@ -113,6 +113,10 @@ Pulse el botón “Guardar” para guardar el texto del área de texto en el arc
         <source>Édition</source>
         <translation>Edición</translation>
     </message>
+    <message id="Localisation.Menu_EditUndo">
+        <source>Annuler</source>
+        <translation>Deshacer</translation>
+    </message>
     <message id="Localisation.Menu_EditClear">
         <source>Effacer</source>
         <translation>Eliminar</translation>
@@ -529,6 +533,18 @@ Estado de salida: 0 todo concuerda, 1 se ha señalado algo,
     <message id="Localisation.Txt_ChoisirUnFich">
         <source>Choisir un fichier :</source>
         <translation>Elija un archivo:</translation>
+    </message>
+    <message id="Localisation.Txt_FiltreTexte">
+        <source>Fichiers texte</source>
+        <translation>Archivos de texto</translation>
+    </message>
+    <message id="Localisation.Txt_FiltreTous">
+        <source>Tous les fichiers</source>
+        <translation>Todos los archivos</translation>
+    </message>
+    <message id="Localisation.Txt_ChoisirDossArchiv">
+        <source>Choisir le dossier où garder les anciens “scenery_packs.ini” :</source>
+        <translation>Elija la carpeta donde guardar los “scenery_packs.ini” antiguos:</translation>
     </message>
     <message id="Localisation.Txt_SelectQueFichTxt">
         <source>Vous pouvez seulement sélectionner un fichier texte.</source>

@@ -113,6 +113,10 @@ Fare clic sul pulsante “Salva file” per salvare il testo dell'area di testo 
         <source>Édition</source>
         <translation>Modifica</translation>
     </message>
+    <message id="Localisation.Menu_EditUndo">
+        <source>Annuler</source>
+        <translation>Annulla</translation>
+    </message>
     <message id="Localisation.Menu_EditClear">
         <source>Effacer</source>
         <translation>Elimina</translation>
@@ -529,6 +533,18 @@ Stato di uscita: 0 tutto concorda, 1 qualcosa è stato segnalato,
     <message id="Localisation.Txt_ChoisirUnFich">
         <source>Choisir un fichier :</source>
         <translation>Scegliere un file:</translation>
+    </message>
+    <message id="Localisation.Txt_FiltreTexte">
+        <source>Fichiers texte</source>
+        <translation>File di testo</translation>
+    </message>
+    <message id="Localisation.Txt_FiltreTous">
+        <source>Tous les fichiers</source>
+        <translation>Tutti i file</translation>
+    </message>
+    <message id="Localisation.Txt_ChoisirDossArchiv">
+        <source>Choisir le dossier où garder les anciens “scenery_packs.ini” :</source>
+        <translation>Scegliere la cartella in cui conservare i vecchi “scenery_packs.ini”:</translation>
     </message>
     <message id="Localisation.Txt_SelectQueFichTxt">
         <source>Vous pouvez seulement sélectionner un fichier texte.</source>

@@ -113,6 +113,10 @@ Klik op de knop “Opslaan” om de tekst in het tekstvak op te slaan in het bes
         <source>Édition</source>
         <translation>Bewerken</translation>
     </message>
+    <message id="Localisation.Menu_EditUndo">
+        <source>Annuler</source>
+        <translation>Ongedaan maken</translation>
+    </message>
     <message id="Localisation.Menu_EditClear">
         <source>Effacer</source>
         <translation>Verwijderen</translation>
@@ -529,6 +533,18 @@ Afsluitstatus: 0 alles stemt overeen, 1 er is iets gemeld,
     <message id="Localisation.Txt_ChoisirUnFich">
         <source>Choisir un fichier :</source>
         <translation>Kies een bestand:</translation>
+    </message>
+    <message id="Localisation.Txt_FiltreTexte">
+        <source>Fichiers texte</source>
+        <translation>Tekstbestanden</translation>
+    </message>
+    <message id="Localisation.Txt_FiltreTous">
+        <source>Tous les fichiers</source>
+        <translation>Alle bestanden</translation>
+    </message>
+    <message id="Localisation.Txt_ChoisirDossArchiv">
+        <source>Choisir le dossier où garder les anciens “scenery_packs.ini” :</source>
+        <translation>Kies de map waarin de oude “scenery_packs.ini” bewaard worden:</translation>
     </message>
     <message id="Localisation.Txt_SelectQueFichTxt">
         <source>Vous pouvez seulement sélectionner un fichier texte.</source>

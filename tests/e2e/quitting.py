@@ -26,7 +26,7 @@ def quit_by_button(program):
 
 WAYS = {
     "the close box": quit_by_close_box,
-    "the menu": lambda program: program.act(next(n for n in nodes(program.window()) if n.get_name() == "Quit")),
+    "the menu": lambda program: program.act(next(n for n in nodes(program.window()) if n.get_name() == "Quitter")),
     "Ctrl+Q in Spécial A": lambda program: program.keys("ctrl+q"),
     "Quitter": quit_by_button,
     "SIGTERM": lambda program: program.process.send_signal(signal.SIGTERM),

@@ -90,7 +90,7 @@ def main(command):
             program.move(33, 120, 730, 600)
             kept = state(program)
             program.press("Fichier", "menu item")
-            program.press("Quit", "menu item")
+            program.press("Quitter", "menu item")
             assert program.wait_for_end() == 0
 
         saved, server = preferences(), Server(b"")

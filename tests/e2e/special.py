@@ -75,7 +75,7 @@ def edit(program):
     program.wait_for("four rows", lambda: rows() == 4)
     program.keys("shift+Delete")
     program.wait_for("three rows", lambda: rows() == 3)
-    for name in ("Édition", "Undo"):
+    for name in ("Édition", "Annuler"):
         place = program.extents(program.find("menu item", name))
         click(place[0] + 5, place[1] + 5)
     program.wait_for("the row that was taken back by the menu", lambda: cells(0) == ["Alpha", "Alpha", "beta", "beta"])

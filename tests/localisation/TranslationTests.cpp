@@ -36,10 +36,9 @@ class Translations : public testing::TestWithParam<std::string> {
 protected:
     const String language = Encodings::UTF8.Decode(GetParam());
 
-    static Bytes Source()
+    static String File(const std::string& name)
     {
-        const std::string file = std::string(TRANSLATIONS) + "/tarnivel_" + GetParam() + ".ts";
-        return TextInputStream::Open(FolderItem(file)).ReadAll();
+        return Encodings::UTF8.Decode(TextInputStream::Open(FolderItem(SOURCE_FOLDER "/" + name)).ReadAll());
     }
 };
 
@@ -56,7 +55,7 @@ TEST_P(Translations, EachTextIsTranslatedInTheShapeOfTheFrenchOne)
 
 TEST_P(Translations, TheFileShowsEachTextInFrenchAndIsFinished)
 {
-    const String file = Encodings::UTF8.Decode(Source());
+    const String file = File("resources/translations/tarnivel_" + GetParam() + ".ts");
     for (const auto& [name, text] : allTexts) {
         const String id = Encodings::UTF8.Decode("<message id=\"Localisation." + name + "\">\n        <source>");
         EXPECT_NE(file.find(id + text(french) + U"</source>"), String::npos) << name;
@@ -79,7 +78,16 @@ TEST_P(Translations, TheHelpNamesTheControlsByTheirCaptions)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(All, Translations, testing::Values("de", "en", "es", "it", "nl", "pt"),
+TEST_P(Translations, TheDesktopSpeaksTheLanguageToo)
+{
+    const String entry = File("packaging/fr.kavesti.tarnivel.desktop");
+    for (const StringView key : {U"GenericName", U"Comment", U"Keywords"})
+        EXPECT_NE(IndexOf(entry, String(key) + U"[" + language + U"]="), language == U"en" ? 0 : -1);
+    EXPECT_NE(IndexOf(File("packaging/fr.kavesti.tarnivel.metainfo.xml"), U"<summary xml:lang=\"" + language + U"\">"),
+              language == U"en" ? 0 : -1);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, Translations, testing::Values(LANGUAGES),
                          [](const auto& tested) { return tested.param; });
 
 } // namespace

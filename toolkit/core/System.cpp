@@ -28,7 +28,6 @@ const QTranslator* Translation(const String& language)
 /// "de" of "de-AT" and of "de_AT.UTF-8".
 String BaseLanguage(StringView language) { return FoldCase(language.substr(0, language.find_first_of(U"-_."))); }
 
-/// The first language of the user that the program speaks; the default texts are French.
 String FindUserLanguage()
 {
     const QStringList languages = QLocale::system().uiLanguages();
@@ -47,10 +46,15 @@ Int64 System::Ticks()
     return std::chrono::duration_cast<Tick>(std::chrono::steady_clock::now().time_since_epoch()).count();
 }
 
+String UserLanguage()
+{
+    static const String language = FindUserLanguage();
+    return language;
+}
+
 String SystemGetLocalizedString(StringView key, StringView defaultText, StringView language)
 {
-    static const String userLanguage = FindUserLanguage();
-    const QTranslator* translation = Translation(language.empty() ? userLanguage : BaseLanguage(language));
+    const QTranslator* translation = Translation(language.empty() ? UserLanguage() : BaseLanguage(language));
     if (!translation) return String(defaultText);
     const QString text = translation->translate("", ToQt(key).toUtf8().constData());
     return text.isEmpty() ? String(defaultText) : FromQt(text);

@@ -14,6 +14,9 @@ struct DateTime {
     static DateTime Now();
 };
 
+/// The first language of the user ("de", "pt") that the program speaks, or "fr", that of the default texts.
+String UserLanguage();
+
 /// The text for `key` in `language` ("de", "pt"), where an empty language means that of the user; `defaultText` where
 /// the program has no translation.
 ///
