@@ -1,23 +1,24 @@
 #include "toolkit/Sound.h"
 
 #include "toolkit/Probe.h"
-#include "toolkit/SoundVoice.h"
-#include "toolkit/WavFormat.h"
+#include "toolkit/core/QtText.h"
 
 #include <QCoreApplication>
 #include <QLibrary>
+#include <QUrl>
 #include <algorithm>
 
 namespace {
 
-/// What makes voices, or null where the module is missing or its libraries are: sounds are an extra.
-SoundVoiceMaker* LoadMaker()
+using SoundPlayer = void(const QUrl& file, float volume, const std::shared_ptr<std::atomic<bool>>& isPlaying);
+
+/// What plays, or null where the module is missing or its libraries are: sounds are an extra.
+SoundPlayer* LoadPlayer()
 {
     const QString programs = QCoreApplication::applicationDirPath();
     for (const char* const place : {"/", "/../lib/tarnivel/modules/", "/../PlugIns/"}) {
         const QString module = programs + QLatin1String(place) + QStringLiteral("libtarnivel_sound");
-        if (const auto found = QLibrary::resolve(module, "MakeSoundVoice"))
-            return reinterpret_cast<SoundVoiceMaker*>(found);
+        if (const auto found = QLibrary::resolve(module, "PlaySound")) return reinterpret_cast<SoundPlayer*>(found);
     }
     return nullptr;
 }
@@ -26,15 +27,13 @@ SoundVoiceMaker* LoadMaker()
 
 std::unique_ptr<Sound> Sound::OpenAsSound(const FolderItem& file)
 {
-    return WavFormat::Of(file.Path()) ? std::unique_ptr<Sound>(new Sound(file)) : nullptr;
+    return std::filesystem::is_regular_file(file.Path()) ? std::unique_ptr<Sound>(new Sound(file)) : nullptr;
 }
 
 Sound::Sound(FolderItem file)
     : file_(std::move(file))
 {
 }
-
-Sound::~Sound() = default;
 
 std::unique_ptr<Sound> Sound::Clone() const
 {
@@ -43,25 +42,16 @@ std::unique_ptr<Sound> Sound::Clone() const
     return second;
 }
 
-bool Sound::IsPlaying() const { return voice_ && voice_->IsPlaying(); }
-
 void Sound::Play()
 {
     if (Probe* const probe = Probe::Current()) {
         probe->Sounds.push_back(file_.Name());
         return;
     }
-    static SoundVoiceMaker* const make = LoadMaker();
-    if (!voice_ && make) {
-        if (const auto format = WavFormat::Of(file_.Path())) voice_.reset(make(file_.Path().c_str(), *format));
-    }
-    if (voice_) voice_->Play(volume_);
+    static SoundPlayer* const play = LoadPlayer();
+    if (!play) return;
+    *isPlaying_ = true;
+    play(QUrl::fromLocalFile(ToQt(file_.NativePath())), static_cast<float>(volume_) / 100, isPlaying_);
 }
 
-int Sound::Volume() const { return volume_; }
-
-void Sound::SetVolume(int percent)
-{
-    volume_ = std::clamp(percent, 0, 100);
-    if (voice_) voice_->SetVolume(volume_);
-}
+void Sound::SetVolume(int percent) { volume_ = std::clamp(percent, 0, 100); }

@@ -3,30 +3,29 @@
 
 #include "toolkit/core/FolderItem.h"
 
+#include <atomic>
 #include <memory>
-
-class SoundVoice;
 
 /// A sound that can be played many times. The platform's sound system is woken by the first `Play`, not before.
 class Sound {
 public:
-    /// The sound of a 16-bit PCM WAV file, or null when it is missing or none.
+    /// The sound of a 16-bit PCM WAV file, or null when there is no such file. It must end in half a second of silence:
+    /// a sound ends when its last sample has been handed over, not when it has been heard.
     static std::unique_ptr<Sound> OpenAsSound(const FolderItem& file);
-    ~Sound();
 
     /// A second voice of the same sound and volume.
     [[nodiscard]] std::unique_ptr<Sound> Clone() const;
-    [[nodiscard]] bool IsPlaying() const;
-    /// Plays from the start; without a sound device nothing happens.
+    [[nodiscard]] bool IsPlaying() const { return *isPlaying_; }
+    /// Plays from the start; without a sound device, or with a broken file, nothing happens.
     void Play();
 
-    /// Percent, 0 to 100.
-    [[nodiscard]] int Volume() const;
+    /// Percent, 0 to 100, from the next `Play` on.
+    [[nodiscard]] int Volume() const { return volume_; }
     void SetVolume(int percent);
 
 private:
     explicit Sound(FolderItem file);
     FolderItem file_;
     int volume_ = 100;
-    std::unique_ptr<SoundVoice> voice_;
+    std::shared_ptr<std::atomic<bool>> isPlaying_ = std::make_shared<std::atomic<bool>>(false);
 };

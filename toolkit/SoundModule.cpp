@@ -1,13 +1,30 @@
-#include "toolkit/SoundVoice.h"
-
+// What plays sounds lies in a module of its own, which is loaded when the first one is played: the libraries of the
+// platform's sound system cost more at the start of the program than all the rest of the layer.
 #include <QAudioDevice>
-#include <QAudioSink>
-#include <QBuffer>
-#include <QFile>
+#include <QCoreApplication>
 #include <QMediaDevices>
+#include <QSoundEffect>
+#include <QThread>
+#include <QUrl>
+#include <atomic>
 #include <memory>
 
 namespace {
+
+/// An object in a thread of its own: a sound server that accepts and doesn't answer holds up whoever asks it.
+QObject* MakeStage()
+{
+    auto* const thread = new QThread; // for good: it may be held up when the program ends
+    auto* const stage = new QObject;
+    stage->moveToThread(thread);
+    QObject::connect(thread, &QThread::finished, stage, &QObject::deleteLater);
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit, thread, [thread] {
+        thread->quit();
+        thread->wait(std::chrono::milliseconds(500));
+    });
+    thread->start();
+    return stage;
+}
 
 /// The device that sounds go to at this moment; null where there is none.
 QAudioDevice Device()
@@ -19,70 +36,26 @@ QAudioDevice Device()
     return device;
 }
 
-QAudioFormat FormatOf(const WavFormat& wav)
-{
-    QAudioFormat format;
-    format.setSampleFormat(QAudioFormat::Int16);
-    format.setChannelCount(wav.Channels);
-    format.setSampleRate(wav.Rate);
-    return format;
-}
-
-/// The samples of the file and a second of silence. Qt ends a sound when its last sample has been handed over, not when
-/// it has been heard, and would so swallow the end of each and the whole of the shortest.
-QByteArray ReadSamples(const char* path, const WavFormat& wav)
-{
-    QFile file(QFile::decodeName(path));
-    if (!file.open(QIODevice::ReadOnly) || !file.seek(wav.Offset)) return {};
-    const qsizetype samplesASecond = qsizetype{wav.Rate} * wav.Channels;
-    return file.read(wav.Length) + QByteArray(samplesASecond * WavFormat::BytesPerSample, '\0');
-}
-
-class SinkVoice final : public SoundVoice {
-public:
-    SinkVoice(const char* path, const WavFormat& wav)
-        : format_(FormatOf(wav))
-        , samples_(ReadSamples(path, wav))
-        , source_(&samples_)
-    {
-        source_.open(QIODevice::ReadOnly);
-    }
-
-    void Play(int volume) override
-    {
-        sink_.reset();
-        const QAudioDevice device = Device();
-        if (device.isNull()) return;
-        sink_ = std::make_unique<QAudioSink>(device, format_);
-        // The end is told from within the sink's own work.
-        QObject::connect(
-            sink_.get(), &QAudioSink::stateChanged, sink_.get(),
-            [this](QAudio::State state) {
-                if (state == QAudio::IdleState) sink_->stop();
-            },
-            Qt::QueuedConnection);
-        SetVolume(volume);
-        source_.seek(0);
-        sink_->start(&source_);
-    }
-
-    void SetVolume(int percent) override
-    {
-        constexpr qreal full = 100;
-        if (sink_) sink_->setVolume(percent / full);
-    }
-
-    [[nodiscard]] bool IsPlaying() const override { return sink_ && sink_->state() == QAudio::ActiveState; }
-
-private:
-    QAudioFormat format_;
-    QByteArray samples_;
-    QBuffer source_;
-    std::unique_ptr<QAudioSink> sink_;
-};
-
 } // namespace
 
-extern "C" Q_DECL_EXPORT SoundVoice* MakeSoundVoice(const char* path, const WavFormat& format);
+/// Plays a file, `volume` from 0 to 1; `isPlaying` becomes false at its end, and when it can't be played.
+extern "C" Q_DECL_EXPORT void PlaySound(const QUrl& file, float volume,
+                                        const std::shared_ptr<std::atomic<bool>>& isPlaying);
 
-SoundVoice* MakeSoundVoice(const char* path, const WavFormat& format) { return new SinkVoice(path, format); }
+void PlaySound(const QUrl& file, float volume, const std::shared_ptr<std::atomic<bool>>& isPlaying)
+{
+    static QObject* const stage = MakeStage();
+    QMetaObject::invokeMethod(stage, [file, volume, isPlaying] {
+        const QAudioDevice device = Device();
+        if (device.isNull()) return void(*isPlaying = false);
+        auto* const effect = new QSoundEffect(device, stage);
+        QObject::connect(effect, &QSoundEffect::playingChanged, effect, [effect, isPlaying] {
+            if (effect->isPlaying()) return;
+            *isPlaying = false;
+            effect->deleteLater();
+        });
+        effect->setVolume(volume);
+        effect->setSource(file);
+        effect->play();
+    });
+}

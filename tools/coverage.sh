@@ -12,7 +12,7 @@ tools/ctest.sh coverage -E EndToEnd | tail -n 1
 
 cd $build
 for source in ../../{engine,support}/*.cpp ../../preferences/Preferences.cpp ../../specialA/{FoldedText,Treatment}.cpp \
-    ../../mainwindow/{ArchiveName,Colouring,ReportSeries,Searching,Toggling}.cpp ../../toolkit/HttpAnswer.cpp; do
+    ../../mainwindow/{ArchiveName,Colouring,ReportSeries,Searching,Toggling}.cpp; do
     source=${source#../../}
     gcov -t "${source%/*}"/CMakeFiles/*.dir/"${source##*/}.gcda"
 done | awk -F: '

@@ -12,6 +12,7 @@ from pathlib import Path
 
 RATE = 44100
 PEAK = 0.5  # -6 dBFS
+SILENCE = 0.5  # seconds at the end: Qt ends a sound when its last sample has been handed over, not when it was heard
 FADE = 0.004  # seconds at both ends, so that no sound begins or ends with a click
 
 
@@ -77,7 +78,7 @@ def samples(function, length):
     fade = FADE * RATE
     values = [value * min(1, index / fade, (count - 1 - index) / fade) for index, value in enumerate(values)]
     loudest = max(map(abs, values))
-    return [round(value / loudest * PEAK * 32767) for value in values]
+    return [round(value / loudest * PEAK * 32767) for value in values] + [0] * round(SILENCE * RATE)
 
 
 def write(path, values):

@@ -1,9 +1,11 @@
-"""What is heard, recorded from a sound device that plays nothing: the slider of the preferences sets its loudness."""
+"""What is heard, recorded from a sound device that plays nothing: sounds are whole, the slider of the preferences sets
+their loudness. A sound server that accepts and doesn't answer holds up nothing."""
 
 import array
 import contextlib
 import math
 import os
+import socket
 import subprocess
 import sys
 import time
@@ -31,7 +33,7 @@ def sound_server(home):
 
 
 def loudness(server, play):
-    """The root mean square of what is heard after `play`, in steps of a sample."""
+    """The root mean square of what is heard after `play`, in steps of a sample, and the seconds from start to end."""
     command = ["parec", "--device=silent.monitor", "--raw", "--latency-msec=50", f"--rate={RATE}", "--channels=1", "--format=s16le"]
     recorder = subprocess.Popen(command, env=os.environ | server, stdout=subprocess.PIPE)
     try:
@@ -41,7 +43,34 @@ def loudness(server, play):
     finally:
         recorder.kill()
         recorder.wait()
-    return math.sqrt(sum(sample * sample for sample in samples) / len(samples))
+    heard = [place for place, sample in enumerate(samples) if abs(sample) > 20] or [0]
+    return math.sqrt(sum(sample * sample for sample in samples) / len(samples)), (heard[-1] - heard[0]) / RATE
+
+
+def open_special(program):
+    program.front = "Tarnivel"
+    program.press("Spécial A", "check box")
+    program.front = "Spécial A"
+
+
+def copy(program):
+    program.press("Copier la liste dans le presse-papiers")
+
+
+def silent_server(command, files):
+    path = f"{os.environ['XDG_RUNTIME_DIR']}/silent"
+    with socket.socket(socket.AF_UNIX) as server:
+        server.bind(path)
+        server.listen()
+        with Program([command], private_environment(files.home, PULSE_SERVER=f"unix:{path}")) as program:
+            open_special(program)
+            start = time.monotonic()
+            copy(program)
+            with server.accept()[0]:
+                copy(program)
+                program.keys("ctrl+q")
+                assert program.wait_for_end() == 0
+                assert time.monotonic() - start < 10, "the program waited for the sound server"
 
 
 def main(command):
@@ -52,10 +81,9 @@ def main(command):
             for percent in (100, 20, 0):
                 set_preferences(program, percent)
                 time.sleep(SECONDS)  # until the sound of the slider has ended
-                program.press("Spécial A", "check box")
-                program.front = "Spécial A"
-                copy = lambda: program.press("Copier la liste dans le presse-papiers")  # noqa: E731
-                heard[percent] = loudness(server, copy)
+                open_special(program)
+                heard[percent], length = loudness(server, lambda: copy(program))
+                assert percent == 0 or 0.08 < length < 0.16, f"0.12 seconds were heard as {length}"
                 window = program.window()
                 program.front = "Tarnivel"
                 program.press("Spécial A", "check box")
@@ -63,6 +91,7 @@ def main(command):
             print(heard)
             assert heard[0] == 0 and 1 < heard[20] < heard[100] / 2, heard
             assert program.close() == 0
+        silent_server(command, files)
 
 
 main(*sys.argv[1:])

@@ -19,7 +19,7 @@ public:
         , afterwards_(afterwards)
     {
         if (security) static_cast<QSslServer&>(*server_).setSslConfiguration(*security);
-        server_->listen(QHostAddress::LocalHost);
+        server_->listen(QHostAddress::Any);
         Url = QStringLiteral("%1://127.0.0.1:%2/page")
                   .arg(QLatin1String(security ? "https" : "http"))
                   .arg(server_->serverPort())
@@ -32,7 +32,7 @@ public:
 
     std::u32string Url;
     /// All that the clients have sent.
-    QByteArray Requests;
+    mutable QByteArray Requests;
 
 private:
     void Serve(QTcpSocket& socket)
