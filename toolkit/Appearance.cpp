@@ -13,6 +13,21 @@ constexpr int SmallestFontSize = 9;
 
 } // namespace
 
+QPalette LightPalette()
+{
+    const QColor window(0xEFEFEF), disabled(0x666666);
+    QPalette light(window, window);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        light.setColor(QPalette::Disabled, role, disabled);
+    light.setColor(QPalette::PlaceholderText, disabled);
+    light.setColor(QPalette::Highlight, 0x2A7AB0);
+    light.setColor(QPalette::HighlightedText, Qt::white);
+    light.setColor(QPalette::Link, Qt::blue);
+    light.setColor(QPalette::ToolTipBase, 0xFFFFDC);
+    light.setColor(QPalette::ToolTipText, Qt::black);
+    return light;
+}
+
 void SetControlFont(QWidget& content)
 {
 #ifndef Q_OS_MACOS

@@ -9,6 +9,9 @@
 class QTextEdit;
 class QWidget;
 
+/// The colours of all windows, light on every desktop: the fixed colours of texts are made for them.
+QPalette LightPalette();
+
 /// The size of the controls' texts in points of the layout, where the platform leaves it to us: the heights of the
 /// placements of controls are made for it.
 inline constexpr int ControlFontSize = 12;

@@ -1,5 +1,6 @@
 #include "toolkit/DesktopApplication.h"
 
+#include "toolkit/Appearance.h"
 #include "toolkit/Dialogs.h"
 #include "toolkit/SessionEnd.h"
 #include "toolkit/core/FolderItem.h"
@@ -9,6 +10,7 @@
 #include <QApplication>
 #include <QFontDatabase>
 #include <QIcon>
+#include <QToolTip>
 #include <QTranslator>
 #include <algorithm>
 #include <csignal>
@@ -67,6 +69,8 @@ DesktopApplication::DesktopApplication(int& argc, char** argv, String name, Stri
     , application_(MakeApplication(argc, argv))
 {
     current_ = this;
+    QApplication::setPalette(LightPalette());
+    QToolTip::setPalette(LightPalette());
     QuitAtSessionEnd([this] { Quit(0); });
     // A file above the user's limit of sizes is an error of its writer, and no end of the program.
     std::signal(SIGXFSZ, SIG_IGN);
