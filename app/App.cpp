@@ -31,10 +31,8 @@ bool App::ExtInFileType(StringView ext)
                                                [ext](StringView extension) { return SameText(extension, ext); });
 }
 
-Int16 App::DefVolSon(Int16 value, bool set)
+void App::DefVolSon(Int16 value)
 {
-    if (!set) return volSon_;
     volSon_ = value < 0 || value > 100 ? Int16{80} : value;
     Fncts::SetVolume(volSon_);
-    return volSon_;
 }

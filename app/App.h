@@ -34,9 +34,9 @@ public:
     /// Whether `ext`, with its leading dot, is an extension of text files; case is ignored.
     [[nodiscard]] static bool ExtInFileType(StringView ext);
 
-    /// Keeps the volume of all sounds, in percent. With `set` it becomes `value`, or 80 for a value outside 0 to 100;
-    /// the result is the volume from now on.
-    Int16 DefVolSon(Int16 value, bool set);
+    /// The volume of all sounds, in percent. It becomes `value`, or 80 for a value outside 0 to 100.
+    [[nodiscard]] Int16 DefVolSon() const { return volSon_; }
+    void DefVolSon(Int16 value);
 
 private:
     static inline App* current_ = nullptr;

@@ -14,6 +14,7 @@ struct MenuBar1 {
     DesktopQuitMenuItem FileQuit{U"FileQuit", Localisation::Btn_Quit(), U"Cmd+Cmd+Q"};
 
     DesktopMenuItem EditUndo{U"EditUndo", Localisation::Menu_EditUndo(), U"Cmd+Z", EditCommand::Undo};
+    DesktopMenuItem EditRedo{U"EditRedo", Localisation::Menu_EditRedo(), U"Cmd+Shift+Z; Cmd+Y", EditCommand::Redo};
     DesktopMenuItem EditCut{U"EditCut", Localisation::Menu_EditCut(), U"Cmd+X", EditCommand::Cut};
     DesktopMenuItem EditCopy{U"EditCopy", Localisation::Menu_EditCopy(), U"Cmd+C", EditCommand::Copy};
     DesktopMenuItem EditPaste{U"EditPaste", Localisation::Menu_EditPaste(), U"Cmd+V", EditCommand::Paste};
@@ -33,7 +34,7 @@ struct MenuBar1 {
              {&FichSelFichModel, &FichSelArchivDoss, &FichSelFichSpack, &FichSaveFile, &UntitledSeparator, &FileQuit}},
             {U"EditMenu",
              Localisation::Menu_Edit(),
-             {&EditUndo, &UntitledSeparator, &EditCut, &EditCopy, &EditPaste, &EditClear, &EditSelectAll,
+             {&EditUndo, &EditRedo, &UntitledSeparator, &EditCut, &EditCopy, &EditPaste, &EditClear, &EditSelectAll,
               &UntitledSeparator, &ApplePrefs}},
         };
     }

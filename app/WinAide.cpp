@@ -45,7 +45,7 @@ WinAide::WinAide()
     BoutonOk.SetDefault();
     Opening = [this] { Event_Opening(); };
     CancelClosing = [this](bool) { return Event_CancelClosing(); };
-    Activated = [this] { Fncts::CmLabBlockUI(2, this, nullptr, nullptr); };
+    Activated = [this] { Fncts::CmLabBlockUI(Fncts::CoverAct::Activated, this); };
     BoutonOk.Pressed = [this] { BoutonOk_Pressed(); };
     Web2.Pressed = [this] { System::GotoURL(Web2.Text()); };
     Email2.Pressed = [this] { FollowEmail2(); };

@@ -36,16 +36,7 @@ function(house_library name)
 endfunction()
 
 # house_bundle(name): makes the program a macOS bundle, with the resources, the icon and the module for sounds inside.
-# The file types are those of app/FileTypes.h.
 function(house_bundle name)
-  file(STRINGS ${PROJECT_SOURCE_DIR}/app/FileTypes.h line REGEX "\\.Extensions = ")
-  string(REGEX MATCHALL "\\.[a-z0-9]+" extensions "${line}")
-  set(HOUSE_DOCUMENT_EXTENSIONS "")
-  foreach(extension IN LISTS extensions)
-    string(SUBSTRING ${extension} 1 -1 extension)
-    string(APPEND HOUSE_DOCUMENT_EXTENSIONS "        <string>${extension}</string>\n")
-  endforeach()
-  string(STRIP "${HOUSE_DOCUMENT_EXTENSIONS}" HOUSE_DOCUMENT_EXTENSIONS)
   # The name of the executable is filled in by CMake itself, later.
   configure_file(${PROJECT_SOURCE_DIR}/cmake/Info.plist.in ${PROJECT_BINARY_DIR}/Info.plist @ONLY)
   set_target_properties(${name} PROPERTIES

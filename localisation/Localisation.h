@@ -64,6 +64,7 @@ inline constexpr Text Btn_Ok{U"Btn_Ok", U"Ok"};
 inline constexpr Text Btn_Fermer{U"Btn_Fermer", U"Fermer"};
 inline constexpr Text Menu_Edit{U"Menu_Edit", U"Édition"};
 inline constexpr Text Menu_EditUndo{U"Menu_EditUndo", U"Annuler"};
+inline constexpr Text Menu_EditRedo{U"Menu_EditRedo", U"Rétablir"};
 inline constexpr Text Menu_EditClear{U"Menu_EditClear", U"Effacer"};
 inline constexpr Text Menu_EditCopy{U"Menu_EditCopy", U"Copier"};
 inline constexpr Text Menu_EditCut{U"Menu_EditCut", U"Couper"};

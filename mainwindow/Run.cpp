@@ -78,6 +78,16 @@ void WinMain::EndRun()
     TextAreaAff.SetFocus();
 }
 
+void WinMain::InRun(const std::function<void()>& step)
+{
+    try {
+        step();
+    } catch (...) {
+        EndRun();
+        throw;
+    }
+}
+
 void WinMain::Reorder(SceneryTexts& texts, const FolderItem& dossier)
 {
     ReportSeries reports([this](const String& message, const String& explanation) { Tell(message, explanation); });

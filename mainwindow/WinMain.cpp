@@ -121,7 +121,7 @@ void WinMain::BindHandlers()
     Opening = [this] { Event_Opening(); };
     CancelClosing = [this](bool appQuitting) { return Event_CancelClosing(appQuitting); };
     Activated = [this] {
-        Fncts::CmLabBlockUI(2, this, nullptr, nullptr);
+        Fncts::CmLabBlockUI(Fncts::CoverAct::Activated, this);
         Fncts::WrkArrSegButBugF(*this);
     };
     BtnSelFichModel.Pressed = [this] { ActSelFichModel(Keyboard::AsyncShiftKey()); };
@@ -143,13 +143,13 @@ void WinMain::BindHandlers()
         TextFieldCherch.SelectAll();
     };
     BtnRun.Pressed = [this] { BtnRun_Pressed(); };
-    TimerDebRun.Action = [this] { TimerDebRun_Action(); };
+    TimerDebRun.Action = [this] { InRun([&] { TimerDebRun_Action(); }); };
     // An error page is content like any other: the header test refuses it.
     URLCnctLirePage.ContentReceived = [this](const String& /*url*/, Int64 /*httpStatus*/, const Bytes& content) {
-        RunSuite(Fncts::TextOfBytes(content));
+        InRun([&] { RunSuite(Fncts::TextOfBytes(content)); });
     };
     URLCnctLirePage.Error = [this](const RuntimeException& error) {
-        RunSuite(String(ErrorMarker) + ToText(error.ErrorNumber) + U" " + error.Message);
+        InRun([&] { RunSuite(String(ErrorMarker) + ToText(error.ErrorNumber) + U" " + error.Message); });
     };
     PopMenuAff.SelectionChanged = [this] { PopMenuAff_SelectionChanged(); };
     StaticTextVersion.Pressed = [] { System::GotoURL(Addresses::VersionNotes); };
@@ -228,7 +228,7 @@ void WinMain::RefuseStart(StringView failure)
 {
     Fncts::BeepNbT(1);
     const String message = Join({{ContactAuthors, U" ", failure}}, EndOfLine::Native);
-    Fncts::MyDialogBox({.message = message, .btnAction = Btn_Quit(), .icon = 3});
+    Fncts::MyDialogBox({.message = message, .btnAction = Btn_Quit(), .icon = Fncts::DialogIcon::Failure});
     Fncts::DrapMenu = true;
     Fncts::DossierPref.reset();
     Close();

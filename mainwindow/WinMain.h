@@ -111,6 +111,8 @@ private:
     void RunSuite(String model);
     void Reorder(SceneryTexts& texts, const FolderItem& dossier);
     void EndRun();
+    /// Does a step of the run; an exception ends the run.
+    void InRun(const std::function<void()>& step);
 
     // Save.cpp
     /// One question of a save: whether the user goes on.

@@ -67,7 +67,7 @@ void WinMain::PrefsCharger()
     app.TabSpecAorg = std::move(preferences.TabSpecAorg);
     app.TabSpecAdest1 = std::move(preferences.TabSpecAdest1);
     app.TabSpecAdest2 = std::move(preferences.TabSpecAdest2);
-    app.DefVolSon(preferences.volume, true);
+    app.DefVolSon(preferences.volume);
 
     const DesktopDisplay screen = DesktopDisplay::DisplayAt(0);
     const WindowGeometry geometry =
@@ -83,12 +83,13 @@ void WinMain::PrefsSauver() const
 {
     if (!Fncts::PasNil_Existe_Alias(Fncts::DossierPref, true)) return;
     App& app = App::Current();
-    const auto points = [](int length) { return static_cast<Int16>(length); };
+    const WindowPlace place = RestoredPlace();
+    const DesktopDisplay screen = DesktopDisplay::DisplayAt(0);
     const String text = WritePreferences({
         .DrapAffBtnSpecA = app.DrapAffBtnSpecA,
         .archive = ChBoxArchiv.Value(),
-        .volume = app.DefVolSon(-1, false),
-        .geometry = {points(Left()), points(Top()), points(Width()), points(Height())},
+        .volume = app.DefVolSon(),
+        .geometry = WithinScreen(place.left, place.top, place.width, place.height, screen.Width, screen.Height),
         .sourceModel = {.index = RadGrpSrc.SelectedIndex()},
         .modelFile = TextFieldMod1.Text(),
         .modelUrl = TextFieldMod2.Text(),

@@ -1,5 +1,6 @@
 #include "preferences/Preferences.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -118,13 +119,27 @@ String WritePreferences(const Preferences& preferences)
     return text;
 }
 
+namespace {
+
+constexpr int topMargin = 48;
+
+} // namespace
+
 WindowGeometry FitToScreen(const WindowGeometry& stored, int minimumWidth, int minimumHeight, int screenWidth,
                            int screenHeight)
 {
-    constexpr int topMargin = 48;
     const bool fits = stored.left >= 0 && stored.top >= topMargin && stored.width >= minimumWidth &&
                       stored.height >= minimumHeight && stored.left + stored.width <= screenWidth &&
                       stored.top + stored.height <= screenHeight;
     if (fits) return stored;
     return {30, 60, static_cast<Int16>(screenWidth - 60), static_cast<Int16>(screenHeight - 60)};
+}
+
+WindowGeometry WithinScreen(int left, int top, int width, int height, int screenWidth, int screenHeight)
+{
+    width = std::min(width, screenWidth);
+    height = std::min(height, screenHeight - topMargin);
+    const auto points = [](int length) { return static_cast<Int16>(length); };
+    return {points(std::clamp(left, 0, screenWidth - width)), points(std::clamp(top, topMargin, screenHeight - height)),
+            points(width), points(height)};
 }

@@ -55,3 +55,6 @@ String WritePreferences(const Preferences& preferences);
 /// 48 points at the top belong to the menu bar and the window's title.
 WindowGeometry FitToScreen(const WindowGeometry& stored, int minimumWidth, int minimumHeight, int screenWidth,
                            int screenHeight);
+
+/// The place to store for a window: its own, moved and made smaller as far as `FitToScreen` wants it.
+WindowGeometry WithinScreen(int left, int top, int width, int height, int screenWidth, int screenHeight);

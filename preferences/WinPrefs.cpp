@@ -43,7 +43,7 @@ WinPrefs::WinPrefs(const DesktopWindow& winMain, DesktopSegmentedButton& segButt
     SliderVol.SetAccessibleName(StText_VolSfx());
     Opening = [this] { Event_Opening(); };
     CancelClosing = [this](bool) { return Event_CancelClosing(); };
-    Activated = [this] { Fncts::CmLabBlockUI(2, this, nullptr, nullptr); };
+    Activated = [this] { Fncts::CmLabBlockUI(Fncts::CoverAct::Activated, this); };
     PushButtOk.Pressed = [this] { PushButtOk_Pressed(); };
     PushButtAnnuler.Pressed = [this] { PushButtAnnuler_Pressed(); };
     SliderVol.ValueChanged = [this] { SliderVol_ValueChanged(); };
@@ -60,7 +60,7 @@ void WinPrefs::Event_Opening()
     DrapMovableModal = true;
     DrapMenuTemp = std::exchange(Fncts::DrapMenu, false);
     CheckBoxAffBtnSpecA.SetValue(App::Current().DrapAffBtnSpecA);
-    SliderVol.SetValue(App::Current().DefVolSon(-1, false));
+    SliderVol.SetValue(App::Current().DefVolSon());
 }
 
 void WinPrefs::SliderVol_ValueChanged() { SliderVol.SetTooltip(ToText(SliderVol.Value())); }
@@ -72,7 +72,7 @@ void WinPrefs::PushButtOk_Pressed()
         app.DrapAffBtnSpecA = CheckBoxAffBtnSpecA.Value();
         segButtSpecA_.SetVisible(app.DrapAffBtnSpecA);
     }
-    app.DefVolSon(static_cast<Int16>(SliderVol.Value()), true);
+    app.DefVolSon(static_cast<Int16>(SliderVol.Value()));
     FermFenetr();
 }
 

@@ -39,7 +39,7 @@ void WinSpecA::ActButtSource(std::optional<FolderItem> item)
     if (!item) item = Fncts::MyDialogLoad(FichOrg, Txt_ChoisirUnFich(), FileTypes::TextPlain.Extensions, this, true);
     if (!item) return;
     if (item->IsFolder() || item->IsAlias())
-        Tell(Txt_SelectQueFichTxt(), 0);
+        Tell(Txt_SelectQueFichTxt());
     else
         FichOrg = std::move(item);
     FairePath();
@@ -66,7 +66,7 @@ void WinSpecA::GroupBoxSource_DropObject(const DragItem& item)
     AffCanvDrag(0, 0, -1, -1);
     if (!Fncts::DrapMenu) return Fncts::BeepNbT(1);
     if (std::optional<FolderItem> dropped = DroppedText(item)) return ActButtSource(std::move(dropped));
-    Tell(Txt_DropQueFichTxt(), 0);
+    Tell(Txt_DropQueFichTxt());
 }
 
 void WinSpecA::AffCanvDrag(int left, int top, int width, int height)

@@ -1,6 +1,7 @@
 #include "app/App.h"
 #include "localisation/Localisation.h"
 #include "specialA/WinSpecA.h"
+#include "support/AtEnd.h"
 #include "support/DialogHelpers.h"
 #include "support/FileHelpers.h"
 #include "support/Fncts.h"
@@ -12,6 +13,7 @@
 #include <new>
 
 using namespace Localisation;
+using Fncts::DialogIcon;
 
 void WinSpecA::EnableControls(bool idle)
 {
@@ -21,13 +23,13 @@ void WinSpecA::EnableControls(bool idle)
         control->SetEnabled(idle);
 }
 
-Int16 WinSpecA::Ask(StringView message, StringView action, StringView cancel, Int16 icon)
+Int16 WinSpecA::Ask(StringView message, StringView action, StringView cancel, DialogIcon icon)
 {
     return Fncts::MyDialogBox(
         {.message = message, .btnAction = action, .btnCancel = cancel, .icon = icon, .win = this});
 }
 
-void WinSpecA::Tell(StringView message, Int16 icon)
+void WinSpecA::Tell(StringView message, DialogIcon icon)
 {
     Fncts::BeepNbT(1);
     Ask(message, Btn_Ok(), {}, icon);
@@ -36,15 +38,14 @@ void WinSpecA::Tell(StringView message, Int16 icon)
 void WinSpecA::PushButtTrait_Pressed()
 {
     CanvFocus.SetFocus();
-    if (!FairePath()) return Tell(Txt_FichOrgNonDef(), 0);
+    if (!FairePath()) return Tell(Txt_FichOrgNonDef());
+    const AtEnd idleAgain([] { App::Current().EnableMenuBoutons(true); });
     App::Current().EnableMenuBoutons(false);
     try {
         TreatOriginal();
     } catch (const std::bad_alloc&) {
-        ProgressTrait.SetVisible(false);
-        Tell(Txt_ErreurEcritFich(), 1);
+        Tell(Txt_ErreurEcritFich(), DialogIcon::Warning);
     }
-    App::Current().EnableMenuBoutons(true);
 }
 
 void WinSpecA::TreatOriginal()
@@ -52,7 +53,7 @@ void WinSpecA::TreatOriginal()
     const String original = Fncts::LireFichier(FichOrg);
     FaireTab();
     const Treatment treated = TreatVisibly(original);
-    if (Ask(Txt_NbTrouv() + treated.report, Btn_Cont(), Btn_Arreter(), 0) != 1) return;
+    if (Ask(Txt_NbTrouv() + treated.report, Btn_Cont(), Btn_Arreter()) != 1) return;
     WriteDestination(App::Current().TabSpecAdest1.front(), treated.dest1, original);
     WriteDestination(App::Current().TabSpecAdest2.front(), treated.dest2, original);
 }
@@ -64,10 +65,11 @@ Treatment WinSpecA::TreatVisibly(StringView original)
     for (std::size_t i = 1; i < app.TabSpecAorg.size(); ++i)
         rows.push_back({app.TabSpecAorg[i], app.TabSpecAdest1[i], app.TabSpecAdest2[i]});
 
+    const AtEnd gone([this] { ProgressTrait.SetVisible(false); });
     constexpr Int64 ticksUnseen = 30, ticksBetween = 3;
     const Int64 start = System::Ticks();
     Int64 last = start;
-    Treatment treated = Treat(original, rows, [&](Int64 done, Int64 total) {
+    return Treat(original, rows, [&](Int64 done, Int64 total) {
         const Int64 now = System::Ticks();
         if (now - last < ticksBetween) return;
         last = now;
@@ -75,21 +77,19 @@ Treatment WinSpecA::TreatVisibly(StringView original)
         ProgressTrait.SetValue(static_cast<int>(100 * done / total));
         DesktopApplication::YieldToPlatform();
     });
-    ProgressTrait.SetVisible(false);
-    return treated;
 }
 
 void WinSpecA::WriteDestination(StringView name, const std::optional<String>& text, StringView original)
 {
     if (name.empty()) return;
-    if (!text) return Tell(Txt_ErreurEcritFich(), 1);
+    if (!text) return Tell(Txt_ErreurEcritFich(), DialogIcon::Warning);
     if (SameText(*text, original)) {
         Fncts::BeepNbT(1);
-        if (Ask(Txt_FichPasModif(), Btn_Cont(), Btn_Arreter(), 0) != 1) return;
+        if (Ask(Txt_FichPasModif(), Btn_Cont(), Btn_Arreter()) != 1) return;
     }
     const std::optional<FolderItem> target = FreeTarget(name);
     if (!target) return;
-    if (!Fncts::SauvFichier(*target, *text)) return Tell(Txt_ErreurEcritFich(), 1);
+    if (!Fncts::SauvFichier(*target, *text)) return Tell(Txt_ErreurEcritFich(), DialogIcon::Warning);
     Fncts::PlayT(Fncts::_x_Msg::Msg());
 }
 
@@ -99,14 +99,14 @@ std::optional<FolderItem> WinSpecA::FreeTarget(StringView name)
     std::optional<FolderItem> target = folder ? folder->Child(name, false) : std::nullopt;
     if (!target) {
         // A name that no file can have, or that would lead out of the folder.
-        Tell(Txt_ErreurEcritFich(), 1);
+        Tell(Txt_ErreurEcritFich(), DialogIcon::Warning);
         return {};
     }
     if (!target->Exists()) return target;
     const String question = Txt_NomExiste();
     const String named = Fncts::FracTexte(question, 1) + String(name) + Fncts::FracTexte(question, 2);
-    if (Ask(named, Btn_Remplacer(), Btn_NePasRempl(), 0) != 1) return {};
+    if (Ask(named, Btn_Remplacer(), Btn_NePasRempl()) != 1) return {};
     if (!Fncts::RemoveFileOrFolder(*target, false)) return target;
-    Tell(Txt_Rempl_Imposs(), 1);
+    Tell(Txt_Rempl_Imposs(), DialogIcon::Warning);
     return {};
 }

@@ -12,7 +12,7 @@ using namespace Localisation;
 namespace {
 
 constexpr unsigned L = Lock::Left, T = Lock::Top, R = Lock::Right, B = Lock::Bottom;
-constexpr LabelStyle desktopColor{.color = std::nullopt}, multiline{.fontSize = 12, .multiline = true};
+constexpr LabelStyle multiline{.fontSize = 12, .multiline = true};
 constexpr FieldStyle onlyRead{.readOnly = true, .color = {0x5E5E5E}}, fileName{.oneLine = true};
 
 /// Stripes, so that the eye stays in its row.
@@ -44,10 +44,10 @@ WinSpecA::WinSpecA(const DesktopWindow& winMain, DesktopSegmentedButton& segButt
     , PushButtSource   (*this, { 484,  88, 152,  20, T | R,          0}, Btn_ChoisirFich())
     , StTextFichSource (*this, {  34,  45, 607,  40, L | T | R,      1}, {}, multiline)
     , ListboxRR        (*this, {  20, 159, 630, 189, L | T | R | B,  5}, 3)
-    , LabelOrg         (*this, {  20, 135,  58,  20, L | T},             LabOrg(), desktopColor)
+    , LabelOrg         (*this, {  20, 135,  58,  20, L | T},             LabOrg())
     , PushButtTrait    (*this, { 570, 360,  80,  20, R | B,          9}, Btn_Trait())
-    , LabelDest2       (*this, { 440, 135,  58,  20, L | T},             LabDest2(), desktopColor)
-    , LabelDest1       (*this, { 230, 135,  58,  20, L | T},             LabDest1(), desktopColor)
+    , LabelDest2       (*this, { 440, 135,  58,  20, L | T},             LabDest2())
+    , LabelDest1       (*this, { 230, 135,  58,  20, L | T},             LabDest1())
     , CanvDrag         (*this, { 626,   2,  20,  20, 0})
     , PushButtAdd      (*this, {  20, 360,  26,  20, L | B,          6}, U"+")
     , PushButtSupp     (*this, {  49, 360,  26,  20, L | B,          7}, U"-")
@@ -91,7 +91,7 @@ void WinSpecA::BindHandlers()
 {
     Opening = [this] { Event_Opening(); };
     CancelClosing = [this](bool appQuitting) { return Event_CancelClosing(appQuitting); };
-    Activated = [this] { Fncts::CmLabBlockUI(2, this, nullptr, nullptr); };
+    Activated = [this] { Fncts::CmLabBlockUI(Fncts::CoverAct::Activated, this); };
     GroupBoxSource.DragEnter = [this] { GroupBoxSource_DragEnter(); };
     GroupBoxSource.DragExit = [this] { GroupBoxSource_DragExit(); };
     GroupBoxSource.DropObject = [this](const DragItem& item) { GroupBoxSource_DropObject(item); };
@@ -145,7 +145,7 @@ bool WinSpecA::Event_CancelClosing(bool appQuitting)
 
 void WinSpecA::FermFenetr()
 {
-    App::Current().WspecAheight = static_cast<Int16>(Height());
+    App::Current().WspecAheight = static_cast<Int16>(RestoredPlace().height);
     FairePath();
     FaireTab();
 }

@@ -3,6 +3,7 @@
 
 #include "specialA/Treatment.h"
 #include "support/Covers.h"
+#include "support/DialogHelpers.h"
 #include "toolkit/DesktopCanvas.h"
 #include "toolkit/DesktopControls.h"
 #include "toolkit/DesktopGroupBox.h"
@@ -82,9 +83,10 @@ private:
     Int16 FaireTab();
 
     // Treat.cpp
-    Int16 Ask(StringView message, StringView action, StringView cancel, Int16 icon);
+    Int16 Ask(StringView message, StringView action, StringView cancel,
+              Fncts::DialogIcon icon = Fncts::DialogIcon::Note);
     /// After a beep.
-    void Tell(StringView message, Int16 icon);
+    void Tell(StringView message, Fncts::DialogIcon icon = Fncts::DialogIcon::Note);
     /// Treats the original and writes what comes of it, after all questions.
     void TreatOriginal();
     /// The treatment of a text, during which the window stays alive.

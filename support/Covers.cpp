@@ -81,7 +81,7 @@ void LabBlockUISet::Opening()
     if (!clone_) {
         clone_ = std::make_unique<DesktopLabel>(first_.Parent(), uncovered, U"UI", labelStyle);
         clone_->SetVisible(false);
-        CmLabBlockUI(0, &first_.Parent(), &first_, clone_.get());
+        CmLabBlockUI(CoverAct::Make, &first_.Parent(), &first_, clone_.get());
     }
     if (!ControlsNamed(first_.Parent(), strangerName).empty()) TellAuthors(U"LabBlockUI, LabBlockUI(2) is not Nil");
 }
@@ -89,7 +89,7 @@ void LabBlockUISet::Opening()
 bool CtrlDsFenetrDiag(DesktopWindow* win, bool opening)
 {
     if (opening && (win == nullptr || !win->Visible())) return false;
-    CmLabBlockUI(1, opening ? win : nullptr, nullptr, nullptr);
+    CmLabBlockUI(CoverAct::Remember, opening ? win : nullptr);
     for (DesktopWindow* const window : WindowsFromLastToFirst()) {
         if (window == win || !window->Visible()) continue;
         if (opening)
@@ -100,25 +100,23 @@ bool CtrlDsFenetrDiag(DesktopWindow* win, bool opening)
     return opening;
 }
 
-bool CmLabBlockUI(Int16 action, DesktopWindow* win, DesktopLabel* first, DesktopLabel* clone)
+bool CmLabBlockUI(CoverAct act, DesktopWindow* win, DesktopLabel* first, DesktopLabel* clone)
 {
     static DesktopWindow* MemFenetr = nullptr;
     static Int64 TpDerTicks = 0;
     constexpr Int64 ticksOfOneAct = 12;
-    switch (action) {
-    case 0:
+    switch (act) {
+    case CoverAct::Make:
         MakeCover(win, *first, *clone);
         break;
-    case 1:
+    case CoverAct::Remember:
         MemFenetr = win;
         break;
-    case 2:
+    case CoverAct::Activated:
         if (MemFenetr == nullptr || MemFenetr == win) break;
         if (System::Ticks() - TpDerTicks > ticksOfOneAct) System::Beep();
         MemFenetr->Show();
         break;
-    default:
-        TellAuthors(U"CmLabBlockUI, Which case ? TampNbre = " + ToText(action));
     }
     TpDerTicks = System::Ticks();
     return MemFenetr == nullptr;

@@ -29,11 +29,18 @@ private:
 /// on `win`: it is true when `opening` is and the window is visible; else nothing is covered.
 bool CtrlDsFenetrDiag(DesktopWindow* win, bool opening);
 
-/// Knows the window that a dialog hangs on. `action` 0 makes the label `clone` the cover that belongs to `first`; 1
-/// remembers the dialog's window `win`, or forgets it (null); 2 says that `win` was activated, and sends the user back
-/// to the dialog's window, with one beep unless the last call is no more than 12 ticks ago. The result is true when no
-/// window is remembered.
-bool CmLabBlockUI(Int16 action, DesktopWindow* win, DesktopLabel* first, DesktopLabel* clone);
+enum class CoverAct {
+    /// The label `clone` becomes the cover that belongs to `first`.
+    Make,
+    /// The dialog's window `win` is remembered, or forgotten (null).
+    Remember,
+    /// `win` was activated: the user is sent back to the dialog's window, with one beep unless the last call is no more
+    /// than 12 ticks ago.
+    Activated,
+};
+
+/// Knows the window that a dialog hangs on. The result is true when no window is remembered.
+bool CmLabBlockUI(CoverAct act, DesktopWindow* win, DesktopLabel* first = nullptr, DesktopLabel* clone = nullptr);
 
 /// Moves each control to where its class looks best beside the others: text fields one point up, sliders two down. Once
 /// for each window.

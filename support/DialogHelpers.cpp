@@ -1,5 +1,6 @@
 #include "support/DialogHelpers.h"
 
+#include "support/AtEnd.h"
 #include "support/Covers.h"
 #include "support/Diagnostics.h"
 #include "support/FileHelpers.h"
@@ -17,19 +18,22 @@ auto InFrame(DesktopWindow* win, bool sheet, const Ask& ask)
 {
     Fncts::DrapDiagBox = true;
     const bool drapMenuBefore = std::exchange(Fncts::DrapMenu, false);
-    const bool useWin = !sheet || Fncts::CtrlDsFenetrDiag(win, true);
-    auto answer = ask(useWin ? win : nullptr);
-    if (sheet && useWin) Fncts::CtrlDsFenetrDiag(win, false);
-    if (sheet && win != nullptr) Fncts::WrkArrSegButBugF(*win);
-    Fncts::DrapMenu = drapMenuBefore;
-    Fncts::DrapDiagBox = false;
-    return answer;
+    bool useWin = false;
+    const AtEnd restored([&] {
+        if (sheet && useWin) Fncts::CtrlDsFenetrDiag(win, false);
+        if (sheet && win != nullptr) Fncts::WrkArrSegButBugF(*win);
+        Fncts::DrapMenu = drapMenuBefore;
+        Fncts::DrapDiagBox = false;
+    });
+    useWin = !sheet || Fncts::CtrlDsFenetrDiag(win, true);
+    return ask(useWin ? win : nullptr);
 }
 
-int IconType(Int16 icon)
+/// The platform's number of an icon.
+int IconType(Fncts::DialogIcon icon)
 {
     constexpr std::array iconTypes = {0, 1, 3, 2};
-    return icon >= 0 && icon < std::ssize(iconTypes) ? iconTypes[static_cast<std::size_t>(icon)] : -1;
+    return iconTypes.at(static_cast<std::size_t>(icon));
 }
 
 std::optional<FolderItem> InitialFolder(const std::optional<FolderItem>& start)

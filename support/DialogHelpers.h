@@ -11,12 +11,13 @@ class DesktopWindow;
 
 namespace Fncts {
 
+enum class DialogIcon { Note, Warning, Question, Failure };
+
 struct Question {
     StringView message, explanation = {};
     /// Captions. The action button must have one; the two others are shown when they have one.
     StringView btnAction, btnCancel = {}, btnAlternate = {};
-    /// 0 for an ordinary notice, 1 for a warning, 2 for a question, 3 for a failure; any other number shows none.
-    Int16 icon = 0;
+    DialogIcon icon = DialogIcon::Note;
     DesktopWindow* win = nullptr;
     bool sheet = true;
 };

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int SmallestFontSize = 9;
+constexpr int SmallestFontSize = 9, ControlFontSize = 12, LargestControlFontSize = 14;
 
 } // namespace
 
@@ -32,7 +32,7 @@ void SetControlFont(QWidget& content)
 {
 #ifndef Q_OS_MACOS
     QFont font;
-    font.setPixelSize(ControlFontSize);
+    font.setPixelSize(std::clamp(QFontInfo(font).pixelSize(), ControlFontSize, LargestControlFontSize));
     content.setFont(font);
 #endif
 }
@@ -77,6 +77,5 @@ void SetBlackOnWhite(QWidget& widget)
     QPalette palette = widget.palette();
     palette.setColor(QPalette::Base, Qt::white);
     palette.setColor(QPalette::Text, Qt::black);
-    palette.setColor(QPalette::Disabled, QPalette::Text, Qt::darkGray);
     widget.setPalette(palette);
 }

@@ -12,11 +12,8 @@ class QWidget;
 /// The colours of all windows, light on every desktop: the fixed colours of texts are made for them.
 QPalette LightPalette();
 
-/// The size of the controls' texts in points of the layout, where the platform leaves it to us: the heights of the
-/// placements of controls are made for it.
-inline constexpr int ControlFontSize = 12;
-
-/// Brings the controls of a window's content to that size.
+/// Gives the controls of a window's content, where the platform leaves it to us, the size of the desktop's font as far
+/// as their placements have room for it: 12 to 14 points of the layout.
 void SetControlFont(QWidget& content);
 
 /// Gives the widget the font of its parent in the size `fontSize` (0 for the parent's), or the largest one down to 9 at

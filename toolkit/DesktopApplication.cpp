@@ -3,6 +3,7 @@
 #include "toolkit/Appearance.h"
 #include "toolkit/Dialogs.h"
 #include "toolkit/SessionEnd.h"
+#include "toolkit/StrayKeys.h"
 #include "toolkit/core/FolderItem.h"
 #include "toolkit/core/QtText.h"
 #include "toolkit/core/System.h"
@@ -34,7 +35,7 @@ void TellOfException(const char* what) noexcept
     telling = false;
 }
 
-/// Ends an exception at the event that raised it, so that the program goes on with the next one.
+/// Ends an exception at the event that raised it, so that the program goes on with the next one; drops stray keys.
 class GuardedApplication final : public QApplication {
 public:
     using QApplication::QApplication;
@@ -42,6 +43,7 @@ public:
     bool notify(QObject* receiver, QEvent* event) override
     {
         try {
+            if (StrayKeys::IsOne(*event)) return true;
             return QApplication::notify(receiver, event);
         } catch (const std::exception& error) {
             TellOfException(error.what());

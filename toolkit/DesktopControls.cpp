@@ -159,7 +159,9 @@ void DesktopSegmentedButton::SetSelected(int segmentIndex, bool selected)
 
 void DesktopSegmentedButton::SetShortcut(StringView keys)
 {
-    static_cast<QPushButton*>(widget_)->setShortcut(QKeySequence(ToQt(keys)));
+    auto* const shortcut = new QShortcut(QKeySequence(ToQt(keys)), widget_);
+    shortcut->setContext(Qt::ApplicationShortcut);
+    QObject::connect(shortcut, &QShortcut::activated, widget_, [this] { static_cast<QPushButton*>(widget_)->click(); });
 }
 
 DesktopSlider::DesktopSlider(DesktopWindow& window, const Placement& placement, const SliderStyle& style)

@@ -55,8 +55,7 @@ public:
 enum class TextAlignment { Left, Center, Right };
 
 struct LabelStyle {
-    /// Nothing for the desktop's colour.
-    std::optional<ColorGroup> color = ColorGroup{};
+    ColorGroup color{};
     TextAlignment alignment = TextAlignment::Left;
     bool bold = false;
     bool underline = false;
@@ -128,7 +127,7 @@ public:
 
     [[nodiscard]] bool Selected(int segmentIndex) const;
     void SetSelected(int segmentIndex, bool selected);
-    /// Keys such as "Ctrl+S" (Cmd on macOS) that press the button wherever the focus in its window is.
+    /// Keys such as "Ctrl+S" (Cmd on macOS) that press the button from any window of the program.
     void SetShortcut(StringView keys);
 
     std::function<void(int segmentIndex)> Pressed;

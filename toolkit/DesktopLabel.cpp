@@ -108,7 +108,7 @@ QWidget* MakeMultiline(const LabelStyle& style)
     text->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     text->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     text->document()->setDocumentMargin(0);
-    SetTextColor(*text, QPalette::Text, style.color.value_or(ColorGroup{}));
+    SetTextColor(*text, QPalette::Text, style.color);
     return text;
 }
 
@@ -138,7 +138,7 @@ DesktopLabel::DesktopLabel(DesktopWindow& window, const Placement& placement, St
     font.setBold(style.bold);
     font.setUnderline(style.underline);
     label->setFont(font);
-    if (style.color) SetTextColor(*label, QPalette::WindowText, *style.color);
+    SetTextColor(*label, QPalette::WindowText, style.color);
     SetText(text);
 }
 

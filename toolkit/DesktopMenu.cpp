@@ -8,6 +8,8 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPointer>
+#include <QShortcut>
+#include <algorithm>
 #include <utility>
 
 DesktopMenuItem::DesktopMenuItem(String name, String text, String shortcut, EditCommand edit)
@@ -20,13 +22,32 @@ DesktopMenuItem::DesktopMenuItem(String name, String text, String shortcut, Edit
 
 namespace {
 
-QKeySequence KeysOf(StringView shortcut)
+QList<QKeySequence> KeysOf(StringView shortcut)
 {
     QString keys = ToQt(shortcut);
     keys.replace(QStringLiteral("Cmd+Cmd"), QStringLiteral("Cmd"));
     keys.replace(QStringLiteral("Cmd"), QStringLiteral("Ctrl"))
         .replace(QStringLiteral("Option"), QStringLiteral("Alt"));
-    return QKeySequence(keys, QKeySequence::PortableText);
+    return QKeySequence::listFromString(keys, QKeySequence::PortableText);
+}
+
+/// Marks in each text that has no mark yet the first letter that no other one has for its key.
+void MarkKeys(const QList<QAction*>& actions)
+{
+    QString taken;
+    for (const QAction* const action : actions)
+        if (const qsizetype mark = action->text().indexOf(u'&'); mark >= 0)
+            taken += action->text().mid(mark + 1, 1).toLower();
+    for (QAction* const action : actions) {
+        QString text = action->text();
+        if (text.contains(u'&')) continue;
+        const auto isFree = [&](QChar letter) { return letter >= u'a' && letter <= u'z' && !taken.contains(letter); };
+        const QString letters = text.toLower();
+        const qsizetype at = std::ranges::find_if(letters, isFree) - letters.begin();
+        if (at == letters.size()) continue;
+        taken += letters[at];
+        action->setText(text.insert(at, u'&'));
+    }
 }
 
 QAction::MenuRole RoleOf(const DesktopMenuItem& item)
@@ -46,6 +67,9 @@ public:
     {
         for (const DesktopMenu& menu : menus)
             AddMenu(menu);
+        MarkKeys(actions());
+        connect(new QShortcut(Qt::Key_F10, parent), &QShortcut::activated, this,
+                [this] { setActiveAction(actions().front()); });
         connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { FollowFocus(now); });
     }
 
@@ -56,6 +80,7 @@ private:
         list->setObjectName(ToQt(menu.name));
         for (DesktopMenuItem* item : menu.items)
             AddItem(*list, *item);
+        MarkKeys(list->actions());
         connect(list, &QMenu::aboutToShow, this, [this, list, items = menu.items] {
             Validate();
             for (qsizetype i = 0; i < list->actions().size(); ++i)
@@ -76,7 +101,7 @@ private:
         }
         QAction* action = list.addAction(ToQt(item.Text));
         action->setObjectName(ToQt(item.Name));
-        action->setShortcut(KeysOf(item.Shortcut));
+        action->setShortcuts(KeysOf(item.Shortcut));
         action->setMenuRole(RoleOf(item));
         connect(action, &QAction::triggered, this, [this, &item] { Trigger(item); });
     }

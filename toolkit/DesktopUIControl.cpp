@@ -52,7 +52,7 @@ void DesktopUIControl::SetTooltip(StringView tooltip) { widget_->setToolTip(ToQt
 
 void DesktopUIControl::SetAccessibleName(StringView name) { widget_->setAccessibleName(ToQt(name)); }
 
-bool DesktopUIControl::TakesInput() const { return window_.TakesInput(); }
+bool DesktopUIControl::TakesInput() const { return Visible() && Enabled() && window_.TakesInput(); }
 
 void DesktopUIControl::SetFocus() { widget_->setFocus(); }
 

@@ -63,7 +63,8 @@ public:
     /// A press by the mouse leaves the focus where it is.
     void SetFocusByTabAlone();
     [[nodiscard]] DesktopWindow& Parent() const { return window_; }
-    /// Whether an act of the user counts; see `DesktopWindow::TakesInput`.
+    /// Whether an act of the user counts: a screen reader can press what is hidden or disabled. See
+    /// `DesktopWindow::TakesInput`.
     [[nodiscard]] bool TakesInput() const;
 
 protected:

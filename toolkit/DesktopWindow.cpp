@@ -4,6 +4,7 @@
 #include "toolkit/DesktopApplication.h"
 #include "toolkit/Probe.h"
 #include "toolkit/StatusBar.h"
+#include "toolkit/StrayKeys.h"
 #include "toolkit/core/QtText.h"
 
 #include <QAbstractButton>
@@ -27,8 +28,8 @@ public:
     void ResizeContent(int width, int height);
     /// From the main screen's top left corner, as the two positions that follow.
     void MoveContent(int left, int top);
-    [[nodiscard]] int Left() const { return geometry().x() - MainScreen().x(); }
-    [[nodiscard]] int Top() const { return geometry().y() + MenuHeight() - MainScreen().y(); }
+    /// While the window is maximised, the place that it has otherwise, if `restored`.
+    [[nodiscard]] WindowPlace Place(bool restored) const;
     /// How far the content lies below the top edge.
     [[nodiscard]] int MenuHeight() const;
 
@@ -69,6 +70,7 @@ private:
 
     DesktopWindow& owner_;
     QMenuBar* const menuBar_;
+    QPoint placeLastSet_;
 };
 
 namespace {
@@ -141,8 +143,19 @@ void DesktopWindow::Shell::ResizeContent(int width, int height)
 void DesktopWindow::Shell::MoveContent(int left, int top)
 {
     // Not move(), which places the frame.
+    placeLastSet_ = {left, top};
     const QPoint corner = MainScreen() + QPoint(left, top - MenuHeight());
     setGeometry(QRect(corner, size()));
+}
+
+WindowPlace DesktopWindow::Shell::Place(bool restored) const
+{
+    const bool isElsewhere = restored && (isMaximized() || isFullScreen());
+    const QRect now = isElsewhere ? normalGeometry() : geometry();
+    const bool isTold = !QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
+    const QPoint corner = isTold ? now.topLeft() + QPoint(0, MenuHeight()) - MainScreen() : placeLastSet_;
+    if (!isElsewhere) return {corner.x(), corner.y(), owner_.width_, owner_.height_};
+    return {corner.x(), corner.y(), now.width(), now.height() - (height() - content->height())};
 }
 
 void DesktopWindow::Shell::HandKeyboardOn() const
@@ -155,6 +168,10 @@ bool DesktopWindow::Shell::event(QEvent* event)
     const bool handled = QWidget::event(event);
     if (event->type() == QEvent::WindowBlocked || event->type() == QEvent::WindowUnblocked)
         isBlocked = event->type() == QEvent::WindowBlocked;
+    // Some window managers show their buttons all the same; minimised, a dialog takes the window below it along.
+    if (event->type() == QEvent::WindowStateChange && isMinimized() &&
+        !windowFlags().testFlag(Qt::WindowMinimizeButtonHint))
+        setWindowState(windowState() & ~Qt::WindowMinimized);
     if (event->type() != QEvent::WindowActivate) return handled;
     if (owner_.Activated) owner_.Activated();
     // The platform activates a window for a press on it, even for one that came just before the dialog was seen.
@@ -202,9 +219,11 @@ int DesktopWindow::MinimumWidth() const { return shell_->content->minimumWidth()
 
 int DesktopWindow::MinimumHeight() const { return shell_->content->minimumHeight(); }
 
-int DesktopWindow::Left() const { return shell_->Left(); }
+int DesktopWindow::Left() const { return shell_->Place(false).left; }
 
-int DesktopWindow::Top() const { return shell_->Top(); }
+int DesktopWindow::Top() const { return shell_->Place(false).top; }
+
+WindowPlace DesktopWindow::RestoredPlace() const { return shell_->Place(true); }
 
 void DesktopWindow::SetLeft(int points) { shell_->MoveContent(points, Top()); }
 
@@ -255,6 +274,7 @@ void DesktopWindow::Close()
     if (CancelClosing && CancelClosing(false)) return;
     opened_ = false;
     shell_->hide();
+    if (shell_->isModal()) StrayKeys::DialogHasEnded();
     DesktopApplication::WindowClosed();
 }
 

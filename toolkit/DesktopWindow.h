@@ -21,6 +21,11 @@ struct WindowStyle {
     bool hasTitleButtons = true;
 };
 
+/// A window's place and size in points, as `DesktopWindow::Left` and those after it.
+struct WindowPlace {
+    int left, top, width, height;
+};
+
 /// A window and the controls that stand in it, in the order of their creation. Hidden until `Show`.
 class DesktopWindow {
 public:
@@ -39,6 +44,7 @@ public:
     [[nodiscard]] int MinimumHeight() const;
 
     /// The content's place in points from the main screen's top left corner; the frame and the bars lie outside.
+    /// Where the desktop doesn't tell a window where it stands, as on Wayland, the place last set.
     [[nodiscard]] int Left() const;
     [[nodiscard]] int Top() const;
     [[nodiscard]] int Width() const { return width_; }
@@ -47,6 +53,8 @@ public:
     void SetTop(int points);
     void SetWidth(int points);
     void SetHeight(int points);
+    /// Where the window stands, or, while it is maximised, would stand again afterwards.
+    [[nodiscard]] WindowPlace RestoredPlace() const;
 
     /// How far the window reaches below its content.
     [[nodiscard]] int StatusHeight() const;

@@ -3,6 +3,7 @@
 #include "toolkit/DesktopWindow.h"
 #include "toolkit/MessageWindow.h"
 #include "toolkit/Probe.h"
+#include "toolkit/StrayKeys.h"
 #include "toolkit/core/QtText.h"
 
 #include <QApplication>
@@ -63,6 +64,7 @@ std::unique_ptr<Dialog> Finished(Dialog* dialog)
         // A dialog of no window stops all of them, and must not get lost behind the one that is in use.
         dialog->setParent(inUse, dialog->windowFlags());
     dialog->exec();
+    StrayKeys::DialogHasEnded();
     return std::unique_ptr<Dialog>(watched.data());
 }
 

@@ -117,6 +117,10 @@ Klicken Sie auf „Speichern“, um den Text des Textbereichs in der Datei zu sp
         <source>Annuler</source>
         <translation>Rückgängig</translation>
     </message>
+    <message id="Localisation.Menu_EditRedo">
+        <source>Rétablir</source>
+        <translation>Wiederholen</translation>
+    </message>
     <message id="Localisation.Menu_EditClear">
         <source>Effacer</source>
         <translation>Löschen</translation>

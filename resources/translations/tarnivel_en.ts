@@ -117,6 +117,10 @@ Click the “Save file” button to save the text of the text area to the file s
         <source>Annuler</source>
         <translation>Undo</translation>
     </message>
+    <message id="Localisation.Menu_EditRedo">
+        <source>Rétablir</source>
+        <translation>Redo</translation>
+    </message>
     <message id="Localisation.Menu_EditClear">
         <source>Effacer</source>
         <translation>Delete</translation>

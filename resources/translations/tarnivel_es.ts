@@ -117,6 +117,10 @@ Pulse el botón “Guardar” para guardar el texto del área de texto en el arc
         <source>Annuler</source>
         <translation>Deshacer</translation>
     </message>
+    <message id="Localisation.Menu_EditRedo">
+        <source>Rétablir</source>
+        <translation>Rehacer</translation>
+    </message>
     <message id="Localisation.Menu_EditClear">
         <source>Effacer</source>
         <translation>Eliminar</translation>

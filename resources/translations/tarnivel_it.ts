@@ -117,6 +117,10 @@ Fare clic sul pulsante “Salva file” per salvare il testo dell'area di testo 
         <source>Annuler</source>
         <translation>Annulla</translation>
     </message>
+    <message id="Localisation.Menu_EditRedo">
+        <source>Rétablir</source>
+        <translation>Ripeti</translation>
+    </message>
     <message id="Localisation.Menu_EditClear">
         <source>Effacer</source>
         <translation>Elimina</translation>

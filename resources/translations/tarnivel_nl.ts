@@ -117,6 +117,10 @@ Klik op de knop “Opslaan” om de tekst in het tekstvak op te slaan in het bes
         <source>Annuler</source>
         <translation>Ongedaan maken</translation>
     </message>
+    <message id="Localisation.Menu_EditRedo">
+        <source>Rétablir</source>
+        <translation>Opnieuw</translation>
+    </message>
     <message id="Localisation.Menu_EditClear">
         <source>Effacer</source>
         <translation>Verwijderen</translation>

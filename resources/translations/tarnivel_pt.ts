@@ -117,6 +117,10 @@ Clique no botão “Guardar” para guardar o texto da área de texto no ficheir
         <source>Annuler</source>
         <translation>Desfazer</translation>
     </message>
+    <message id="Localisation.Menu_EditRedo">
+        <source>Rétablir</source>
+        <translation>Refazer</translation>
+    </message>
     <message id="Localisation.Menu_EditClear">
         <source>Effacer</source>
         <translation>Apagar</translation>

@@ -4,7 +4,7 @@ import pathlib
 import sys
 import tempfile
 
-from desktop import Program, has, private_environment
+from desktop import Program, has, private_environment, xdotool
 from sample import sample
 from server import Server
 
@@ -89,6 +89,8 @@ def main(command):
             program.press(MODEL, "radio button")
             program.move(33, 120, 730, 600)
             kept = state(program)
+            xdotool("mousemove", 200, 110, "click", "--repeat", 2, "--delay", 50, 1)
+            program.wait_for("a maximised window", lambda: program.extents(program.window())[2] > 1200)
             program.press("Fichier", "menu item")
             program.press("Quitter", "menu item")
             assert program.wait_for_end() == 0

@@ -193,7 +193,7 @@ TEST_F(MainWindow, ThePreferencesFillTheControls)
     EXPECT_TRUE(window->ChBoxArchiv.Value());
     EXPECT_EQ(window->TextFieldArchiv.Text(), U"b");
     EXPECT_EQ(window->TextFieldSpack.Text(), U"c");
-    EXPECT_EQ(app->DefVolSon(-1, false), 80);
+    EXPECT_EQ(app->DefVolSon(), 80);
     EXPECT_TRUE(window->SegButtSpecA.Visible());
 }
 

@@ -101,6 +101,15 @@ TEST(Geometry, AWindowThatDoesNotFitTheScreenGetsTheDefaultPlace)
     for (const auto& [name, stored, fits] : rows)
         EXPECT_EQ(FitToScreen(stored, 720, 400, 1280, 800), fits ? stored : (WindowGeometry{30, 60, 1220, 740}))
             << name;
+    const std::tuple<const char*, WindowGeometry, WindowGeometry> kept[] = {
+        {"a window that fits keeps its place", {30, 60, 760, 500}, {30, 60, 760, 500}},
+        {"at the top edge it moves down", {30, 38, 760, 500}, {30, 48, 760, 500}},
+        {"as high as the screen it gets lower", {0, 38, 1280, 762}, {0, 48, 1280, 752}},
+        {"over all edges of a small screen", {-20, 10, 2000, 900}, {0, 48, 1280, 752}},
+        {"over the right and the bottom edge", {800, 500, 760, 500}, {520, 300, 760, 500}},
+    };
+    for (const auto& [name, now, stored] : kept)
+        EXPECT_EQ(WithinScreen(now.left, now.top, now.width, now.height, 1280, 800), stored) << name;
 }
 
 } // namespace

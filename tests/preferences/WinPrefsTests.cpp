@@ -30,7 +30,7 @@ protected:
 
 TEST_F(PreferencesWindow, TakesOverBothSettingsOrNone)
 {
-    app.DefVolSon(40, true);
+    app.DefVolSon(40);
     app.DrapAffBtnSpecA = false;
     segButtSpecA.SetVisible(false);
     for (const bool taken : {false, true}) {
@@ -41,13 +41,13 @@ TEST_F(PreferencesWindow, TakesOverBothSettingsOrNone)
         window->SliderVol.SetValue(7);
         EXPECT_EQ(window->SliderVol.Tooltip(), U"7");
         window->CheckBoxAffBtnSpecA.SetValue(true);
-        EXPECT_EQ(app.DefVolSon(-1, false), 40) << "not before the button is pressed";
+        EXPECT_EQ(app.DefVolSon(), 40) << "not before the button is pressed";
         window->Close();
         EXPECT_TRUE(window->Visible());
         taken ? window->PushButtOk_Pressed() : window->PushButtAnnuler_Pressed();
         EXPECT_FALSE(window->Visible());
         EXPECT_TRUE(Fncts::DrapMenu);
-        EXPECT_EQ(app.DefVolSon(-1, false), taken ? 7 : 40);
+        EXPECT_EQ(app.DefVolSon(), taken ? 7 : 40);
         EXPECT_EQ(app.DrapAffBtnSpecA, taken);
         EXPECT_EQ(segButtSpecA.Visible(), taken);
     }

@@ -60,7 +60,8 @@ TEST_F(Dialogs, TheButtonPressedIsTheResultAndTheProgramIsQuietMeanwhile)
         EXPECT_FALSE(Fncts::DrapDiagBox);
     }
     EXPECT_EQ(probe_.Asked.back(), U"Really?[Yes][No][Later]");
-    Fncts::MyDialogBox({.message = U"", .explanation = U"More", .btnAction = U"Ok", .icon = 3});
+    Fncts::MyDialogBox(
+        {.message = U"", .explanation = U"More", .btnAction = U"Ok", .icon = Fncts::DialogIcon::Failure});
     EXPECT_EQ(probe_.Asked.back(), U" \nMore[Ok]");
     Fncts::MyDialogBox({.message = U"No action", .btnAction = U"", .win = &asking_});
     EXPECT_EQ(probe_.Asked[5], U"Error !\nPlease contact the authors.\nMy DialogBox, BtnAct = ''");
@@ -91,6 +92,14 @@ TEST_F(Dialogs, ASheetCoversTheOtherVisibleWindowsAlone)
     EXPECT_EQ(probe_.Asked.size(), 4U);
 }
 
+TEST_F(Dialogs, AFaultInADialogLeavesNothingLocked)
+{
+    Fncts::DrapMenu = true;
+    probe_.WhileAsking = [] { throw std::bad_alloc(); };
+    EXPECT_THROW(Ask(&asking_), std::bad_alloc);
+    EXPECT_TRUE(Fncts::DrapMenu && !Fncts::DrapDiagBox && other_.IsFree());
+}
+
 TEST_F(Dialogs, AChooserGivesTheItemChosen)
 {
     probe_.Answers = {std::optional(FolderItem("/a"))};
@@ -101,16 +110,16 @@ TEST_F(Dialogs, AChooserGivesTheItemChosen)
 
 TEST_F(Dialogs, AnActivatedWindowSendsTheUserBackWithOneBeep)
 {
-    const auto activate = [&] { return Fncts::CmLabBlockUI(2, &other_, nullptr, nullptr); };
+    const auto activate = [&] { return Fncts::CmLabBlockUI(Fncts::CoverAct::Activated, &other_); };
     EXPECT_TRUE(activate()) << "no dialog";
-    EXPECT_FALSE(Fncts::CmLabBlockUI(1, &asking_, nullptr, nullptr));
+    EXPECT_FALSE(Fncts::CmLabBlockUI(Fncts::CoverAct::Remember, &asking_));
     EXPECT_FALSE(activate());
     EXPECT_EQ(probe_.Beeps, 0) << "at once after the dialog opened";
     Fncts::Pause(14);
     activate();
     activate();
     EXPECT_EQ(probe_.Beeps, 1);
-    Fncts::CmLabBlockUI(1, nullptr, nullptr, nullptr);
+    Fncts::CmLabBlockUI(Fncts::CoverAct::Remember, nullptr);
 }
 
 TEST_F(Dialogs, AWindowHasOneCover)
@@ -124,8 +133,6 @@ TEST_F(Dialogs, AWindowHasOneCover)
     Fncts::CtrlDsFenetrDiag(&asking_, true);
     EXPECT_EQ(Told(), U"CtrlDsFenetrDiag, 'LabBlockUI' should be Lock Left and Lock Top");
     EXPECT_TRUE(other_.IsCovered());
-    Fncts::CmLabBlockUI(3, nullptr, nullptr, nullptr);
-    EXPECT_EQ(Told(), U"CmLabBlockUI, Which case ? TampNbre = 3");
     other_.Cover().SetName(U"");
     Fncts::CtrlDsFenetrDiag(&asking_, true);
     EXPECT_EQ(Told(), U"CtrlDsFenetrDiag, there is not 'LabBlockUI' in window 'other'");

@@ -1,4 +1,6 @@
 #include "tests/TemporaryFolder.h"
+#include "tests/toolkit/WidgetTest.h"
+#include "toolkit/DesktopControls.h"
 #include "toolkit/DesktopWindow.h"
 #include "toolkit/Dialogs.h"
 #include "toolkit/Probe.h"
@@ -115,6 +117,29 @@ TEST(MessageDialog, ShowsTextsAsTheyAre)
         const String message = row.message.toStdU32String(), explanation = row.explanation.toStdU32String();
         EXPECT_EQ((MessageDialog{2, message, explanation, caption, {}, {}}.ShowModal()), Button::None);
     }
+}
+
+TEST(MessageDialog, TheKeyThatClosedItTypesNothing)
+{
+    DesktopWindow window({.title = U"Below", .width = 300, .height = 200});
+    DesktopTextField field(window, {0, 0, 200, 22});
+    field.SetName(U"field");
+    window.Show();
+    field.SetFocus();
+    WhenUp(Presses(Qt::Key_Return));
+    EXPECT_EQ((MessageDialog{-1, U"Really?", {}, U"Yes", {}, {}}.ShowModal(&window)), Button::Action);
+    auto* const line = &Find<QLineEdit>("field");
+    QTest::keyClick(line, Qt::Key_Space);
+    EXPECT_EQ(field.Text(), U"") << "it bounces";
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "), true);
+    const auto pressesAgain = [&] { return QTest::keyClick(line, Qt::Key_Space), !field.Text().empty(); };
+    do
+        QApplication::sendEvent(line, &held);
+    while (!pressesAgain());
+    EXPECT_EQ(field.Text(), U" ") << "held, it types nothing, but pressed anew";
+    QApplication::sendEvent(line, &held);
+    QTest::keyClick(line, Qt::Key_B, Qt::AltModifier);
+    EXPECT_EQ(field.Text(), U"  ") << "held to type blanks, and a letter with Alt";
 }
 
 TEST(MessageDialog, HangsOnItsWindow)

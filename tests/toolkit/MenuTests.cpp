@@ -56,12 +56,13 @@ struct MenuTest : ::testing::Test {
     }
 };
 
-TEST_F(MenuTest, ShortcutsAreThoseOfTheText)
+TEST_F(MenuTest, ShortcutsAreThoseOfTheTextAndEachItemHasAKey)
 {
     std::string keys;
     for (const char* item : {"Open", "Archive", "Quit", "Preferences", "Clear"})
-        keys += Item(item).shortcut().toString(QKeySequence::PortableText).toStdString() + " ";
-    EXPECT_EQ(keys, "Ctrl+Shift+O Ctrl+Alt+O Ctrl+Q Ctrl+,  ");
+        keys += Item(item).text().toStdString() + " " +
+                Item(item).shortcut().toString(QKeySequence::PortableText).toStdString() + " ";
+    EXPECT_EQ(keys, "&Ouvrir… Ctrl+Shift+O &Archive… Ctrl+Alt+O &Quit Ctrl+Q &Préférences… Ctrl+, &Effacer  ");
 }
 
 TEST_F(MenuTest, ItemsAreCheckedWhenTheyAreToAct)
@@ -94,6 +95,10 @@ TEST_F(MenuTest, EditItemsServeTheControlWithTheFocus)
     EXPECT_EQ(enabled(), "Undo Paste");
     Item("Undo").trigger();
     EXPECT_EQ(field.Text(), U"abc");
+    Item("Redo").trigger();
+    EXPECT_EQ(field.Text(), U"");
+    EXPECT_EQ(enabled(), "Undo Paste");
+    Item("Undo").trigger();
 
     area.SetText(U"x\u2028\ny");
     area.SetFocus();

@@ -18,6 +18,7 @@ struct TestMenus {
     DesktopMenuItem separator{U"", U"-"};
     DesktopQuitMenuItem quit{U"Quit", U"&Quit", U"Cmd+Cmd+Q"};
     DesktopMenuItem undo{U"Undo", U"&Undo", U"Cmd+Z", EditCommand::Undo};
+    DesktopMenuItem redo{U"Redo", U"Rétablir", U"Cmd+Shift+Z; Cmd+Y", EditCommand::Redo};
     DesktopMenuItem cut{U"Cut", U"Couper", U"Cmd+X", EditCommand::Cut};
     DesktopMenuItem copy{U"Copy", U"Copier", U"Cmd+C", EditCommand::Copy};
     DesktopMenuItem paste{U"Paste", U"Coller", U"Cmd+V", EditCommand::Paste};
@@ -28,6 +29,6 @@ struct TestMenus {
     DesktopMenuBar Menus()
     {
         return {{U"File", U"Fichier", {&open, &archive, &separator, &quit}},
-                {U"Edit", U"Édition", {&undo, &cut, &copy, &paste, &clear, &selectAll, &preferences}}};
+                {U"Edit", U"Édition", {&undo, &redo, &cut, &copy, &paste, &clear, &selectAll, &preferences}}};
     }
 };

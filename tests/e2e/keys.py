@@ -1,0 +1,78 @@
+"""Keys that a hand presses once too often, menus and undo by keyboard, and one key for Spécial A from both windows."""
+
+import sys
+
+from desktop import Program, has, private_environment, xdotool
+from sample import sample
+
+
+def check_bouncing_return(program):
+    program.press("Générer")
+    report = program.dialog()
+    program.wait_for("an active dialog", lambda: has(report, "active"))
+    program.keys("Return", "Return", "Return")
+    program.wait_until_gone(report)
+    area = program.find("text", "Spack Après")
+    program.wait_for("the focus in the text", lambda: has(area, "focused"))
+    text = program.text(area)
+    program.type("x")
+    program.wait_for("what was typed", lambda: program.text(area) != text)
+    assert program.text(area) == "x" + text, program.text(area)[:20]
+    return area, text
+
+
+def check_menus(program, area):
+    for keys, menu in (("alt+f", "Fichier"), ("F10", "Fichier"), ("alt+d", "Édition")):
+        program.keys(keys)
+        bar = program.find("menu item", menu)
+        program.wait_for(f"the menu {menu}", lambda: has(bar, "focused") and program.all("popup menu"))
+        program.keys("Escape", "Escape")
+        program.wait_for("the focus in the text", lambda: has(area, "focused") and not program.all("popup menu"))
+
+
+def check_undo(program, area, text):
+    program.keys("alt+b", "alt+x", "ctrl+z")
+    program.wait_for("the text without the edit", lambda: program.text(area) == text)
+    for redo in ("ctrl+shift+z", "ctrl+y"):
+        program.keys(redo)
+        program.wait_for("the edit again", lambda: program.text(area) == "x" + text)
+        program.keys("ctrl+z")
+        program.wait_for("the text without the edit", lambda: program.text(area) == text)
+
+
+def check_special(program):
+    program.keys("ctrl+shift+a")
+    program.front = "Spécial A"
+    special = program.window()
+    program.wait_for("an active window", lambda: has(special, "active"))
+    program.keys("ctrl+shift+a")
+    program.wait_until_gone(special)
+    program.front = "Tarnivel"
+
+
+def check_preferences_stay(program):
+    """Minimised, the window would take the main window along."""
+    program.keys("ctrl+comma")
+    program.front = "Préférences"
+    preferences = program.window()
+    program.wait_for("an active window", lambda: has(preferences, "active"))
+    xdotool("getactivewindow", "windowminimize")
+    program.keys("Escape")
+    program.wait_until_gone(preferences)
+    program.front = "Tarnivel"
+    program.wait_for("the main window", lambda: has(program.window(), "active"))
+
+
+def main(command):
+    with sample() as files, Program([command], private_environment(files.home)) as program:
+        program.front = "Tarnivel"
+        area, text = check_bouncing_return(program)
+        check_menus(program, area)
+        check_undo(program, area, text)
+        check_special(program)
+        check_preferences_stay(program)
+        program.process.terminate()
+        assert program.wait_for_end() == 0
+
+
+main(*sys.argv[1:])
