@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QKeyEvent>
+#include <utility>
 
 namespace {
 
@@ -10,14 +11,17 @@ namespace {
 constexpr int bounceTime = 400;
 
 QElapsedTimer sinceDialog;
+bool pressedInDialog = false;
 
 bool ClosesDialogs(int key) { return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space; }
 
 bool IsFromDialog(const QKeyEvent& key)
 {
-    if (!sinceDialog.isValid() || !ClosesDialogs(key.key())) return false;
-    const bool bounces = !sinceDialog.hasExpired(bounceTime) && !QApplication::activeModalWidget();
-    if (key.isAutoRepeat() || bounces) return true;
+    if (!ClosesDialogs(key.key())) return false;
+    const bool isInDialog = QApplication::activeModalWidget() != nullptr;
+    pressedInDialog = pressedInDialog || isInDialog;
+    if (!sinceDialog.isValid()) return false;
+    if (key.isAutoRepeat() || (!sinceDialog.hasExpired(bounceTime) && !isInDialog)) return true;
     sinceDialog.invalidate();
     return false;
 }
@@ -36,7 +40,10 @@ bool IsLetterWithAlt(const QKeyEvent& key)
 
 } // namespace
 
-void StrayKeys::DialogHasEnded() { sinceDialog.start(); }
+void StrayKeys::DialogHasEnded()
+{
+    if (std::exchange(pressedInDialog, false)) sinceDialog.start();
+}
 
 bool StrayKeys::IsOne(const QEvent& event)
 {

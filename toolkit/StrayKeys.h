@@ -5,7 +5,7 @@ class QEvent;
 
 namespace StrayKeys {
 
-/// A dialog has ended: the key that closed it may be held down still, or bounce.
+/// A dialog has ended: a key that closed it may be held down still, or bounce.
 void DialogHasEnded();
 
 /// Whether an event is a key to be dropped. These are Return, Enter and the space bar, where they repeat after the end

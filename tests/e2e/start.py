@@ -40,6 +40,8 @@ def main(command, on_small_screen=False):
     random_preferences(command)
     refused(command, private_environment())
     refused(command, private_environment("/dev/null"))
+    with tempfile.TemporaryDirectory() as home:
+        refused(command, private_environment(home, QT_FONT_DPI="192"), "The screen size is too small.")
     subprocess.run([TOOLS / "screen.sh", "700x400", sys.executable, __file__, command, "small"], check=True)
 
 

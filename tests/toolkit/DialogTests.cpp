@@ -150,7 +150,7 @@ TEST(MessageDialog, HangsOnItsWindow)
         if (isSeen) window->Show();
         WhenUp([isSeen](QDialog& shown) {
             EXPECT_EQ(shown.windowModality(), isSeen ? Qt::WindowModal : Qt::ApplicationModal);
-            EXPECT_EQ(shown.parentWidget() && shown.parentWidget()->windowTitle() == "Below", isSeen);
+            EXPECT_EQ(shown.parentWidget() && shown.parentWidget()->windowTitle() == "Below[*]", isSeen);
         });
         EXPECT_EQ(dialog.ShowModal(window.get()), Button::None);
     }
