@@ -71,11 +71,3 @@ QTextEdit* MakeReadOnlyText(QWidget* parent)
     text->setPalette(palette);
     return text;
 }
-
-void SetBlackOnWhite(QWidget& widget)
-{
-    QPalette palette = widget.palette();
-    palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::Text, Qt::black);
-    widget.setPalette(palette);
-}

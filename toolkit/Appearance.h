@@ -28,6 +28,3 @@ void SetTextColor(QWidget& widget, QPalette::ColorRole role, ColorGroup color);
 
 /// A text that can be read, selected and copied, and stands on the window's own background.
 QTextEdit* MakeReadOnlyText(QWidget* parent = nullptr);
-
-/// Black on white, whatever the desktop's colours are.
-void SetBlackOnWhite(QWidget& widget);

@@ -10,7 +10,6 @@
 DesktopTextArea::DesktopTextArea(DesktopWindow& window, const Placement& placement, int fontSize)
     : DesktopUIControl(window, new TextEditor, placement)
 {
-    SetBlackOnWhite(*widget_);
     if (fontSize > 0)
         FitFont(*widget_, {}, 0, fontSize);
     else

@@ -132,7 +132,6 @@ DesktopTextField::DesktopTextField(DesktopWindow& window, const Placement& place
                                    const FieldStyle& style)
     : DesktopUIControl(window, new Field(*this, style), placement)
 {
-    SetBlackOnWhite(*widget_);
     SetTextColor(*widget_, QPalette::Text, style.color);
     SetText(text);
 }

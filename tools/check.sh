@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# The checks of a change beside its tests: format, lint, who may see Qt, file sizes, shell scripts.
+# The checks of a change beside its tests: format, lint, what a room may see, file sizes, shell scripts.
 # clang-tidy reads how files are compiled from build/release, which must be configured.
 # shellcheck disable=SC2317  # `check` calls the functions
 set -uo pipefail
@@ -17,22 +17,26 @@ check() { # check NAME COMMAND...: what it prints is a fault, and so is its fail
 }
 
 # A clone may belong to another user than the one who checks it.
-tracked() { git -c safe.directory="$PWD" ls-files "$@"; }
+# Files that git doesn't know yet are checked too, those that were deleted aren't.
+files() {
+    git -c safe.directory="$PWD" ls-files -co --exclude-standard "$@" | sort -u |
+        while IFS= read -r file; do [[ ! -f $file ]] || echo "$file"; done
+}
 
-mapfile -t code < <(tracked '*.cpp' '*.h')
-mapfile -t scripts < <(tracked run test .ci/run '*.sh')
+mapfile -t code < <(files '*.cpp' '*.h')
+mapfile -t scripts < <(files run test .ci/run '*.sh')
 
 format() { clang-format --dry-run --Werror "${code[@]}"; }
 
 qt_outside_toolkit() {
-    tracked '*.cpp' '*.h' | grep -v -e '^toolkit/' -e '^tests/toolkit' |
+    files '*.cpp' '*.h' | grep -v -e '^toolkit/' -e '^tests/toolkit' |
         xargs -r grep -nE '^ *# *include *[<"]Q[A-Za-z]+(/|>|")' || true
 }
 
 # Code and papers of more than 60 KB, and sources of more than 350 lines, want to be divided.
 large_files() {
-    tracked -z ':!*.wav' ':!*.png' ':!*.ts' ':!*.icns' ':!*.ico' ':!tests/data' ':!resources/samples' |
-        xargs -0 -I{} find {} -type f -size +60k -printf '%p has %s bytes\n'
+    files ':!*.wav' ':!*.png' ':!*.ts' ':!*.icns' ':!*.ico' ':!tests/data' ':!resources/samples' |
+        xargs -d '\n' -I{} find {} -type f -size +60k -printf '%p has %s bytes\n'
     wc -l "${code[@]}" | awk '$2 != "total" && $1 > 350 { print $2 " has " $1 " lines" }'
 }
 
@@ -51,6 +55,7 @@ lint() {
 
 check "clang-format" format
 check "Qt is seen by toolkit/ and its tests only" qt_outside_toolkit
+check "no room includes what it doesn't link" tools/rooms.py
 check "no file is too large" large_files
 check "shellcheck" shell_scripts
 check "clang-tidy" lint
