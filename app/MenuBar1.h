@@ -21,6 +21,7 @@ struct MenuBar1 {
     DesktopMenuItem EditClear{U"EditClear", Localisation::Menu_EditClear(), U"", EditCommand::Clear};
     DesktopMenuItem EditSelectAll{U"EditSelectAll", Localisation::Menu_EditSelectAll(), U"Cmd+A",
                                   EditCommand::SelectAll};
+    DesktopMenuItem TexteProposer{U"TexteProposer", Localisation::Menu_TexteProposer()};
     DesktopPreferencesMenuItem ApplePrefs{U"ApplePrefs", Localisation::Menu_Preferences(), U"Cmd+,"};
 
     DesktopMenuItem UntitledSeparator{U"UntitledSeparator", U"-"};
@@ -36,12 +37,13 @@ struct MenuBar1 {
              Localisation::Menu_Edit(),
              {&EditUndo, &EditRedo, &UntitledSeparator, &EditCut, &EditCopy, &EditPaste, &EditClear, &EditSelectAll,
               &UntitledSeparator, &ApplePrefs}},
+            {U"TextMenu", Localisation::Menu_Texte(), {&TexteProposer}},
         };
     }
 
     /// The items that can be chosen only while the program is idle.
     std::vector<DesktopMenuItem*> WhenIdle()
     {
-        return {&FichSelFichModel, &FichSelArchivDoss, &FichSelFichSpack, &FichSaveFile, &ApplePrefs};
+        return {&FichSelFichModel, &FichSelArchivDoss, &FichSelFichSpack, &FichSaveFile, &TexteProposer, &ApplePrefs};
     }
 };

@@ -135,6 +135,9 @@ inline constexpr Text Txt_LignesVides{U"Txt_LignesVides",
     U"Lignes vides : ¿% dans le fichier initial, ¿% dans le fichier final."};
 inline constexpr Text Menu_TexteProposer{U"Menu_TexteProposer", U"Proposer un modèle…"};
 inline constexpr Text Txt_ChoisirModele{U"Txt_ChoisirModele", U"Enregistrer le modèle proposé sous :"};
+inline constexpr Text Dit_PropArretee{U"Dit_PropArretee", U"Arrêté : aucun modèle n'a été proposé"};
+inline constexpr Text Dit_OffreModele{U"Dit_OffreModele", U"le menu “Texte” peut en proposer un"};
+inline constexpr Text Menu_Texte{U"Menu_Texte", U"Texte"};
 inline constexpr Text Txt_PropFait{U"Txt_PropFait", U"Le modèle est proposé, mais pas encore enregistré."};
 inline constexpr Text Txt_PropAeroports{U"Txt_PropAeroports", U"Aéroports : ¿%"};
 inline constexpr Text Txt_PropAeroportsXP{U"Txt_PropAeroportsXP", U"Aéroports de X-Plane : ¿%"};

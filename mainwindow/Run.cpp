@@ -25,7 +25,9 @@ bool Refuses(String& text)
 
 void WinMain::BtnRun_Pressed()
 {
-    if (Fncts::DrapMenu) {
+    if (DrapProposer) {
+        DrapProposer = false;
+    } else if (Fncts::DrapMenu) {
         TextAreaAff.SetFocus();
         App::Current().EnableMenuBoutons(false);
         TimerDebRun.SetRunMode(Timer::RunModes::Single);

@@ -68,9 +68,11 @@ WinMain::WinMain()
     , TimerQuit           (timerPeriod)
     , RadGrpSrc           (*this, {  20,  14, 126,  45, L | T,         28},
                            RdButtSourceA() + String(EndOfLine::Native) + RdButtSourceB())
+    , ProgressProposer    (*this, { 315, 479, 225,  16, L | R | B})
 // clang-format on
 {
     PushButtDebug.SetVisible(false);
+    ProgressProposer.SetVisible(false);
     URLCnctLirePage.AllowCertificateValidation = false;
     NameControls();
     BindHandlers();
@@ -102,6 +104,7 @@ void WinMain::NameControls()
     PushButtCherch.SetAccessibleName(Btn_Chercher_HT());
     PushButtInitCherch.SetAccessibleName(Menu_EditClear());
     BtnAide.SetAccessibleName(WinAide_Title());
+    ProgressProposer.SetAccessibleName(Menu_TexteProposer());
     PopMenuAff.SetAccessibleName(ReplaceAll(PopupAff(), U"\n", U" / "));
 }
 
@@ -172,6 +175,7 @@ void WinMain::BindMenus()
     app.Menus.FichSelArchivDoss.Action = [this] { ActSelArchivDoss(false); };
     app.Menus.FichSelFichSpack.Action = [this] { ActSelFichSpack(false); };
     app.Menus.FichSaveFile.Action = [this] { ActSaveFile(); };
+    app.Menus.TexteProposer.Action = [this] { TexteProposer_Action(); };
     app.Menus.ApplePrefs.Action = [this] { ApplePrefs_Action(); };
 }
 

@@ -1,6 +1,7 @@
 /// The main window.
 #pragma once
 
+#include "engine/Proposal.h"
 #include "engine/SceneryTexts.h"
 #include "mainwindow/Colouring.h"
 #include "support/Covers.h"
@@ -54,10 +55,15 @@ public:
     DesktopSegmentedButton SegButtSpecA;
     Timer TimerQuit;
     DesktopRadioGroup RadGrpSrc;
+    DesktopProgressBar ProgressProposer;
 
     // Run.cpp
     void BtnRun_Pressed();
     void TimerDebRun_Action();
+
+    // Propose.cpp
+    /// Makes a model from what the packs are, to be read, edited and saved.
+    void TexteProposer_Action();
 
     // Save.cpp
     void BtnSave_Pressed();
@@ -114,6 +120,9 @@ private:
     /// Does a step of the run; an exception ends the run.
     void InRun(const std::function<void()>& step);
 
+    // Propose.cpp
+    std::optional<std::vector<Pack>> LookAtPacks(std::span<const String> lines, const FolderItem& spack);
+
     // Save.cpp
     /// One question of a save: whether the user goes on.
     [[nodiscard]] bool AsksToContinue(StringView message, StringView button);
@@ -153,4 +162,6 @@ private:
     std::unique_ptr<WinSpecA> winSpecA_;
     /// A run has begun: the timer behind the press has fired.
     bool DrapRun = false;
+    /// Packs are being looked at; false stops it.
+    bool DrapProposer = false;
 };

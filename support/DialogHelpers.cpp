@@ -67,6 +67,13 @@ std::optional<FolderItem> MyDialogLoad(const std::optional<FolderItem>& start, S
     });
 }
 
+std::optional<FolderItem> MyDialogSave(StringView name, StringView prompt, DesktopWindow* win)
+{
+    return InFrame(win, true, [&](DesktopWindow* window) {
+        return SaveFileDialog{String(prompt), InitialFolder({}), String(name)}.ShowModal(window);
+    });
+}
+
 std::optional<FolderItem> MyDialogFolder(const std::optional<FolderItem>& start, StringView prompt, DesktopWindow* win,
                                          bool sheet)
 {

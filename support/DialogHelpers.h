@@ -32,6 +32,9 @@ Int16 MyDialogBox(const Question& question);
 std::optional<FolderItem> MyDialogLoad(const std::optional<FolderItem>& start, StringView prompt, StringView filter,
                                        DesktopWindow* win, bool sheet);
 
+/// Lets the user name a file to be written, `name` beside the documents at first; nothing when the user gave up.
+std::optional<FolderItem> MyDialogSave(StringView name, StringView prompt, DesktopWindow* win);
+
 /// Lets the user choose a folder; nothing when the user gave up. It begins where `MyDialogLoad` does.
 std::optional<FolderItem> MyDialogFolder(const std::optional<FolderItem>& start, StringView prompt, DesktopWindow* win,
                                          bool sheet);

@@ -133,6 +133,18 @@ std::optional<FolderItem> SelectFolderDialog::ShowModal(DesktopWindow* window) c
     return Choose(std::move(chooser), InitialFolder);
 }
 
+std::optional<FolderItem> SaveFileDialog::ShowModal(DesktopWindow* window) const
+{
+    if (Probe* const probe = Probe::Current()) {
+        Record(*probe, PromptText);
+        return TakeAnswer<std::optional<FolderItem>>(*probe, {});
+    }
+    auto chooser = std::make_unique<QFileDialog>(Dialogs::ParentOf(window), ToQt(PromptText));
+    chooser->setAcceptMode(QFileDialog::AcceptSave);
+    chooser->selectFile(ToQt(SuggestedFileName));
+    return Choose(std::move(chooser), InitialFolder);
+}
+
 void MessageBox(StringView text)
 {
     if (Probe* const probe = Probe::Current()) {

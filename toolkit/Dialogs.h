@@ -34,6 +34,15 @@ struct OpenFileDialog {
     [[nodiscard]] std::optional<FolderItem> ShowModal(DesktopWindow* window = nullptr) const;
 };
 
+/// Lets the user name a file to be written; one that exists is asked about.
+struct SaveFileDialog {
+    String PromptText;
+    std::optional<FolderItem> InitialFolder;
+    String SuggestedFileName;
+
+    [[nodiscard]] std::optional<FolderItem> ShowModal(DesktopWindow* window = nullptr) const;
+};
+
 /// Lets the user choose a folder.
 struct SelectFolderDialog {
     String PromptText;

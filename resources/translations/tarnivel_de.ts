@@ -368,6 +368,18 @@ Packs nachher</translation>
         <source>Enregistrer le modèle proposé sous :</source>
         <translation>Vorgeschlagenes Modell sichern unter:</translation>
     </message>
+    <message id="Localisation.Dit_PropArretee">
+        <source>Arrêté : aucun modèle n'a été proposé</source>
+        <translation>Abgebrochen: Es wurde kein Modell vorgeschlagen</translation>
+    </message>
+    <message id="Localisation.Dit_OffreModele">
+        <source>le menu “Texte” peut en proposer un</source>
+        <translation>das Menü „Text“ kann eines vorschlagen</translation>
+    </message>
+    <message id="Localisation.Menu_Texte">
+        <source>Texte</source>
+        <translation>Text</translation>
+    </message>
     <message id="Localisation.Txt_PropFait">
         <source>Le modèle est proposé, mais pas encore enregistré.</source>
         <translation>Das Modell ist vorgeschlagen, aber noch nicht gesichert.</translation>

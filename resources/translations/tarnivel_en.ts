@@ -368,6 +368,18 @@ Packs after</translation>
         <source>Enregistrer le modèle proposé sous :</source>
         <translation>Save the proposed model as:</translation>
     </message>
+    <message id="Localisation.Dit_PropArretee">
+        <source>Arrêté : aucun modèle n'a été proposé</source>
+        <translation>Stopped: no model was proposed</translation>
+    </message>
+    <message id="Localisation.Dit_OffreModele">
+        <source>le menu “Texte” peut en proposer un</source>
+        <translation>the “Text” menu can propose one</translation>
+    </message>
+    <message id="Localisation.Menu_Texte">
+        <source>Texte</source>
+        <translation>Text</translation>
+    </message>
     <message id="Localisation.Txt_PropFait">
         <source>Le modèle est proposé, mais pas encore enregistré.</source>
         <translation>The model is proposed, but not saved yet.</translation>

@@ -368,6 +368,18 @@ Packs después</translation>
         <source>Enregistrer le modèle proposé sous :</source>
         <translation>Guardar el modelo propuesto como:</translation>
     </message>
+    <message id="Localisation.Dit_PropArretee">
+        <source>Arrêté : aucun modèle n'a été proposé</source>
+        <translation>Detenido: no se ha propuesto ningún modelo</translation>
+    </message>
+    <message id="Localisation.Dit_OffreModele">
+        <source>le menu “Texte” peut en proposer un</source>
+        <translation>el menú “Texto” puede proponer uno</translation>
+    </message>
+    <message id="Localisation.Menu_Texte">
+        <source>Texte</source>
+        <translation>Texto</translation>
+    </message>
     <message id="Localisation.Txt_PropFait">
         <source>Le modèle est proposé, mais pas encore enregistré.</source>
         <translation>El modelo está propuesto, pero aún no guardado.</translation>

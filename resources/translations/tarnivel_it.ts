@@ -368,6 +368,18 @@ Pack dopo</translation>
         <source>Enregistrer le modèle proposé sous :</source>
         <translation>Salva il modello proposto come:</translation>
     </message>
+    <message id="Localisation.Dit_PropArretee">
+        <source>Arrêté : aucun modèle n'a été proposé</source>
+        <translation>Fermato: nessun modello è stato proposto</translation>
+    </message>
+    <message id="Localisation.Dit_OffreModele">
+        <source>le menu “Texte” peut en proposer un</source>
+        <translation>il menu “Testo” può proporne uno</translation>
+    </message>
+    <message id="Localisation.Menu_Texte">
+        <source>Texte</source>
+        <translation>Testo</translation>
+    </message>
     <message id="Localisation.Txt_PropFait">
         <source>Le modèle est proposé, mais pas encore enregistré.</source>
         <translation>Il modello è proposto, ma non ancora salvato.</translation>

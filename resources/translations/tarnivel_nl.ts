@@ -368,6 +368,18 @@ Packs na</translation>
         <source>Enregistrer le modèle proposé sous :</source>
         <translation>Het voorgestelde model bewaren als:</translation>
     </message>
+    <message id="Localisation.Dit_PropArretee">
+        <source>Arrêté : aucun modèle n'a été proposé</source>
+        <translation>Gestopt: er is geen model voorgesteld</translation>
+    </message>
+    <message id="Localisation.Dit_OffreModele">
+        <source>le menu “Texte” peut en proposer un</source>
+        <translation>het menu “Tekst” kan er een voorstellen</translation>
+    </message>
+    <message id="Localisation.Menu_Texte">
+        <source>Texte</source>
+        <translation>Tekst</translation>
+    </message>
     <message id="Localisation.Txt_PropFait">
         <source>Le modèle est proposé, mais pas encore enregistré.</source>
         <translation>Het model is voorgesteld, maar nog niet bewaard.</translation>

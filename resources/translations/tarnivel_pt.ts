@@ -368,6 +368,18 @@ Packs depois</translation>
         <source>Enregistrer le modèle proposé sous :</source>
         <translation>Guardar o modelo proposto como:</translation>
     </message>
+    <message id="Localisation.Dit_PropArretee">
+        <source>Arrêté : aucun modèle n'a été proposé</source>
+        <translation>Parado: não foi proposto nenhum modelo</translation>
+    </message>
+    <message id="Localisation.Dit_OffreModele">
+        <source>le menu “Texte” peut en proposer un</source>
+        <translation>o menu “Texto” pode propor um</translation>
+    </message>
+    <message id="Localisation.Menu_Texte">
+        <source>Texte</source>
+        <translation>Texto</translation>
+    </message>
     <message id="Localisation.Txt_PropFait">
         <source>Le modèle est proposé, mais pas encore enregistré.</source>
         <translation>O modelo está proposto, mas ainda não guardado.</translation>

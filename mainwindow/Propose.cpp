@@ -1,0 +1,59 @@
+#include "app/App.h"
+#include "localisation/Localisation.h"
+#include "mainwindow/WinMain.h"
+#include "packs/LookAtPack.h"
+#include "support/DialogHelpers.h"
+#include "support/PathForm.h"
+#include "support/Status.h"
+#include "support/TextFiles.h"
+#include "toolkit/DesktopApplication.h"
+#include "toolkit/core/System.h"
+
+#include <utility>
+
+using namespace Localisation;
+
+void WinMain::TexteProposer_Action()
+{
+    const std::optional<FolderItem> spack = Fncts::GetFitemAbsPath(TextFieldSpack.Text(), false);
+    const Acceptance source = AcceptSceneryText(Fncts::LireFichier(spack));
+    if (!source.accepted) return Fncts::Refuser(ReplaceAll(Dit_SpackRefuse(), U"¿%", Dit_Vide()));
+    const std::optional<FolderItem> file = Fncts::MyDialogSave(U"modele.ini", Txt_ChoisirModele(), this);
+    if (!file) return;
+    const std::optional<std::vector<Pack>> packs = LookAtPacks(LinesToPropose(source.text, *spack->Parent()), *spack);
+    if (!packs) return Fncts::Dire(Dit_PropArretee());
+
+    const Proposal proposal = ProposeModel(source.text, *packs);
+    TextFieldMod1.SetText(Fncts::AbsPath_f(*file, true));
+    RadGrpSrc.SetSelectedIndex(0);
+    Document(rowModel).ReplaceText(proposal.model);
+    PopMenuAff.SetSelectedRowIndex(rowModel);
+    AffArea();
+    TextAreaAff.SetFocus();
+    Fncts::Dire(Txt_PropFait());
+    Fncts::MyDialogBox({.message = Txt_PropFait(), .explanation = proposal.report, .btnAction = Btn_Ok(), .win = this});
+}
+
+/// Nothing when the user stopped it.
+std::optional<std::vector<Pack>> WinMain::LookAtPacks(std::span<const String> lines, const FolderItem& spack)
+{
+    constexpr Int64 ticksUnseen = 30, ticksBetween = 3;
+    App::Current().EnableMenuBoutons(false);
+    DrapProposer = true;
+    std::vector<Pack> packs;
+    const Int64 start = System::Ticks();
+    Int64 last = start;
+    for (const String& line : lines) {
+        packs.push_back({line, LookAtPack(line, *spack.Parent())});
+        const Int64 now = System::Ticks();
+        if (now - last < ticksBetween) continue;
+        last = now;
+        ProgressProposer.SetVisible(now - start >= ticksUnseen);
+        ProgressProposer.SetValue(static_cast<int>(100 * packs.size() / lines.size()));
+        DesktopApplication::YieldToPlatform();
+        if (!DrapProposer) break;
+    }
+    ProgressProposer.SetVisible(false);
+    App::Current().EnableMenuBoutons(true);
+    return std::exchange(DrapProposer, false) ? std::optional(packs) : std::nullopt;
+}

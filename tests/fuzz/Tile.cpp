@@ -1,0 +1,20 @@
+#include "packs/LookAtPack.h"
+#include "packs/Tile.h"
+#include "tests/TemporaryFolder.h"
+#include "tests/fuzz/Input.h"
+
+#include <gtest/gtest.h>
+
+void Fuzz(Input& input)
+{
+    static const TemporaryFolder temporary;
+    const Bytes tile = input.Piece(), rest = input.ConsumeRemainingBytesAsString();
+    const TileKind kind = TileKindOf(tile);
+    if (kind != TileKind::Damaged) EXPECT_EQ(TileKindOf(tile + rest), kind) << "what stands behind the head counts";
+
+    temporary.File("p/Earth nav data/+40+000/a.dsf", tile);
+    const PackFacts facts = LookAtPack(U"SCENERY_PACK Custom Scenery/p/", FolderItem(temporary.Path()));
+    EXPECT_NE(facts.tile == PackFacts::Tile::None, facts.doubt.empty());
+    if (kind != TileKind::Damaged)
+        EXPECT_EQ(facts.tile == PackFacts::Tile::Overlay, kind == TileKind::Overlay);
+}
