@@ -23,7 +23,8 @@ double Milliseconds(Run run)
     for (int i = 0; i < runs; ++i) {
         const auto start = std::chrono::steady_clock::now();
         run();
-        least = std::min(least, std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count());
+        least = std::min(least,
+                         std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count());
     }
     return least;
 }
@@ -33,7 +34,8 @@ double Milliseconds(Run run)
 int main(int, char** argv)
 {
     const FolderItem dossier{fs::absolute(argv[1])};
-    const String text = Encodings::UTF8.Decode(TextInputStream::Open(FolderItem(dossier.Path() / "scenery_packs.ini")).ReadAll());
+    const String text =
+        Encodings::UTF8.Decode(TextInputStream::Open(FolderItem(dossier.Path() / "scenery_packs.ini")).ReadAll());
     std::vector<fs::path> tiles;
     for (const auto& entry : fs::recursive_directory_iterator(dossier.Path()))
         if (entry.path().extension() == ".dsf") tiles.push_back(entry.path());

@@ -2,6 +2,7 @@
 """Looks at 1,000 packs, half of them with packed tiles: packs.py path/to/packs_bench
 
 Each tile has 2 MB that pack to a half, as those of X-Plane's makers do."""
+import os
 import pathlib
 import random
 import subprocess
@@ -21,10 +22,12 @@ def main(program):
     packed = seven_zip("tile", data)
     with tempfile.TemporaryDirectory() as name:
         folder = pathlib.Path(name)
+        for kind, content in (("packed", packed), ("plain", data)):
+            (folder / kind).write_bytes(content)
         for number in range(PACKS):
             place = folder / f"Pack {number}" / "Earth nav data/+40+000"
             place.mkdir(parents=True)
-            (place / "+42+008.dsf").write_bytes(packed if number % 2 else data)
+            os.link(folder / ("packed" if number % 2 else "plain"), place / "+42+008.dsf")
         (folder / "scenery_packs.ini").write_text(HEADER + "".join(line(folder, f"Pack {n}") for n in range(PACKS)))
         known, looking, reading = subprocess.check_output([program, folder], text=True).split()
         assert int(known) == PACKS

@@ -1,5 +1,6 @@
-#include "packs/LookAtPack.h"
 #include "packs/Tile.h"
+
+#include "packs/LookAtPack.h"
 #include "tests/TemporaryFolder.h"
 #include "tests/fuzz/Input.h"
 
@@ -15,6 +16,5 @@ void Fuzz(Input& input)
     temporary.File("p/Earth nav data/+40+000/a.dsf", tile);
     const PackFacts facts = LookAtPack(U"SCENERY_PACK Custom Scenery/p/", FolderItem(temporary.Path()));
     EXPECT_NE(facts.tile == PackFacts::Tile::None, facts.doubt.empty());
-    if (kind != TileKind::Damaged)
-        EXPECT_EQ(facts.tile == PackFacts::Tile::Overlay, kind == TileKind::Overlay);
+    if (kind != TileKind::Damaged) EXPECT_EQ(facts.tile == PackFacts::Tile::Overlay, kind == TileKind::Overlay);
 }
