@@ -9,8 +9,8 @@ import sys
 from desktop import Program
 from tour import TOOLS, environment, make_sample, shoot, texts, tour
 
-WANTED = ("main", "report", "save", "special", "treat1", "preferences", "help")
-WITH_WHAT_IS_BEHIND = ("report", "save", "treat1")
+WANTED = ("main", "report", "save", "special", "treat1", "preferences", "help", "propose")
+WITH_WHAT_IS_BEHIND = ("report", "save", "treat1", "propose")
 
 
 def main(command, folder):

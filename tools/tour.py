@@ -14,7 +14,7 @@ import sys
 import time
 from xml.etree import ElementTree
 
-from desktop import has, private_environment
+from desktop import has, private_environment, xdotool
 
 TOOLS = pathlib.Path(__file__).parent
 TRANSLATIONS = TOOLS.parent / "resources" / "translations"
@@ -134,3 +134,13 @@ def tour(program, text):
     program.wait_for("an active chooser", lambda: has(program.dialog(), "active"))
     yield "chooser"
     program.keys("Escape")
+
+    program.act(program.find("menu item", text["Menu_Texte"]))
+    left, top, _, _ = program.extents(program.find("menu item", text["Menu_TexteProposer"]))
+    yield "Menu_Texte"
+    xdotool("mousemove", left + 5, top + 5, "click", 1)
+    program.wait_for("an active chooser", lambda: has(program.dialog(), "active"))
+    yield "propose-as"
+    program.keys("Return")
+    yield from _dialogs(program, text, "propose", "Btn_Ok")
+    program.keys("ctrl+z")
