@@ -127,9 +127,12 @@ def tour(program, text):
     for _ in _window(program, text["WinAide_Title"], lambda: program.press(text["Btn_Fermer"])):
         yield "help"
 
-    program.set_text(program.find("text", text["PopupAff"].split("\n")[2]), "")
+    area = program.find("text", text["PopupAff"].split("\n")[2])
+    program.set_text(area, "")
     program.press(text["Btn_SauvFichier"])
     yield from _dialogs(program, text, "no-packs", "Btn_Annuler")
+    program.focus(area)
+    program.keys("ctrl+z")
     program.keys("ctrl+o")
     program.wait_for("an active chooser", lambda: has(program.dialog(), "active"))
     yield "chooser"
