@@ -77,15 +77,20 @@ def engine(build):
 
 def display(build):
     runs = json.loads(output(build / "bench/window/window_bench", "--benchmark_format=json"))["benchmarks"]
-    times = {tuple(run["name"].split("/")[1:]): run["cpu_time"] for run in runs if run["run_type"] == "iteration"}
+    times = {tuple(run["name"].split("/")[1:3]): run["cpu_time"] for run in runs if run["run_type"] == "iteration"}
     whats = sorted({what for what, _ in times})
     curves = [(what, sorted((int(size), time) for (name, size), time in times.items() if name == what)) for what in whats]
     table = ["| lines | " + " | ".join(f"{what} (ms)" for what in whats) + " |", "|---" * (len(whats) + 1) + "|"]
     for size in map(str, SIZES):
         cells = (f"{times[what, size]:.1f}" if (what, size) in times else "" for what in whats)
         table.append(f"| {int(size):,} | " + " | ".join(cells) + " |")
-    picture = lines_chart("display", "Time to show a text by the number of lines", "ms", curves)
-    return "## Showing a text, and changing the state of all its packs", picture, "\n".join(table) + "\n"
+    ratios = (f"{what} {times[what, '100000'] / times['Fill', '100000']:.3f}" for what in whats if what != "Fill")
+    table += ["", f"At 100,000 lines, to filling: {', '.join(ratios)}."]
+    history = {tuple(run["name"].split("/")[1:3]): run["bytes"] for run in runs if "bytes" in run}
+    kept = (f"{what} {history[what, '100000']:.0f}" for what in ("ToggleOne", "ToggleAll"))
+    table += [f"Bytes that the history keeps of each toggled line: {', '.join(kept)}."]
+    picture = lines_chart("display", "Time to fill, show and change a text by the number of lines", "ms", curves)
+    return "## Filling, showing and changing a text", picture, "\n".join(table) + "\n"
 
 
 def treatment(build):

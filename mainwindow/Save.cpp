@@ -12,7 +12,11 @@
 
 using namespace Localisation;
 
-void WinMain::BtnSave_Pressed() { ActSaveFile(); }
+void WinMain::BtnSave_Pressed()
+{
+    ReturnFocus(BtnSave);
+    ActSaveFile();
+}
 
 bool WinMain::AsksToContinue(StringView message, StringView button)
 {

@@ -13,6 +13,7 @@ constexpr Int64 linesAbove = 5;
 void WinMain::PushButtCherch_Pressed()
 {
     if (!Fncts::DrapMenu) return;
+    ReturnFocus(PushButtCherch);
     const String word = TextFieldCherch.Text();
     if (word.empty()) return Fncts::BeepNbT(1);
     const SearchResult result =

@@ -119,7 +119,7 @@ void WinMain::BindHandlers()
     for (TextDocument& document : documents_)
         document.ModifiedChanged = [this] { SetModified(std::ranges::any_of(documents_, &TextDocument::Modified)); };
     for (DesktopUIControl* const control :
-         std::initializer_list<DesktopUIControl*>{&BtnEnabDis, &BtnAffDoss, &BtnSave, &PopMenuAff})
+         std::initializer_list<DesktopUIControl*>{&BtnEnabDis, &BtnAffDoss, &BtnSave, &PushButtCherch, &PushButtInitCherch, &PopMenuAff})
         control->SetFocusByTabAlone();
     Opening = [this] { Event_Opening(); };
     CancelClosing = [this](bool appQuitting) { return Event_CancelClosing(appQuitting); };
@@ -250,7 +250,7 @@ bool WinMain::Event_CancelClosing(bool appQuitting)
         return true;
     }
     if (!appQuitting) {
-        if (!AsksToLose({rowModel, rowSource, rowDest})) return true;
+        if (!App::Current().QuitsBySignal && !AsksToLose({rowModel, rowSource, rowDest})) return true;
         if (SegButtSpecA.Selected(0) && winSpecA_) winSpecA_->Close();
         if (Fncts::AinitProg) PrefsSauver();
         App::Current().DrapOkQuit = true;

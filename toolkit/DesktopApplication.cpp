@@ -73,7 +73,10 @@ DesktopApplication::DesktopApplication(int& argc, char** argv, String name, Stri
     current_ = this;
     QApplication::setPalette(LightPalette());
     QToolTip::setPalette(LightPalette());
-    QuitAtSessionEnd([this] { Quit(0); });
+    QuitAtSessionEnd([this](bool bySignal) {
+        QuitsBySignal = QuitsBySignal || bySignal;
+        Quit(0);
+    });
     // A file above the user's limit of sizes is an error of its writer, and no end of the program.
     std::signal(SIGXFSZ, SIG_IGN);
     QApplication::setApplicationName(ToQt(Name));

@@ -37,6 +37,8 @@ public:
     /// Asks every open window (`CancelClosing` with true); if none objects, the event loop ends with `exitCode`. The
     /// end of the desktop's log-in comes here too, and so do SIGTERM, SIGINT and SIGHUP, with 0.
     void Quit(int exitCode);
+    /// A signal asked for it: nobody may be there to answer a question.
+    bool QuitsBySignal = false;
 
     /// Lets the platform repaint and timers fire. Mouse, keyboard, the closing of windows and answers from the network
     /// wait until the program is idle again; what a screen reader presses meanwhile is dropped.

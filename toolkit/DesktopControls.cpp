@@ -13,6 +13,7 @@
 #include <QSignalBlocker>
 #include <QSlider>
 #include <QVBoxLayout>
+#include <QWheelEvent>
 
 namespace {
 
@@ -106,8 +107,18 @@ void DesktopRadioGroup::SetSelectedIndex(int index)
     if (QAbstractButton* const choice = choices_->button(index)) choice->setChecked(true);
 }
 
+namespace {
+
+/// Closed it lets the wheel pass, so that no row is chosen by accident.
+class Popup final : public QComboBox {
+protected:
+    void wheelEvent(QWheelEvent* event) override { event->ignore(); }
+};
+
+} // namespace
+
 DesktopPopupMenu::DesktopPopupMenu(DesktopWindow& window, const Placement& placement, StringView rows, int selectedRow)
-    : DesktopUIControl(window, new QComboBox, placement)
+    : DesktopUIControl(window, new Popup, placement)
     , row_(selectedRow)
 {
     auto* popup = static_cast<QComboBox*>(widget_);

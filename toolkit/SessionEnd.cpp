@@ -52,17 +52,17 @@ bool OpenWakePipe()
 
 } // namespace
 
-void QuitAtSessionEnd(const std::function<void()>& quit)
+void QuitAtSessionEnd(const std::function<void(bool bySignal)>& quit)
 {
     QObject::connect(qApp, &QGuiApplication::commitDataRequest, qApp,
-                     [quit](QSessionManager& manager) { QuitOrGoOn(manager, quit); });
+                     [quit](QSessionManager& manager) { QuitOrGoOn(manager, [&quit] { quit(false); }); });
     if (!OpenWakePipe()) return;
     auto* const woken = new QSocketNotifier(wakePipe[0], QSocketNotifier::Read, qApp);
     QObject::connect(woken, &QSocketNotifier::activated, qApp, [quit] {
         std::array<char, 16> drained;
         while (read(wakePipe[0], drained.data(), drained.size()) > 0) {
         }
-        quit();
+        quit(true);
     });
     for (const int number : EndSignals)
         if (std::signal(number, WakeEventLoop) == SIG_IGN) std::signal(number, SIG_IGN);

@@ -1,12 +1,14 @@
-/// What it costs to show a scenery text in colours, beside showing the same text without them; and to change the state
-/// of all its packs, which can be undone.
+/// What it costs to fill a document with a scenery text in colours; and beside that, to show another document, to change
+/// the state of one pack and of all packs, and to move a line.
 #include "mainwindow/Colouring.h"
 #include "mainwindow/Toggling.h"
 #include "toolkit/DesktopApplication.h"
 #include "toolkit/DesktopTextArea.h"
+#include "toolkit/DesktopWindow.h"
 
 #include <benchmark/benchmark.h>
 #include <cstdlib>
+#include <malloc.h>
 
 namespace {
 
@@ -29,6 +31,7 @@ Scenery MakeScenery(Int64 lines)
 
 class Area : public benchmark::Fixture {
 public:
+    TextDocument documents[2] = {TextDocument(SceneryColours()), TextDocument(SceneryColours())};
     std::optional<DesktopWindow> window;
     std::optional<DesktopTextArea> area;
     Scenery scenery;
@@ -38,58 +41,96 @@ public:
         scenery = MakeScenery(state.range(0));
         window.emplace(WindowStyle{.title = U"Bench", .width = 760, .height = 500});
         area.emplace(*window, Placement{20, 20, 720, 460});
+        area->SetDocument(documents[0]);
         window->Show();
-        DesktopApplication::YieldToPlatform();
+        Fill();
     }
-    void TearDown(benchmark::State& state) override
+    void TearDown(benchmark::State&) override
     {
-        state.SetComplexityN(state.range(0));
         area.reset();
         window.reset();
     }
+    void Fill()
+    {
+        for (TextDocument& document : documents)
+            document.SetText(scenery.text, scenery.marks);
+        area->Select(std::ssize(scenery.text) / 2, 0);
+        area->ScrollTo(std::ssize(scenery.text) / 2, 5);
+        DesktopApplication::YieldToPlatform();
+    }
+    void Toggle()
+    {
+        const auto [first, text] = area->SelectedLines();
+        std::optional<Toggled> toggled =
+            ToggleLines(text, {area->SelectionStart() - first, area->SelectionLength()}, ToggleMode::Invert);
+        for (TextChange& change : toggled->changes)
+            change.start += first;
+        area->Change(toggled->changes, toggled->selection.start + first, toggled->selection.length);
+        DesktopApplication::YieldToPlatform();
+    }
 };
 
-BENCHMARK_DEFINE_F(Area, Plain)(benchmark::State& state)
+BENCHMARK_DEFINE_F(Area, Fill)(benchmark::State& state)
 {
     for (auto _ : state) {
-        area->SetText(scenery.text);
+        documents[0].SetText(scenery.text, scenery.marks);
         DesktopApplication::YieldToPlatform();
     }
 }
 
-BENCHMARK_DEFINE_F(Area, Coloured)(benchmark::State& state)
+BENCHMARK_DEFINE_F(Area, ChangeView)(benchmark::State& state)
 {
-    for (auto _ : state) {
-        area->SetStyledText(scenery.text, ColourText(scenery.text, scenery.marks).spans);
+    for (std::size_t shown = 1; auto _ : state) {
+        area->SetDocument(documents[shown]);
         DesktopApplication::YieldToPlatform();
+        shown = 1 - shown;
     }
 }
 
-BENCHMARK_DEFINE_F(Area, Toggled)(benchmark::State& state)
+/// Bytes that the history keeps of each toggled line.
+double BytesOf(benchmark::State& state, std::size_t before, Int64 lines)
 {
-    for (auto _ : state) {
-        state.PauseTiming();
-        area->SetStyledText(scenery.text, ColourText(scenery.text, {}).spans);
-        area->Select(0, std::ssize(scenery.text));
+    return static_cast<double>(mallinfo2().uordblks - before) / static_cast<double>(lines * state.iterations());
+}
+
+BENCHMARK_DEFINE_F(Area, ToggleOne)(benchmark::State& state)
+{
+    Toggle();
+    const std::size_t before = mallinfo2().uordblks;
+    for (auto _ : state)
+        Toggle();
+    state.counters["bytes"] = BytesOf(state, before, 1);
+}
+
+BENCHMARK_DEFINE_F(Area, ToggleAll)(benchmark::State& state)
+{
+    area->Select(0, std::ssize(scenery.text));
+    Toggle();
+    const std::size_t before = mallinfo2().uordblks;
+    for (auto _ : state)
+        Toggle();
+    state.counters["bytes"] = BytesOf(state, before, state.range(0));
+}
+
+BENCHMARK_DEFINE_F(Area, MoveLine)(benchmark::State& state)
+{
+    for (bool down = true; auto _ : state) {
+        area->MoveLines(down, 3);
         DesktopApplication::YieldToPlatform();
-        state.ResumeTiming();
-        const Selection selection{area->SelectionStart(), area->SelectionLength()};
-        const std::optional<Toggled> toggled = ToggleLines(area->Text(), selection, ToggleMode::Invert);
-        area->ReplaceStyledText(toggled->text, ColourText(toggled->text, {}).spans);
-        area->Select(toggled->selection.start, toggled->selection.length);
-        DesktopApplication::YieldToPlatform();
+        down = !down;
     }
 }
 
-BENCHMARK_REGISTER_F(Area, Plain)->Unit(benchmark::kMillisecond)->Arg(1000)->Arg(10'000)->Arg(100'000)->Arg(1'000'000);
-BENCHMARK_REGISTER_F(Area, Coloured)
-    ->Unit(benchmark::kMillisecond)
-    ->Arg(1000)
-    ->Arg(10'000)
-    ->Arg(100'000)
-    ->Arg(1'000'000)
-    ->Complexity(benchmark::oN);
-BENCHMARK_REGISTER_F(Area, Toggled)->Unit(benchmark::kMillisecond)->Arg(10'000)->Arg(100'000);
+void Sizes(benchmark::internal::Benchmark* of)
+{
+    of->Unit(benchmark::kMillisecond)->Arg(1000)->Arg(10'000)->Arg(100'000);
+}
+
+BENCHMARK_REGISTER_F(Area, Fill)->Apply(Sizes)->Arg(1'000'000);
+BENCHMARK_REGISTER_F(Area, ChangeView)->Apply(Sizes);
+BENCHMARK_REGISTER_F(Area, ToggleOne)->Apply(Sizes);
+BENCHMARK_REGISTER_F(Area, ToggleAll)->Apply(Sizes)->Iterations(3);
+BENCHMARK_REGISTER_F(Area, MoveLine)->Apply(Sizes);
 
 } // namespace
 

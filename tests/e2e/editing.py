@@ -1,0 +1,115 @@
+"""Editing with mouse and keyboard: toggles, views and runs that are taken back, with the focus where the next key goes."""
+
+import sys
+
+from desktop import Program, has, private_environment, xdotool
+from sample import DISABLED, ENABLED, pack, sample
+
+TOGGLE, ORANGE, GREEN = "Activer / Désactiver", "255,127,0", "0,200,0"
+VIEWS = ["Spack Modèle", "Spack Avant", "Spack Après"]
+
+
+def click(program, node, button=1):
+    left, top, width, height = program.extents(node)
+    xdotool("mousemove", left + width // 2, top + height // 2, "click", button)
+
+
+def pick(program, view):
+    """A view, by the mouse alone."""
+    popup = program.find("combo box")
+    click(program, popup)
+    row = program.wait_for(view, lambda: next((n for n in program.all("list item", view) if has(n, "showing")), None))
+    click(program, row)
+    area = program.find("text", view)
+    program.wait_for("the focus in the text", lambda: has(area, "focused"))
+    return area
+
+
+def orange_lines(program, area):
+    text, offset, found = program.text(area), 0, []
+    for line in text.split("\n"):
+        if line and program.color_at(area, offset + len(line) - 1) == ORANGE:
+            found.append(line.split(" ", 1)[-1])
+        offset += len(line) + 1
+    return found
+
+
+def check_toggle(program, area):
+    """By the mouse, above all orange lines: they stay orange, and Ctrl+Z and Ctrl+Shift+Z work at once."""
+    before, orange = program.text(area), orange_lines(program, area)
+    assert orange, before
+    at = before.index("\n" + ENABLED) + 4
+    program.select(area, at, at)
+    click(program, program.find("push button", TOGGLE))
+    toggled = program.wait_for("a toggled line", lambda: program.text(area) != before and program.text(area))
+    assert orange_lines(program, area) == orange
+    program.keys("ctrl+z")
+    program.wait_for("the line as it was", lambda: program.text(area) == before)
+    program.keys("ctrl+shift+z")
+    program.wait_for("the toggled line again", lambda: program.text(area) == toggled)
+    assert orange_lines(program, area) == orange
+    return toggled
+
+
+def check_views(program, area, text):
+    """Each has its own caret and history; the wheel on the closed popup changes nothing, nor do keys in the text."""
+    caret = program.selection(area)
+    other = pick(program, "Spack Avant")
+    first = program.text(other)
+    program.type("x")
+    program.wait_for("the typed letter", lambda: program.text(other) == "x" + first)
+    program.keys("Next", "s", "Home")
+    click(program, program.find("combo box"), button=5)
+    program.wait_for("the view that was picked", lambda: program.all("text", "Spack Avant"))
+    area = pick(program, "Spack Après")
+    assert program.text(area) == text and program.selection(area) == caret
+    return area
+
+
+def check_run_is_taken_back(program, area, edited):
+    orange = orange_lines(program, area)
+    program.press("Générer")
+    program.answer_until("Générer")
+    area = program.find("text", "Spack Après")
+    result = program.text(area)
+    assert result != edited
+    assert program.window().get_name() == "Tarnivel", "a result as the run left it is not modified"
+    program.wait_for("the focus in the text", lambda: has(area, "focused"))
+    program.keys("ctrl+z")
+    program.wait_for("the text before the run", lambda: program.text(area) == edited)
+    assert orange_lines(program, area) == orange
+    program.keys("ctrl+y")
+    program.wait_for("the result", lambda: program.text(area) == result)
+
+
+def check_typing(program, area):
+    """A new line below an orange one is black, with a green keyword; one Ctrl+Z takes it back."""
+    text = program.text(area)
+    line = next(line for line in text.split("\n") if pack(line) and pack(line) in " ".join(orange_lines(program, area)))
+    end = text.index(line) + len(line)
+    program.select(area, end, end)
+    program.focus(area)
+    program.keys("Return")
+    program.type(ENABLED + "New/")
+    expected = text[:end] + "\n" + ENABLED + "New/" + text[end:]
+    program.wait_for("the typed line", lambda: program.text(area) == expected)
+    colors = [program.color_at(area, offset) for offset in (end - 1, end + 1, end + 1 + len(ENABLED))]
+    assert colors == [ORANGE, GREEN, "0,0,0"], colors
+    program.keys("alt+x")
+    program.keys("ctrl+z", "ctrl+z")
+    program.wait_for("the text before", lambda: program.text(area) == text)
+
+
+def main(command):
+    with sample() as files, Program([command], private_environment(files.home)) as program:
+        program.press("Générer")
+        program.answer_until("Générer")
+        area = program.find("text", "Spack Après")
+        edited = check_toggle(program, area)
+        area = check_views(program, area, edited)
+        check_typing(program, area)
+        check_run_is_taken_back(program, area, edited)
+        assert (program.close(), program.stderr()) == (0, "")
+
+
+main(*sys.argv[1:])
