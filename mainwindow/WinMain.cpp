@@ -118,8 +118,8 @@ void WinMain::BindHandlers()
 {
     for (TextDocument& document : documents_)
         document.ModifiedChanged = [this] { SetModified(std::ranges::any_of(documents_, &TextDocument::Modified)); };
-    for (DesktopUIControl* const control :
-         std::initializer_list<DesktopUIControl*>{&BtnEnabDis, &BtnAffDoss, &BtnSave, &PushButtCherch, &PushButtInitCherch, &PopMenuAff})
+    for (DesktopUIControl* const control : std::initializer_list<DesktopUIControl*>{
+             &BtnEnabDis, &BtnAffDoss, &BtnSave, &PushButtCherch, &PushButtInitCherch, &PopMenuAff})
         control->SetFocusByTabAlone();
     Opening = [this] { Event_Opening(); };
     CancelClosing = [this](bool appQuitting) { return Event_CancelClosing(appQuitting); };

@@ -3,7 +3,7 @@
 
 #include <functional>
 
-/// Has `quit` called when the log-in ends, and with true at SIGTERM, SIGINT and SIGHUP, which Qt leaves alone, each time
-/// from the event loop. A log-in whose end finds the program still there a moment later is asked to go on, as far as the desktop
-/// lets it.
+/// Has `quit` called when the log-in ends, and with true at SIGTERM, SIGINT and SIGHUP, which Qt leaves alone, each
+/// time from the event loop. A log-in whose end finds the program still there a moment later is asked to go on, as far
+/// as the desktop lets it.
 void QuitAtSessionEnd(const std::function<void(bool bySignal)>& quit);

@@ -1,5 +1,5 @@
-/// What it costs to fill a document with a scenery text in colours; and beside that, to show another document, to change
-/// the state of one pack and of all packs, and to move a line.
+/// What it costs to fill a document with a scenery text in colours; and beside that, to show another document, to
+/// change the state of one pack and of all packs, and to move a line.
 #include "mainwindow/Colouring.h"
 #include "mainwindow/Toggling.h"
 #include "toolkit/DesktopApplication.h"
