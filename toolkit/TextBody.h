@@ -102,10 +102,11 @@ private:
     void KeepPlace();
     void Touched(int position, int removed, int added);
     void Recolor();
-    std::vector<ColorSpan> Spans(StringView line) const
+    [[nodiscard]] std::vector<ColorSpan> Spans(StringView line) const
     {
         return colors_.ofLine ? colors_.ofLine(line) : std::vector<ColorSpan>();
     }
+    [[nodiscard]] std::optional<ColorGroup> WholeColor(StringView text) const;
     static void Paint(QTextCursor& cursor, std::vector<Repaint>& repaints);
     void Collect(const QTextBlock& block, std::vector<Repaint>& repaints);
     void ForgetStatesToCome() { states_.erase(states_.upper_bound(state_), states_.end()); }

@@ -104,6 +104,14 @@ bool TextDocument::Body::ShowsMark(const QTextBlock& block) const
     });
 }
 
+/// The colour of a text that is one span from end to end.
+std::optional<ColorGroup> TextDocument::Body::WholeColor(StringView text) const
+{
+    const std::vector<ColorSpan> spans = Spans(text);
+    if (spans.size() != 1 || spans[0].length != std::ssize(text)) return {};
+    return spans[0].color;
+}
+
 void TextDocument::Body::Change(QTextCursor& cursor, std::span<const TextChange> changes)
 {
     std::vector<Int64> offsets;
@@ -117,12 +125,12 @@ void TextDocument::Body::Change(QTextCursor& cursor, std::span<const TextChange>
         const bool marked = IsMarked(cursor.charFormat());
         cursor.setPosition(positions[2 * i]);
         cursor.setPosition(positions[2 * i + 1], QTextCursor::KeepAnchor);
-        const std::vector<ColorSpan> spans = Spans(changes[i].text);
+        const std::optional<ColorGroup> color = WholeColor(changes[i].text);
+        const bool wasWhole = color && WholeColor(FromDocument(cursor.selectedText()));
         pairs_ = pairs_ || std::ranges::any_of(changes[i].text, [](char32_t c) { return c > 0xFFFF; });
-        const bool whole = spans.size() == 1 && spans[0].length == std::ssize(changes[i].text);
-        cursor.insertText(ToDocument(changes[i].text),
-                          Format(marked, whole ? std::optional(spans[0].color) : std::nullopt));
-        Collect(cursor.block(), repaints);
+        cursor.insertText(ToDocument(changes[i].text), Format(marked, color));
+        // A keyword in the place of another leaves the rest of its line as it is.
+        if (!wasWhole) Collect(cursor.block(), repaints);
         Paint(cursor, repaints);
     }
 }

@@ -6,6 +6,7 @@
 #include "toolkit/DesktopTextArea.h"
 #include "toolkit/DesktopWindow.h"
 
+#include <array>
 #include <benchmark/benchmark.h>
 #include <cstdlib>
 #include <malloc.h>
@@ -31,7 +32,7 @@ Scenery MakeScenery(Int64 lines)
 
 class Area : public benchmark::Fixture {
 public:
-    TextDocument documents[2] = {TextDocument(SceneryColours()), TextDocument(SceneryColours())};
+    std::array<std::optional<TextDocument>, 2> documents;
     std::optional<DesktopWindow> window;
     std::optional<DesktopTextArea> area;
     Scenery scenery;
@@ -41,7 +42,9 @@ public:
         scenery = MakeScenery(state.range(0));
         window.emplace(WindowStyle{.title = U"Bench", .width = 760, .height = 500});
         area.emplace(*window, Placement{20, 20, 720, 460});
-        area->SetDocument(documents[0]);
+        for (std::optional<TextDocument>& document : documents)
+            document.emplace(SceneryColours());
+        area->SetDocument(*documents[0]);
         window->Show();
         Fill();
     }
@@ -52,8 +55,8 @@ public:
     }
     void Fill()
     {
-        for (TextDocument& document : documents)
-            document.SetText(scenery.text, scenery.marks);
+        for (std::optional<TextDocument>& document : documents)
+            document->SetText(scenery.text, scenery.marks);
         area->Select(std::ssize(scenery.text) / 2, 0);
         area->ScrollTo(std::ssize(scenery.text) / 2, 5);
         DesktopApplication::YieldToPlatform();
@@ -73,7 +76,7 @@ public:
 BENCHMARK_DEFINE_F(Area, Fill)(benchmark::State& state)
 {
     for (auto _ : state) {
-        documents[0].SetText(scenery.text, scenery.marks);
+        documents[0]->SetText(scenery.text, scenery.marks);
         DesktopApplication::YieldToPlatform();
     }
 }
@@ -81,22 +84,28 @@ BENCHMARK_DEFINE_F(Area, Fill)(benchmark::State& state)
 BENCHMARK_DEFINE_F(Area, ChangeView)(benchmark::State& state)
 {
     for (std::size_t shown = 1; auto _ : state) {
-        area->SetDocument(documents[shown]);
+        area->SetDocument(*documents[shown]);
         DesktopApplication::YieldToPlatform();
         shown = 1 - shown;
     }
 }
 
+std::size_t Allocated()
+{
+    const auto memory = mallinfo2();
+    return memory.hblkhd + memory.uordblks;
+}
+
 /// Bytes that the history keeps of each toggled line.
 double BytesOf(benchmark::State& state, std::size_t before, Int64 lines)
 {
-    return static_cast<double>(mallinfo2().uordblks - before) / static_cast<double>(lines * state.iterations());
+    return static_cast<double>(Allocated() - before) / static_cast<double>(lines * state.iterations());
 }
 
 BENCHMARK_DEFINE_F(Area, ToggleOne)(benchmark::State& state)
 {
     Toggle();
-    const std::size_t before = mallinfo2().uordblks;
+    const std::size_t before = Allocated();
     for (auto _ : state)
         Toggle();
     state.counters["bytes"] = BytesOf(state, before, 1);
@@ -105,8 +114,7 @@ BENCHMARK_DEFINE_F(Area, ToggleOne)(benchmark::State& state)
 BENCHMARK_DEFINE_F(Area, ToggleAll)(benchmark::State& state)
 {
     area->Select(0, std::ssize(scenery.text));
-    Toggle();
-    const std::size_t before = mallinfo2().uordblks;
+    const std::size_t before = Allocated();
     for (auto _ : state)
         Toggle();
     state.counters["bytes"] = BytesOf(state, before, state.range(0));
