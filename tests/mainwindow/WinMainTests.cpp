@@ -76,6 +76,12 @@ TEST_F(MainWindow, AModelAddressThatIsNoneIsTold)
     Run();
     EXPECT_EQ(probe.Asked, std::vector<String>{U"L'url devrait commencer avec 'http://' o 'https://'.[Ok]"});
     EXPECT_EQ(View(0), U"### Error ###  empty");
+
+    probe.WhileAsking = [] { throw std::bad_alloc(); };
+    window->BtnRun_Pressed();
+    window->TimerDebRun.SetRunMode(Timer::RunModes::Off);
+    EXPECT_THROW(window->TimerDebRun.Action(), std::bad_alloc);
+    EXPECT_TRUE(Fncts::DrapMenu) << "a fault ends the run";
 }
 
 TEST_F(MainWindow, AStoppedFetchLeavesNothingBehind)

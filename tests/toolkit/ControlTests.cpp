@@ -66,6 +66,21 @@ TEST_F(ControlTest, CaptionsFitTheirControls)
     }
 }
 
+TEST_F(ControlTest, CaptionsFollowTheDesktopsFontAsFarAsThereIsRoom)
+{
+    const QFont before = QApplication::font();
+    for (const auto& [desktop, expected] : {std::pair(6, 12), std::pair(13, 13), std::pair(27, 14)}) {
+        QFont font = before;
+        font.setPixelSize(desktop);
+        QApplication::setFont(font);
+        DesktopWindow large({.title = U"Large", .width = 200, .height = 100});
+        DesktopButton button(large, {0, 0, 100, 20}, U"Ok");
+        button.SetName(U"large");
+        EXPECT_EQ(QFontInfo(Find<QPushButton>("large").font()).pixelSize(), expected) << desktop;
+    }
+    QApplication::setFont(before);
+}
+
 TEST_F(ControlTest, FieldsKeepTheirText)
 {
     DesktopTextField field(window, {0, 0, 200, 22}, U"first");
@@ -120,7 +135,7 @@ TEST_F(ControlTest, ALinkIsPressedByMouseKeysAndAScreenReader)
     DesktopLabel link(window, {100, 100, 50, 16, Lock::Left | Lock::Top, 0}, U"v.1", {.link = true});
     DesktopButton button(window, {0, 0, 80, 20, Lock::Left | Lock::Top, 2}, U"Ok");
     DesktopLabel plain(window, {0, 0, 50, 16, Lock::Left | Lock::Top, 1}, U"plain");
-    link.SetName(U"link"), plain.SetName(U"plain");
+    link.SetName(U"link"), plain.SetName(U"plain"), button.SetName(U"button");
     int pressed = 0, defaults = 0;
     link.Pressed = [&] { ++pressed; };
     button.SetDefault();
@@ -146,6 +161,11 @@ TEST_F(ControlTest, ALinkIsPressedByMouseKeysAndAScreenReader)
     EXPECT_EQ(told->text(QAccessible::Name), "v.1");
     told->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     EXPECT_EQ(pressed, 5);
+    link.SetEnabled(false);
+    told->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    button.SetVisible(false);
+    Find<QPushButton>("button").click();
+    EXPECT_TRUE(pressed == 5 && defaults == 0) << "nothing that is disabled or hidden acts";
     EXPECT_EQ(widget->focusPolicy(), Qt::TabFocus);
     EXPECT_EQ(Find<QLabel>("plain").focusPolicy(), Qt::NoFocus);
     EXPECT_EQ(QAccessible::queryAccessibleInterface(&Find<QLabel>("plain"))->role(), QAccessible::StaticText);
