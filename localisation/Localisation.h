@@ -194,6 +194,11 @@ inline constexpr Text LabOrg{U"LabOrg", U"Original :"};
 inline constexpr Text Btn_Trait{U"Btn_Trait", U"Traiter"};
 inline constexpr Text Txt_DropQueFichTxt{U"Txt_DropQueFichTxt",
     U"Vous ne pouvez glisser déposer qu'un fichier contenant du texte ici."};
+inline constexpr Text Txt_DropQueDoss{U"Txt_DropQueDoss", U"Vous ne pouvez glisser déposer qu'un dossier ici."};
+inline constexpr Text Dit_AliasMort{U"Dit_AliasMort", U"Cet alias ne mène nulle part."};
+inline constexpr Text Dit_PasGestionnaire{U"Dit_PasGestionnaire", U"Aucun gestionnaire de fichiers ne répond."};
+inline constexpr Text Txt_NomNonGarde{U"Txt_NomNonGarde",
+    U"Le nom de cet élément ne peut pas être gardé : il n'est pas en UTF-8, ou un autre élément a presque le même."};
 inline constexpr Text Txt_ChoisirUnFich{U"Txt_ChoisirUnFich", U"Choisir un fichier :"};
 inline constexpr Text Txt_FiltreTexte{U"Txt_FiltreTexte", U"Fichiers texte"};
 inline constexpr Text Txt_FiltreTous{U"Txt_FiltreTous", U"Tous les fichiers"};

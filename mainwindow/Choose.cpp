@@ -1,3 +1,4 @@
+#include "app/App.h"
 #include "app/FileTypes.h"
 #include "engine/SceneryText.h"
 #include "localisation/Localisation.h"
@@ -6,6 +7,7 @@
 #include "support/FileHelpers.h"
 #include "support/PathForm.h"
 #include "support/Sounds.h"
+#include "support/Status.h"
 #include "toolkit/Desktop.h"
 
 namespace {
@@ -27,6 +29,27 @@ std::optional<FolderItem> ChooseFile(const FolderItem& start)
 std::optional<FolderItem> ChooseFolder(const FolderItem& start)
 {
     return Fncts::MyDialogFolder(start, Localisation::Txt_ChoisirDossArchiv(), nullptr, true);
+}
+
+enum class Kind { TextFile, Folder };
+
+/// Why an item can't be dropped on a field for that kind of items, or "".
+String WhyRefused(const FolderItem& item, Kind kind)
+{
+    const std::optional<FolderItem> target = Fncts::GetItemMoT_f(item, true);
+    if (!target) return Localisation::Dit_AliasMort();
+    if (kind == Kind::Folder) return Fncts::DossPasPack_f(*target) ? String() : Localisation::Txt_DropQueDoss();
+    const String extension = Fncts::Extension_f(*target);
+    const bool mayBeText = !target->IsFolder() && (extension.empty() || App::ExtInFileType(extension));
+    return mayBeText ? String() : Localisation::Txt_DropQueFichTxt();
+}
+
+/// Whether a field can keep the item; if not, the user is told.
+bool IsKept(const FolderItem& item)
+{
+    const bool kept = Fncts::ComesBack(item);
+    if (!kept) Fncts::Refuser(Localisation::Txt_NomNonGarde());
+    return kept;
 }
 
 } // namespace
@@ -58,29 +81,43 @@ std::optional<FolderItem> WinMain::RevealOrChoose(const DesktopTextField& field,
     return Fncts::PasNil_Existe_Alias(chosen, true) ? chosen : std::nullopt;
 }
 
-/// What `take` does with an item that was dropped or pasted; for an alias that leads nowhere a beep.
-std::function<void(const FolderItem& item)> WinMain::IfUsable(void (WinMain::*take)(const FolderItem& item))
+void WinMain::BindPathFields()
 {
-    return [this, take](const FolderItem& item) {
-        if (Fncts::PasNil_Existe_Alias(item, true))
+    const auto bind = [this](DesktopTextField& field, Kind kind, void (WinMain::*take)(const FolderItem& item)) {
+        field.Tidied = Fncts::PathOfTyped;
+        field.TakesItem = [kind](const FolderItem& item) { return WhyRefused(item, kind).empty(); };
+        field.ItemDropped = [this, kind, take](const FolderItem& item) {
+            if (const String reason = WhyRefused(item, kind); !reason.empty()) return Fncts::Refuser(reason);
             (this->*take)(item);
-        else
-            Fncts::BeepNbT(1);
+        };
     };
+    bind(TextFieldMod1, Kind::TextFile, &WinMain::TakeModel);
+    bind(TextFieldSpack, Kind::TextFile, &WinMain::TakeSpack);
+    bind(TextFieldArchiv, Kind::Folder, &WinMain::TakeArchiveFolder);
+    TextFieldMod2.Tidied = [](StringView text) { return String(text); };
+    TextFieldMod2.Entered = [this] { RadGrpSrc.SetSelectedIndex(1); };
 }
 
 /// A new file: what a run made of the old one goes.
 void WinMain::TakeModel(const FolderItem& item)
 {
-    if (Forget({rowModel, rowDest})) TextFieldMod1.SetText(Fncts::AbsPath_f(item, true));
+    if (!IsKept(item) || !Forget({rowModel, rowDest})) return;
+    TextFieldMod1.SetText(Fncts::AbsPath_f(item, true));
+    RadGrpSrc.SetSelectedIndex(0);
 }
 
 void WinMain::TakeSpack(const FolderItem& item)
 {
-    if (Forget({rowSource, rowDest})) TextFieldSpack.SetText(Fncts::AbsPath_f(item, true));
+    if (!IsKept(item) || !Forget({rowSource, rowDest})) return;
+    TextFieldSpack.SetText(Fncts::AbsPath_f(item, true));
 }
 
-void WinMain::TakeArchiveFolder(const FolderItem& item) { TextFieldArchiv.SetText(Fncts::AbsPath_f(item, true)); }
+/// Of an alias the folder that it leads to, which is where a save can put something.
+void WinMain::TakeArchiveFolder(const FolderItem& item)
+{
+    const FolderItem folder = Fncts::GetItemMoT_f(item, true).value_or(item);
+    if (IsKept(folder)) TextFieldArchiv.SetText(Fncts::AbsPath_f(folder, true));
+}
 
 void WinMain::BtnAffDoss_Pressed()
 {

@@ -136,9 +136,7 @@ void WinMain::BindHandlers()
     BtnEnabDis.Pressed = [this] { BtnEnabDis_Pressed(); };
     PushButtCherch.Pressed = [this] { PushButtCherch_Pressed(); };
     PushButtInitCherch.Pressed = [this] { PushButtInitCherch_Pressed(); };
-    TextFieldMod1.ItemGiven = IfUsable(&WinMain::TakeModel);
-    TextFieldSpack.ItemGiven = IfUsable(&WinMain::TakeSpack);
-    TextFieldArchiv.ItemGiven = IfUsable(&WinMain::TakeArchiveFolder);
+    BindPathFields();
     TextFieldCherch.Entered = [this] { TextFieldCherch_Entered(); };
     TextFieldCherch.Escaped = [this] { TextAreaAff.SetFocus(); };
     FindRequested = [this] {

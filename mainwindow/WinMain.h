@@ -139,7 +139,7 @@ private:
     // Choose.cpp
     using Chooser = std::optional<FolderItem> (*)(const FolderItem& start);
     std::optional<FolderItem> RevealOrChoose(const DesktopTextField& field, bool reveal, Chooser chooser) const;
-    std::function<void(const FolderItem& item)> IfUsable(void (WinMain::*take)(const FolderItem& item));
+    void BindPathFields();
     void TakeModel(const FolderItem& item);
     void TakeSpack(const FolderItem& item);
     void TakeArchiveFolder(const FolderItem& item);

@@ -1,5 +1,6 @@
 #include "support/DialogHelpers.h"
 
+#include "localisation/Localisation.h"
 #include "support/AtEnd.h"
 #include "support/Covers.h"
 #include "support/Diagnostics.h"
@@ -63,7 +64,14 @@ std::optional<FolderItem> MyDialogLoad(const std::optional<FolderItem>& start, S
                                        DesktopWindow* win, bool sheet)
 {
     return InFrame(win, sheet, [&](DesktopWindow* window) {
-        return OpenFileDialog{String(prompt), InitialFolder(start), String(filter)}.ShowModal(window);
+        const bool isFile = start && start->Exists() && !DossPasPack_f(*start);
+        return OpenFileDialog{String(prompt),
+                              InitialFolder(start),
+                              String(filter),
+                              Localisation::Txt_FiltreTexte(),
+                              Localisation::Txt_FiltreTous(),
+                              isFile ? start : std::nullopt}
+            .ShowModal(window);
     });
 }
 

@@ -28,7 +28,8 @@ struct Question {
 Int16 MyDialogBox(const Question& question);
 
 /// Lets the user choose a file; nothing when the user gave up. The chooser begins in the folder `start`, or in the
-/// folder that holds the file `start`, or in the user's documents. `filter` holds extensions as in ".txt;.ini".
+/// folder that holds the file `start`, which is selected, or in the user's documents. `filter` holds extensions as in
+/// ".txt;.ini".
 std::optional<FolderItem> MyDialogLoad(const std::optional<FolderItem>& start, StringView prompt, StringView filter,
                                        DesktopWindow* win, bool sheet);
 

@@ -1,6 +1,8 @@
 #include "support/FileHelpers.h"
 
+#include "localisation/Localisation.h"
 #include "support/Fncts.h"
+#include "support/Status.h"
 #include "toolkit/Desktop.h"
 #include "toolkit/DesktopApplication.h"
 #include "toolkit/core/Exceptions.h"
@@ -57,10 +59,11 @@ String Extension_f(const FolderItem& item)
 
 void RevealEltFinder(const FolderItem& item)
 {
+    const auto failed = [] { Refuser(Localisation::Dit_PasGestionnaire()); };
     if (item.Parent())
-        RevealItem(item);
-    else if (DossPasPack_f(item))
-        OpenItem(item);
+        RevealItem(item, failed);
+    else if (DossPasPack_f(item) && !OpenItem(item))
+        failed();
 }
 
 FolderItem RetDossCetApp(const FolderItem& executable)

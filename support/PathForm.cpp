@@ -91,4 +91,16 @@ std::optional<FolderItem> GetFitemAbsPath(StringView path, bool followAlias)
     return chosen;
 }
 
+bool ComesBack(const FolderItem& item)
+{
+    const auto found = GetFitemAbsPath(AbsPath_f(item, true), false);
+    return found && found->Path() == item.Path();
+}
+
+String PathOfTyped(StringView text)
+{
+    const auto item = FolderItem::Named(text);
+    return item && ComesBack(*item) ? AbsPath_f(*item, true) : String(text);
+}
+
 } // namespace Fncts

@@ -64,12 +64,12 @@ DesktopDisplay DesktopDisplay::DisplayAt(int index)
 
 void Clipboard::SetText(StringView text) { QGuiApplication::clipboard()->setText(ToQt(text)); }
 
-void OpenItem(const FolderItem& item)
+bool OpenItem(const FolderItem& item)
 {
-    if (Probe* const probe = Probe::Current())
-        probe->Opened.push_back(item.NativePath());
-    else
-        QDesktopServices::openUrl(QUrl::fromLocalFile(QFile::decodeName(item.Path().c_str())));
+    Probe* const probe = Probe::Current();
+    if (!probe) return QDesktopServices::openUrl(QUrl::fromLocalFile(QFile::decodeName(item.Path().c_str())));
+    probe->Opened.push_back(item.NativePath());
+    return true;
 }
 
 bool IsPackage(const FolderItem& item) { return QFileInfo(QFile::decodeName(item.Path().c_str())).isBundle(); }

@@ -3,6 +3,8 @@
 
 #include "toolkit/core/FolderItem.h"
 
+#include <functional>
+
 namespace System {
 void Beep();
 /// Opens a link with the program that the desktop uses for it. The text goes out as it stands, but for one that is no
@@ -32,8 +34,10 @@ void SetText(StringView text);
 bool IsDarkMode();
 
 /// Opens the item with the desktop's program for it: a folder in the file manager.
-void OpenItem(const FolderItem& item);
+/// False where the desktop has no such program.
+bool OpenItem(const FolderItem& item);
 /// Shows the item selected in the file manager.
-void RevealItem(const FolderItem& item);
+/// `failed` is called, a while later, where there is no file manager.
+void RevealItem(const FolderItem& item, const std::function<void()>& failed);
 /// Whether the platform shows the folder as one file. Linux knows no such folders.
 bool IsPackage(const FolderItem& item);

@@ -41,15 +41,21 @@ public:
     DesktopTextField(DesktopWindow& window, const Placement& placement, StringView text = {},
                      const FieldStyle& style = {});
 
+    /// The text, tidied where it was typed.
     [[nodiscard]] String Text() const;
     void SetText(StringView text);
     void SelectAll();
 
     /// Enter and Esc.
     std::function<void()> Entered, Escaped;
-    /// An item was dropped on the field, or its native path or "file://" address was pasted there. With a handler the
-    /// field's text stays what it was; without one the field takes no drop, and a pasted path is a text like any other.
-    std::function<void(const FolderItem& item)> ItemGiven;
+    /// What stands for a text that was pasted, or that was typed and then left, confirmed by Enter or asked for. The
+    /// text comes without blanks and line ends around it, and goes in like that where another isn't given; that takes
+    /// the place of all that the field holds.
+    std::function<String(StringView text)> Tidied;
+    /// An item was dropped on the field; without a handler it takes none.
+    std::function<void(const FolderItem& item)> ItemDropped;
+    /// Whether the pointer shows, over the field, that an item can be dropped; it always can.
+    std::function<bool(const FolderItem& item)> TakesItem;
 };
 
 enum class TextAlignment { Left, Center, Right };

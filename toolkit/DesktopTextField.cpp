@@ -1,50 +1,45 @@
 #include "toolkit/Appearance.h"
 #include "toolkit/DesktopControls.h"
 #include "toolkit/DocumentText.h"
+#include "toolkit/EditCommands.h"
 #include "toolkit/core/QtText.h"
 
+#include <QAction>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMimeData>
-#include <QScopedValueRollback>
 #include <QUrl>
 #include <limits>
 
 namespace {
 
-/// The existing item that a native absolute path or a "file://" address names.
-std::optional<FolderItem> ItemOf(const QString& text)
-{
-    QUrl url(text);
-    // Some programs name this machine.
-    if (url.host() == QLatin1String("localhost")) url.setHost({});
-    const QString path = url.isLocalFile() ? url.toLocalFile() : text;
-    if (!path.startsWith(u'/') || path.contains(QChar())) return {};
-    auto place = std::filesystem::path(path.toStdString()).lexically_normal();
-    if (!place.has_filename() && place.has_relative_path()) place = place.parent_path();
-    const FolderItem item(std::move(place));
-    return item.Exists() ? std::optional(item) : std::nullopt;
-}
-
 class Field final : public QLineEdit {
 public:
     Field(DesktopTextField& owner, const FieldStyle& style)
         : owner_(owner)
-        , oneLine_(style.oneLine)
     {
         setReadOnly(style.readOnly);
         setMaxLength(std::numeric_limits<int>::max());
-        connect(this, &QLineEdit::textEdited, this, [this](const QString& text) { Edited(text); });
+        if (style.oneLine) connect(this, &QLineEdit::textEdited, this, &Field::JoinLines);
     }
 
     void Show(const QString& text)
     {
-        before_ = text;
         setText(text);
         setCursorPosition(0);
+    }
+
+    /// Replaces what was typed by what stands for it.
+    void Tidy()
+    {
+        if (!owner_.Tidied || !isModified()) return;
+        setModified(false);
+        if (const QString tidy = TidyOf(text()); tidy != text()) Replace(tidy);
     }
 
 protected:
@@ -53,77 +48,105 @@ protected:
         const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
         const bool escape = event->key() == Qt::Key_Escape;
         if ((enter || escape) && !owner_.TakesInput()) return;
+        if (enter) Tidy();
         if (enter && owner_.Entered) return owner_.Entered();
         if (escape && owner_.Escaped) return owner_.Escaped();
-        const QScopedValueRollback typing(typing_, !event->matches(QKeySequence::Paste));
+        if (event->matches(QKeySequence::Paste) && Paste(QGuiApplication::clipboard()->mimeData())) return;
         QLineEdit::keyPressEvent(event);
     }
 
-    void inputMethodEvent(QInputMethodEvent* event) override
+    void mouseReleaseEvent(QMouseEvent* event) override
     {
-        const QScopedValueRollback typing(typing_, true);
-        QLineEdit::inputMethodEvent(event);
+        const bool pastes = event->button() == Qt::MiddleButton && QGuiApplication::clipboard()->supportsSelection();
+        if (pastes && Paste(QGuiApplication::clipboard()->mimeData(QClipboard::Selection))) return;
+        QLineEdit::mouseReleaseEvent(event);
     }
 
-    void dragEnterEvent(QDragEnterEvent* event) override
+    void contextMenuEvent(QContextMenuEvent* event) override
     {
-        if (DroppedItem(*event->mimeData()))
-            event->acceptProposedAction();
-        else if (owner_.ItemGiven && event->mimeData()->hasUrls())
-            event->ignore(); // Several items, or none that is there: their addresses are no path.
-        else
-            QLineEdit::dragEnterEvent(event);
+        QMenu* const menu = createStandardContextMenu();
+        menu->setAttribute(Qt::WA_DeleteOnClose);
+        const QString key = QKeySequence(QKeySequence::Paste).toString(QKeySequence::NativeText);
+        for (QAction* const action : menu->actions()) {
+            if (!action->text().endsWith(key)) continue;
+            action->disconnect(this);
+            connect(action, &QAction::triggered, this, [this] { Edit(EditCommand::Paste, this); });
+        }
+        menu->popup(event->globalPos());
     }
+
+    void focusOutEvent(QFocusEvent* event) override
+    {
+        QLineEdit::focusOutEvent(event);
+        if (event->reason() != Qt::PopupFocusReason) Tidy();
+    }
+
+    void dragEnterEvent(QDragEnterEvent* event) override { Drag(*event); }
+
+    void dragMoveEvent(QDragMoveEvent* event) override { Drag(*event); }
 
     void dropEvent(QDropEvent* event) override
     {
-        const std::optional<FolderItem> item = DroppedItem(*event->mimeData());
-        if (!item) return QLineEdit::dropEvent(event);
-        event->acceptProposedAction();
-        owner_.ItemGiven(*item);
+        if (const std::optional<FolderItem> item = ItemIn(*event->mimeData())) {
+            event->accept();
+            return owner_.ItemDropped(*item);
+        }
+        QLineEdit::dropEvent(event);
+        Tidy();
     }
 
 private:
-    [[nodiscard]] std::optional<FolderItem> DroppedItem(const QMimeData& dropped) const
+    [[nodiscard]] std::optional<FolderItem> ItemIn(const QMimeData& dragged) const
     {
-        if (!owner_.ItemGiven || !owner_.TakesInput() || dropped.urls().size() != 1) return {};
-        return ItemOf(dropped.urls().front().toString());
+        if (!owner_.ItemDropped || !owner_.TakesInput() || dragged.urls().size() != 1) return {};
+        return FolderItem::Named(FromQt(dragged.urls().constFirst().toString()));
     }
 
-    void Edited(const QString& text)
+    void Drag(QDragMoveEvent& event)
     {
-        const QString pasted = Pasted(text).trimmed();
-        if (oneLine_ && OneLine(text) != text) {
-            const int caret = cursorPosition();
-            setText(OneLine(text));
-            setCursorPosition(caret);
+        if (const std::optional<FolderItem> item = ItemIn(*event.mimeData())) {
+            // It can be let go over the field all the same, which is answered with the reason.
+            event.setDropAction(owner_.TakesItem(*item) ? Qt::CopyAction : Qt::IgnoreAction);
+            event.accept();
+        } else if (owner_.ItemDropped && event.mimeData()->hasUrls()) {
+            event.ignore(); // Several items, or none that is there: their addresses are no path.
+        } else {
+            QLineEdit::dragMoveEvent(&event);
         }
-        const std::optional<FolderItem> item = owner_.TakesInput() && pasted.size() > 1 ? ItemOf(pasted) : std::nullopt;
-        if (!item) {
-            before_ = text;
-            return;
-        }
-        Show(before_);
-        owner_.ItemGiven(*item);
     }
 
-    /// The clipboard's text if the edit put it in front of the caret, or "". Keys other than the one that pastes don't,
-    /// nor does what takes an edit back.
-    [[nodiscard]] QString Pasted(const QString& text) const
+    [[nodiscard]] QString TidyOf(const QString& text) const { return ToQt(owner_.Tidied(FromQt(text.trimmed()))); }
+
+    void Replace(const QString& tidy)
     {
-        if (!owner_.ItemGiven || typing_ || isRedoAvailable()) return {};
-        for (const auto mode : {QClipboard::Clipboard, QClipboard::Selection}) {
-            QString held = QGuiApplication::clipboard()->text(mode);
-            if (!held.isEmpty() && text.left(cursorPosition()).endsWith(held)) return held;
-        }
-        return {};
+        selectAll();
+        insert(tidy);
+        setModified(false);
+    }
+
+    /// Puts in what stands for a pasted text; false where that is for Qt to do.
+    bool Paste(const QMimeData* pasted)
+    {
+        if (!owner_.Tidied || isReadOnly() || !pasted || pasted->urls().size() > 1) return false;
+        const QString text = pasted->hasUrls() ? pasted->urls().constFirst().toString() : pasted->text();
+        const QString tidy = TidyOf(text);
+        if (tidy == text) return false;
+        if (tidy == text.trimmed())
+            insert(tidy);
+        else
+            Replace(tidy);
+        return true;
+    }
+
+    void JoinLines(const QString& text)
+    {
+        if (OneLine(text) == text) return;
+        const int caret = cursorPosition();
+        setText(OneLine(text));
+        setCursorPosition(caret);
     }
 
     DesktopTextField& owner_;
-    const bool oneLine_;
-    bool typing_ = false;
-    /// The text before the edit that is under way.
-    QString before_;
 };
 
 } // namespace
@@ -136,7 +159,12 @@ DesktopTextField::DesktopTextField(DesktopWindow& window, const Placement& place
     SetText(text);
 }
 
-String DesktopTextField::Text() const { return FromQt(static_cast<QLineEdit*>(widget_)->text()); }
+String DesktopTextField::Text() const
+{
+    auto* const field = static_cast<Field*>(widget_);
+    field->Tidy();
+    return FromQt(field->text());
+}
 
 void DesktopTextField::SetText(StringView text) { static_cast<Field*>(widget_)->Show(ToQt(text)); }
 

@@ -68,7 +68,8 @@ std::unique_ptr<Dialog> Finished(Dialog* dialog)
     return std::unique_ptr<Dialog>(watched.data());
 }
 
-std::optional<FolderItem> Choose(std::unique_ptr<QFileDialog> chooser, const std::optional<FolderItem>& initialFolder)
+std::optional<FolderItem> Choose(std::unique_ptr<QFileDialog> chooser, const std::optional<FolderItem>& initialFolder,
+                                 const std::optional<FolderItem>& initialFile = {})
 {
     // An alias is an item of its own; the program follows it where it wants to.
     chooser->setOption(QFileDialog::DontResolveSymlinks);
@@ -79,20 +80,31 @@ std::optional<FolderItem> Choose(std::unique_ptr<QFileDialog> chooser, const std
         // By itself each column but the first has the same width, and cuts dates off.
         list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
         list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+        // Qt has its texts in few languages; the name tells the type.
+        constexpr int typeColumn = 2;
+        list->hideColumn(typeColumn);
     }
     if (initialFolder) chooser->setDirectory(QFile::decodeName(initialFolder->Path().c_str()));
+    if (initialFile) chooser->selectFile(QFile::decodeName(initialFile->Path().c_str()));
     const auto finished = Finished(chooser.release());
     if (!finished || finished->result() != QDialog::Accepted || finished->selectedFiles().isEmpty()) return {};
     return FolderItem(QFile::encodeName(finished->selectedFiles().constFirst()).toStdString());
 }
 
-/// ".txt;.ini" as "*.txt *.ini".
-QString NameFilter(StringView extensions)
+/// What is shown of a filter, with as many of its patterns as there is room for, and behind it all of them, which the
+/// chooser doesn't show: "Text (*.txt *.ini …) (*.txt *.ini *.java)" of "Text" and ".txt;.ini;.java".
+QString NameFilter(const OpenFileDialog& dialog, const QFontMetrics& font)
 {
+    constexpr int room = 420;
     QStringList patterns;
-    for (const StringView extension : Split(extensions, U";"))
-        if (!extension.empty()) patterns << QLatin1Char('*') + ToQt(extension);
-    return patterns.join(QLatin1Char(' '));
+    for (const StringView extension : Split(dialog.Filter, U";"))
+        patterns << u'*' + ToQt(extension);
+    QString shown;
+    for (auto count = patterns.size(); shown.isEmpty() || font.horizontalAdvance(shown) > room; --count)
+        shown = QStringLiteral("%1 (%2%3)")
+                    .arg(ToQt(dialog.FilterName), patterns.first(count).join(u' '),
+                         count < patterns.size() ? QStringLiteral(" …") : QString());
+    return shown + QStringLiteral(" (%1)").arg(patterns.join(u' '));
 }
 
 } // namespace
@@ -115,10 +127,11 @@ std::optional<FolderItem> OpenFileDialog::ShowModal(DesktopWindow* window) const
     }
     auto chooser = std::make_unique<QFileDialog>(Dialogs::ParentOf(window), ToQt(PromptText));
     chooser->setFileMode(QFileDialog::ExistingFile);
-    const QString first = NameFilter(Filter);
-    const QString allFiles = QStringLiteral("*");
-    chooser->setNameFilters(first.isEmpty() ? QStringList(allFiles) : QStringList{first, allFiles});
-    return Choose(std::move(chooser), InitialFolder);
+    chooser->setOption(QFileDialog::HideNameFilterDetails);
+    QStringList filters = {ToQt(AllFilesName) + QStringLiteral(" (*)")};
+    if (!Filter.empty()) filters.prepend(NameFilter(*this, chooser->fontMetrics()));
+    chooser->setNameFilters(filters);
+    return Choose(std::move(chooser), InitialFolder, InitialFile);
 }
 
 std::optional<FolderItem> SelectFolderDialog::ShowModal(DesktopWindow* window) const

@@ -29,6 +29,10 @@ struct OpenFileDialog {
     std::optional<FolderItem> InitialFolder;
     /// Extensions with their dots, separated by ";", of the files that are offered first; empty for all files.
     String Filter;
+    /// What the files that are offered first, and all files, are called.
+    String FilterName{}, AllFilesName{};
+    /// The file that is selected at first.
+    std::optional<FolderItem> InitialFile{};
 
     /// Nothing when the user gave up. An alias is chosen as itself.
     [[nodiscard]] std::optional<FolderItem> ShowModal(DesktopWindow* window = nullptr) const;

@@ -36,6 +36,15 @@ void Travel(QPlainTextEdit& area, bool forth)
     if (auto* const editor = dynamic_cast<TextEditor*>(&area)) editor->Travel(forth);
 }
 
+/// By its key, so that a field of ours sees what comes before its text changes.
+void Paste(QLineEdit& field)
+{
+    const QKeyCombination paste = QKeySequence(QKeySequence::Paste)[0];
+    QKeyEvent press(QEvent::KeyPress, paste.key(), paste.keyboardModifiers());
+    QCoreApplication::sendEvent(&field, &press);
+}
+void Paste(QPlainTextEdit& area) { area.paste(); }
+
 void EditText(EditCommand command, auto& control)
 {
     switch (command) {
@@ -48,7 +57,7 @@ void EditText(EditCommand command, auto& control)
     case EditCommand::Copy:
         return control.copy();
     case EditCommand::Paste:
-        return control.paste();
+        return Paste(control);
     case EditCommand::Clear:
         return Clear(control);
     case EditCommand::SelectAll:

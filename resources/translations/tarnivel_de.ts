@@ -546,6 +546,22 @@ Rückgabewert: 0 alles stimmt überein, 1 etwas wurde gemeldet,
         <source>Vous ne pouvez glisser déposer qu'un fichier contenant du texte ici.</source>
         <translation>Hierher kann nur eine Datei gezogen werden, die Text enthält.</translation>
     </message>
+    <message id="Localisation.Txt_DropQueDoss">
+        <source>Vous ne pouvez glisser déposer qu'un dossier ici.</source>
+        <translation>Hierher kann nur ein Ordner gezogen werden.</translation>
+    </message>
+    <message id="Localisation.Dit_AliasMort">
+        <source>Cet alias ne mène nulle part.</source>
+        <translation>Dieser Alias führt nirgendwohin.</translation>
+    </message>
+    <message id="Localisation.Dit_PasGestionnaire">
+        <source>Aucun gestionnaire de fichiers ne répond.</source>
+        <translation>Kein Dateimanager antwortet.</translation>
+    </message>
+    <message id="Localisation.Txt_NomNonGarde">
+        <source>Le nom de cet élément ne peut pas être gardé : il n'est pas en UTF-8, ou un autre élément a presque le même.</source>
+        <translation>Der Name dieses Objekts kann nicht behalten werden: Er ist kein UTF-8, oder ein anderes Objekt heißt fast genauso.</translation>
+    </message>
     <message id="Localisation.Txt_ChoisirUnFich">
         <source>Choisir un fichier :</source>
         <translation>Wählen Sie eine Datei:</translation>

@@ -546,6 +546,22 @@ Exit status: 0 all agrees, 1 something was reported,
         <source>Vous ne pouvez glisser déposer qu'un fichier contenant du texte ici.</source>
         <translation>Only a file that holds text can be dropped here.</translation>
     </message>
+    <message id="Localisation.Txt_DropQueDoss">
+        <source>Vous ne pouvez glisser déposer qu'un dossier ici.</source>
+        <translation>Only a folder can be dropped here.</translation>
+    </message>
+    <message id="Localisation.Dit_AliasMort">
+        <source>Cet alias ne mène nulle part.</source>
+        <translation>This alias leads nowhere.</translation>
+    </message>
+    <message id="Localisation.Dit_PasGestionnaire">
+        <source>Aucun gestionnaire de fichiers ne répond.</source>
+        <translation>No file manager answers.</translation>
+    </message>
+    <message id="Localisation.Txt_NomNonGarde">
+        <source>Le nom de cet élément ne peut pas être gardé : il n'est pas en UTF-8, ou un autre élément a presque le même.</source>
+        <translation>The name of this item can't be kept: it is no UTF-8, or another item has almost the same.</translation>
+    </message>
     <message id="Localisation.Txt_ChoisirUnFich">
         <source>Choisir un fichier :</source>
         <translation>Choose a file:</translation>

@@ -546,6 +546,22 @@ Estado de salida: 0 todo concuerda, 1 se ha señalado algo,
         <source>Vous ne pouvez glisser déposer qu'un fichier contenant du texte ici.</source>
         <translation>Aquí solo puede soltar un archivo que contenga texto.</translation>
     </message>
+    <message id="Localisation.Txt_DropQueDoss">
+        <source>Vous ne pouvez glisser déposer qu'un dossier ici.</source>
+        <translation>Aquí solo puede soltar una carpeta.</translation>
+    </message>
+    <message id="Localisation.Dit_AliasMort">
+        <source>Cet alias ne mène nulle part.</source>
+        <translation>Este alias no lleva a ninguna parte.</translation>
+    </message>
+    <message id="Localisation.Dit_PasGestionnaire">
+        <source>Aucun gestionnaire de fichiers ne répond.</source>
+        <translation>Ningún gestor de archivos responde.</translation>
+    </message>
+    <message id="Localisation.Txt_NomNonGarde">
+        <source>Le nom de cet élément ne peut pas être gardé : il n'est pas en UTF-8, ou un autre élément a presque le même.</source>
+        <translation>El nombre de este elemento no se puede conservar: no está en UTF-8 u otro elemento tiene casi el mismo.</translation>
+    </message>
     <message id="Localisation.Txt_ChoisirUnFich">
         <source>Choisir un fichier :</source>
         <translation>Elija un archivo:</translation>

@@ -546,6 +546,22 @@ Stato di uscita: 0 tutto concorda, 1 qualcosa è stato segnalato,
         <source>Vous ne pouvez glisser déposer qu'un fichier contenant du texte ici.</source>
         <translation>Qui si può trascinare solo un file che contiene testo.</translation>
     </message>
+    <message id="Localisation.Txt_DropQueDoss">
+        <source>Vous ne pouvez glisser déposer qu'un dossier ici.</source>
+        <translation>Qui si può trascinare solo una cartella.</translation>
+    </message>
+    <message id="Localisation.Dit_AliasMort">
+        <source>Cet alias ne mène nulle part.</source>
+        <translation>Questo alias non porta da nessuna parte.</translation>
+    </message>
+    <message id="Localisation.Dit_PasGestionnaire">
+        <source>Aucun gestionnaire de fichiers ne répond.</source>
+        <translation>Nessun gestore di file risponde.</translation>
+    </message>
+    <message id="Localisation.Txt_NomNonGarde">
+        <source>Le nom de cet élément ne peut pas être gardé : il n'est pas en UTF-8, ou un autre élément a presque le même.</source>
+        <translation>Il nome di questo elemento non può essere conservato: non è in UTF-8, oppure un altro elemento ha quasi lo stesso.</translation>
+    </message>
     <message id="Localisation.Txt_ChoisirUnFich">
         <source>Choisir un fichier :</source>
         <translation>Scegliere un file:</translation>

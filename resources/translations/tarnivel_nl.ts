@@ -546,6 +546,22 @@ Afsluitstatus: 0 alles stemt overeen, 1 er is iets gemeld,
         <source>Vous ne pouvez glisser déposer qu'un fichier contenant du texte ici.</source>
         <translation>Hier kunt u alleen een bestand met tekst neerzetten.</translation>
     </message>
+    <message id="Localisation.Txt_DropQueDoss">
+        <source>Vous ne pouvez glisser déposer qu'un dossier ici.</source>
+        <translation>U kunt hier alleen een map neerzetten.</translation>
+    </message>
+    <message id="Localisation.Dit_AliasMort">
+        <source>Cet alias ne mène nulle part.</source>
+        <translation>Deze alias leidt nergens heen.</translation>
+    </message>
+    <message id="Localisation.Dit_PasGestionnaire">
+        <source>Aucun gestionnaire de fichiers ne répond.</source>
+        <translation>Er antwoordt geen bestandsbeheerder.</translation>
+    </message>
+    <message id="Localisation.Txt_NomNonGarde">
+        <source>Le nom de cet élément ne peut pas être gardé : il n'est pas en UTF-8, ou un autre élément a presque le même.</source>
+        <translation>De naam van dit onderdeel kan niet worden bewaard: hij is geen UTF-8, of een ander onderdeel heet bijna hetzelfde.</translation>
+    </message>
     <message id="Localisation.Txt_ChoisirUnFich">
         <source>Choisir un fichier :</source>
         <translation>Kies een bestand:</translation>

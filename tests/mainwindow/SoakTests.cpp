@@ -42,7 +42,7 @@ protected:
         // Its history begins anew, and what the old one held is given back.
         for (const auto& [field, file] : {std::pair(&window->TextFieldMod1, "model.ini"),
                                           std::pair(&window->TextFieldSpack, "Custom Scenery/scenery_packs.ini")})
-            field->ItemGiven(FolderItem(folder.Path() / file));
+            field->ItemDropped(FolderItem(folder.Path() / file));
         window->ChBoxArchiv.SetValue(true);
         Run();
         window->TextAreaAff.Select(0, std::ssize(window->TextAreaAff.Text()));

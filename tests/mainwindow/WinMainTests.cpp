@@ -137,30 +137,30 @@ TEST_F(MainWindow, WhatAHandHasMadeIsAskedForBeforeItGoes)
         probe.Asked.clear();
     };
     // A result as a run left it, and one over an edit.
-    window->TextFieldMod1.ItemGiven(FolderItem(model));
+    window->TextFieldMod1.ItemDropped(FolderItem(model));
     Run();
     toggle();
     Run();
     asks(false);
 
     toggle();
-    window->TextFieldMod1.ItemGiven(FolderItem(other));
+    window->TextFieldMod1.ItemDropped(FolderItem(other));
     asks(true);
     EXPECT_EQ(Fncts::GetFitemAbsPath(window->TextFieldMod1.Text(), false)->Path(), model);
     window->Close();
     asks(true);
     EXPECT_FALSE(app->DrapOkQuit);
     View(1);
-    window->TextFieldSpack.ItemGiven(FolderItem(other));
+    window->TextFieldSpack.ItemDropped(FolderItem(other));
     asks(true);
     EXPECT_NE(View(2), U"");
     probe.Answers = {3};
-    window->TextFieldMod1.ItemGiven(FolderItem(other));
+    window->TextFieldMod1.ItemDropped(FolderItem(other));
     asks(true);
     EXPECT_EQ(View(2), U"");
     EXPECT_NE(View(1), U"") << "the other file's text stays";
 
-    window->TextFieldMod1.ItemGiven(FolderItem(model));
+    window->TextFieldMod1.ItemDropped(FolderItem(model));
     Run();
     toggle();
     window->BtnSave_Pressed();
@@ -280,7 +280,7 @@ TEST_F(WideText, AMatchIsSelectedAndTheSoundTellsWhatWasFound)
     EXPECT_EQ(window->TextFieldCherch.Text(), U"");
 }
 
-TEST_F(WideText, WhatIsNotThereIsNeitherRevealedNorTaken)
+TEST_F(WideText, WhatIsNotThereIsNotRevealed)
 {
     const auto reveal = [this](StringView word) {
         CaretAt(word);
@@ -294,19 +294,36 @@ TEST_F(WideText, WhatIsNotThereIsNeitherRevealedNorTaken)
     EXPECT_EQ(reveal(U"Alpes"), std::pair(1, Revealed{}));
     window->TextFieldSpack.SetText(U"Linux:");
     EXPECT_EQ(reveal(U"😀/"), std::pair(1, Revealed{})) << "a volume lies in no folder";
+}
 
-    const auto link = folder.Path() / "link";
-    std::filesystem::create_symlink("nowhere", link);
-    for (DesktopTextField* const field : {&window->TextFieldMod1, &window->TextFieldSpack, &window->TextFieldArchiv}) {
-        const String before = field->Text();
-        field->ItemGiven(FolderItem(link));
-        EXPECT_EQ(field->Text(), before);
-        EXPECT_EQ(std::exchange(probe.Beeps, 0), 1);
-    }
-    EXPECT_EQ(window->TextAreaAff.Text(), text);
-    folder.File("nowhere");
-    window->TextFieldMod1.ItemGiven(FolderItem(link));
-    EXPECT_EQ(Fncts::GetFitemAbsPath(window->TextFieldMod1.Text(), false)->Path(), link);
+TEST_F(WideText, FieldsTakeWhatTheyCanKeep)
+{
+    const auto dropped = [&](DesktopTextField& field, const std::filesystem::path& item) {
+        field.ItemDropped(FolderItem(item));
+        return std::tuple(field.Text(), std::exchange(probe.Beeps, 0), probe.Said.empty() ? U"" : probe.Said.back());
+    };
+    const String model = window->TextFieldMod1.Text(), archives = window->TextFieldArchiv.Text();
+    std::filesystem::create_symlink("nowhere", folder.Path() / "link.ini");
+    std::filesystem::create_directory_symlink("Custom Scenery", folder.Path() / "way");
+    const std::filesystem::path twin = folder.File("e\u0301.ini"), composed = folder.File("\u00E9.ini"),
+                                noText = folder.File("\xFF.ini"), picture = folder.File("picture.png");
+    using namespace Localisation;
+    EXPECT_EQ(dropped(window->TextFieldMod1, folder.Path() / "link.ini"), std::tuple(model, 1, Dit_AliasMort()));
+    EXPECT_EQ(dropped(window->TextFieldMod1, folder.Path() / "way"), std::tuple(model, 1, Txt_DropQueFichTxt()));
+    EXPECT_EQ(dropped(window->TextFieldMod1, picture), std::tuple(model, 1, Txt_DropQueFichTxt()));
+    EXPECT_EQ(dropped(window->TextFieldMod1, twin), std::tuple(model, 1, Txt_NomNonGarde()));
+    EXPECT_EQ(dropped(window->TextFieldMod1, noText), std::tuple(model, 1, Txt_NomNonGarde()));
+    EXPECT_EQ(dropped(window->TextFieldArchiv, picture), std::tuple(archives, 1, Txt_DropQueDoss()));
+    EXPECT_EQ(window->TextAreaAff.Text(), text) << "what is refused changes nothing";
+
+    dropped(window->TextFieldArchiv, folder.Path() / "way");
+    EXPECT_EQ(window->TextFieldArchiv.Text(), Fncts::AbsPath_f(FolderItem(folder.Path() / "Custom Scenery"), true));
+    window->RadGrpSrc.SetSelectedIndex(1);
+    window->TextFieldMod2.Entered();
+    EXPECT_EQ(window->RadGrpSrc.SelectedIndex(), 1);
+    dropped(window->TextFieldMod1, composed);
+    EXPECT_EQ(Fncts::GetFitemAbsPath(window->TextFieldMod1.Text(), false)->Path(), composed);
+    EXPECT_EQ(window->RadGrpSrc.SelectedIndex(), 0) << "a chosen model is the one that is used";
     EXPECT_EQ(window->TextAreaAff.Text(), U"") << "the old model's results are gone";
 }
 

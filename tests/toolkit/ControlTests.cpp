@@ -171,58 +171,96 @@ TEST_F(ControlTest, ALinkIsPressedByMouseKeysAndAScreenReader)
     EXPECT_EQ(QAccessible::queryAccessibleInterface(&Find<QLabel>("plain"))->role(), QAccessible::StaticText);
 }
 
-TEST(TextField, TakesAnItemThatIsPastedOrDroppedAtOnce)
-{
-    DesktopWindow window({.title = U"Items", .width = 300, .height = 100});
-    DesktopTextField field(window, {0, 0, 300, 22}, U"path form");
-    field.SetName(U"items");
-    ShowActive(window);
-    std::vector<String> given;
-    field.ItemGiven = [&given](const FolderItem& item) { given.push_back(item.NativePath()); };
-    auto& line = Find<QLineEdit>("items");
-    struct Row {
-        const char *name, *before;
-        int selected;
-        const char *pasted, *taken;
-    };
-    for (const Row& row :
-         {Row{"a folder", "path form", 0, "/usr/", "/usr"}, Row{"an address", "path form", 4, "file:///usr\n", "/usr"},
-          Row{"an address with this machine's name", "", 0, "file://localhost/usr/bin", "/usr/bin"},
-          Row{"over another of the same name", "Linux:opt:bin", 13, "/usr/bin", "/usr/bin"},
-          Row{"over one in the same folder", "/usr/lib", 8, "/usr/bin", "/usr/bin"},
-          Row{"nothing there", "path form", 0, "/usr/none", nullptr},
-          Row{"a relative path", "path form", 0, "usr", nullptr},
-          Row{"another address", "path form", 0, "http://localhost/usr", nullptr}}) {
-        given.clear();
-        field.SetText(QString::fromUtf8(row.before).toStdU32String());
-        line.setSelection(0, row.selected);
-        QApplication::clipboard()->setText(QString::fromUtf8(row.pasted));
-        line.paste();
-        EXPECT_EQ(given, row.taken ? std::vector{QString(row.taken).toStdU32String()} : std::vector<String>{})
-            << row.name;
-        EXPECT_EQ(line.text() == row.before, row.taken != nullptr) << row.name;
-    }
-    given.clear();
-    QApplication::clipboard()->setText("/usr");
-    field.SetText(U"");
-    QTest::keyClicks(&line, "/usr");
-    line.selectAll();
-    line.del();
-    line.undo();
-    EXPECT_EQ(field.Text(), U"/usr");
-    EXPECT_TRUE(given.empty()) << "typing gives nothing, and neither does undoing";
+struct TextFieldTest : testing::Test {
+    DesktopWindow window{{.title = U"Items", .width = 300, .height = 100}};
+    DesktopTextField field{window, {0, 0, 300, 22}};
+    QLineEdit* line = nullptr;
 
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile("/usr")});
-    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&line, &enter);
-    EXPECT_TRUE(enter.isAccepted());
-    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&line, &drop);
-    EXPECT_EQ(given, std::vector<String>{U"/usr"}) << "dropped";
-    data.setUrls({QUrl::fromLocalFile("/usr"), QUrl::fromLocalFile("/etc")});
-    QApplication::sendEvent(&line, &enter);
-    EXPECT_FALSE(enter.isAccepted()) << "two items";
+    void SetUp() override
+    {
+        field.SetName(U"items");
+        ShowActive(window);
+        line = &Find<QLineEdit>("items");
+        field.Tidied = [](StringView text) {
+            return text.starts_with(U'/') ? U"form of " + String(text) : String(text);
+        };
+    }
+    void Paste(const char* text)
+    {
+        QApplication::clipboard()->setText(text);
+        QTest::keyClick(line, Qt::Key_V, Qt::ControlModifier);
+    }
+};
+
+TEST_F(TextFieldTest, TidiesWhatIsPasted)
+{
+    struct Row {
+        const char* name;
+        int selected;
+        const char *pasted, *after;
+    };
+    for (const Row& row : {Row{"a path takes the whole place", 0, "/usr", "form of /usr"},
+                           Row{"blanks around a path", 2, " /usr\n", "form of /usr"},
+                           Row{"another text goes in at the caret", 0, "x y", "x ybefore"},
+                           Row{"without blanks around it", 6, "\t x y \r\n", "x y"}}) {
+        field.SetText(U"before");
+        line->setSelection(0, row.selected);
+        Paste(row.pasted);
+        EXPECT_EQ(line->text(), row.after) << row.name;
+        QTest::keyClick(line, Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(line->text(), "before") << row.name;
+    }
+    QContextMenuEvent menu(QContextMenuEvent::Mouse, QPoint(5, 5), line->mapToGlobal(QPoint(5, 5)));
+    QApplication::clipboard()->setText("/usr");
+    QApplication::sendEvent(line, &menu);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_L);
+    EXPECT_EQ(line->text(), "form of /usr") << "by the context menu";
+}
+
+TEST_F(TextFieldTest, TidiesWhatWasTypedWhenItIsLeftConfirmedOrAskedFor)
+{
+    DesktopTextField other(window, {0, 30, 300, 22});
+    const std::pair<const char*, std::function<void()>> ends[] = {
+        {"left", [&] { other.SetFocus(); }},
+        {"confirmed", [&] { QTest::keyClick(line, Qt::Key_Return); }},
+        {"asked for", [&] { static_cast<void>(field.Text()); }},
+    };
+    for (const auto& [name, end] : ends) {
+        field.SetText(U"/set by the program");
+        field.SetFocus();
+        end();
+        EXPECT_EQ(line->text(), "/set by the program") << name;
+        field.SetFocus();
+        line->selectAll();
+        QTest::keyClicks(line, "/usr ");
+        EXPECT_EQ(line->text(), "/usr ") << name;
+        end();
+        EXPECT_EQ(line->text(), "form of /usr") << name;
+    }
+}
+
+TEST_F(TextFieldTest, TellsOfDroppedItemsAndShowsWhichItTakes)
+{
+    std::vector<String> dropped;
+    field.ItemDropped = [&](const FolderItem& item) { dropped.push_back(item.NativePath()); };
+    field.TakesItem = [](const FolderItem& item) { return item.Name() == U"usr"; };
+    const auto drag = [&](const QStringList& items) {
+        QMimeData data;
+        QList<QUrl> urls;
+        for (const QString& item : items)
+            urls << QUrl::fromLocalFile(item);
+        data.setUrls(urls);
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(line, &enter);
+        QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        if (enter.isAccepted()) QApplication::sendEvent(line, &drop);
+        return enter.isAccepted() ? enter.dropAction() : Qt::TargetMoveAction;
+    };
+    EXPECT_EQ(drag({"/usr"}), Qt::CopyAction);
+    EXPECT_EQ(drag({"/etc"}), Qt::IgnoreAction) << "the pointer shows that it is refused";
+    EXPECT_EQ(drag({"/usr", "/etc"}), Qt::TargetMoveAction) << "two items";
+    EXPECT_EQ(dropped, (std::vector<String>{U"/usr", U"/etc"}));
+    EXPECT_EQ(line->text(), "");
 }
 
 } // namespace

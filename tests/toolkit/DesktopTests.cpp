@@ -67,7 +67,8 @@ TEST(Desktop, RevealsAnItemOrElseOpensItsFolder)
     qputenv("DBUS_SESSION_BUS_ADDRESS", address.toLatin1());
     OpenedLinks opened;
     const FolderItem item("/tmp/Custom Scenery/Alpes");
-    RevealItem(item);
+    const auto failed = [] { FAIL() << "the folder was opened"; };
+    RevealItem(item, failed);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !opened.urls.isEmpty(); }));
     EXPECT_EQ(opened.urls, QStringList("file:///tmp/Custom%20Scenery/"));
 
@@ -75,7 +76,7 @@ TEST(Desktop, RevealsAnItemOrElseOpensItsFolder)
     auto connection = QDBusConnection::connectToBus(address, "file manager");
     ASSERT_TRUE(connection.registerVirtualObject("/org/freedesktop/FileManager1", &manager));
     ASSERT_TRUE(connection.registerService("org.freedesktop.FileManager1"));
-    RevealItem(item);
+    RevealItem(item, failed);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !manager.asked.isEmpty(); }));
     EXPECT_EQ(manager.asked, (QStringList{"ShowItems", "file:///tmp/Custom%20Scenery/Alpes"}));
     EXPECT_EQ(opened.urls.size(), 1);

@@ -187,7 +187,7 @@ TEST(Chooser, GivesWhatTheUserHasNamed)
         SCOPED_TRACE(row.typed);
         WhenUp([&](QDialog& dialog) {
             EXPECT_EQ(dialog.windowTitle(), "Choose:");
-            const QStringList offered{"*.txt *.ini", "*"};
+            const QStringList offered{"Text (*.txt *.ini) (*.txt *.ini)", "All (*)"};
             EXPECT_TRUE(!row.isFileChooser || qobject_cast<QFileDialog*>(&dialog)->nameFilters() == offered);
             // What Qt says of a wrong name comes in a box of its own.
             Timer closer(0);
@@ -197,8 +197,9 @@ TEST(Chooser, GivesWhatTheUserHasNamed)
             QMetaObject::invokeMethod(&dialog, "accept");
         });
         const FolderItem start(folder.Path());
-        const auto chosen = row.isFileChooser ? OpenFileDialog{U"Choose:", start, U".txt;.ini"}.ShowModal()
-                                              : SelectFolderDialog{U"Choose:", start}.ShowModal();
+        const auto chosen = row.isFileChooser
+                                ? OpenFileDialog{U"Choose:", start, U".txt;.ini", U"Text", U"All"}.ShowModal()
+                                : SelectFolderDialog{U"Choose:", start}.ShowModal();
         EXPECT_EQ(chosen.has_value(), row.isChosen);
         EXPECT_TRUE(!chosen || chosen->Path() == folder.Path() / row.typed) << "an alias is chosen as itself";
     }

@@ -16,11 +16,26 @@ TEST(SpecialFolders, LieInTheHomeFolder)
     EXPECT_EQ(SpecialFolder::ApplicationData()->Path(), home.Path() / ".local/share");
     EXPECT_TRUE(SpecialFolder::ApplicationData()->IsFolder()) << "a fresh account doesn't have it";
     EXPECT_EQ(SpecialFolder::Preferences()->Path(), home.Path() / ".config");
+    EXPECT_FALSE(SpecialFolder::Documents());
+    (void)home.Folder("Documents");
     EXPECT_EQ(SpecialFolder::Documents()->Path(), home.Path() / "Documents");
+
+    (void)home.File("a b");
+    for (const StringView name : {U"~/a b", U"~/none/../a b"})
+        EXPECT_EQ(FolderItem::Named(name)->Path(), home.Path() / "a b");
 
     std::filesystem::remove_all(home.Path() / ".local");
     (void)home.File(".local", "a file in the way");
     EXPECT_FALSE(SpecialFolder::ApplicationData());
+}
+
+TEST(FolderItem, IsNamedInTheWaysOfTheSystem)
+{
+    for (const StringView name : {U"/usr/bin", U"/usr/bin/", U"file:///usr/bin", U"file://localhost/usr/b%69n"})
+        EXPECT_EQ(FolderItem::Named(name).value().Path(), "/usr/bin");
+    for (const StringView name :
+         {U"/usr/none", U"usr", U"", U"~", U"http://localhost/usr", U"file://elsewhere/usr", U"Linux:usr:bin:"})
+        EXPECT_FALSE(FolderItem::Named(name));
 }
 
 TEST(SpecialFolders, AreNowhereWithoutAHome)

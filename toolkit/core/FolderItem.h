@@ -18,6 +18,9 @@ public:
     /// A slash at the end is dropped.
     explicit FolderItem(std::filesystem::path absolutePath);
 
+    /// The existing item that a native absolute path, one from the home folder ("~/…") or a "file://" address names.
+    static std::optional<FolderItem> Named(StringView text);
+
     /// Drive 0 is the root of the file system, drives 1 and up are the children of the folder of volumes in the order
     /// of `Children`, read anew at each call.
     static std::vector<FolderItem> Drives();
@@ -86,6 +89,7 @@ namespace SpecialFolder {
 /// Where programs keep their data; it is made when the user's account doesn't have it yet.
 std::optional<FolderItem> ApplicationData();
 std::optional<FolderItem> Preferences();
+/// Nothing also where the user has removed it.
 std::optional<FolderItem> Documents();
 } // namespace SpecialFolder
 

@@ -2,8 +2,10 @@
 #include "toolkit/core/QtText.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QStandardPaths>
+#include <QUrl>
 #include <cstdlib>
 #include <system_error>
 #include <utility>
@@ -42,6 +44,19 @@ std::optional<FolderItem> Place(QStandardPaths::StandardLocation location)
 
 } // namespace
 
+std::optional<FolderItem> FolderItem::Named(StringView text)
+{
+    const QString name = ToQt(text);
+    QUrl url(name);
+    // Some programs name this machine.
+    if (url.host() == QLatin1String("localhost")) url.setHost({});
+    QString path = url.isLocalFile() ? url.toLocalFile() : name;
+    if (path.startsWith(QLatin1String("~/")) && HasHome()) path.replace(0, 1, QDir::homePath());
+    if (!path.startsWith(u'/') || path.contains(QChar())) return {};
+    const FolderItem item(fs::path(QFile::encodeName(path).toStdString()).lexically_normal());
+    return item.Exists() ? std::optional(item) : std::nullopt;
+}
+
 std::vector<FolderItem> FolderItem::Drives()
 {
     const std::optional<FolderItem> volumes = VolumesFolder();
@@ -69,7 +84,11 @@ std::optional<FolderItem> SpecialFolder::ApplicationData()
 
 std::optional<FolderItem> SpecialFolder::Preferences() { return Place(QStandardPaths::GenericConfigLocation); }
 
-std::optional<FolderItem> SpecialFolder::Documents() { return Place(QStandardPaths::DocumentsLocation); }
+std::optional<FolderItem> SpecialFolder::Documents()
+{
+    const std::optional<FolderItem> folder = Place(QStandardPaths::DocumentsLocation);
+    return folder && IsFolderOrLeadsToOne(folder->Path()) ? folder : std::nullopt;
+}
 
 FolderItem ExecutableFile()
 {
