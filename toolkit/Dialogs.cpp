@@ -100,7 +100,7 @@ QString NameFilter(const OpenFileDialog& dialog, const QFontMetrics& font)
     for (const StringView extension : Split(dialog.Filter, U";"))
         patterns << u'*' + ToQt(extension);
     QString shown;
-    for (auto count = patterns.size(); shown.isEmpty() || font.horizontalAdvance(shown) > room; --count)
+    for (auto count = patterns.size(); shown.isEmpty() || (count >= 0 && font.horizontalAdvance(shown) > room); --count)
         shown = QStringLiteral("%1 (%2%3)")
                     .arg(ToQt(dialog.FilterName), patterns.first(count).join(u' '),
                          count < patterns.size() ? QStringLiteral(" …") : QString());

@@ -2,6 +2,7 @@
 
 import contextlib
 import pathlib
+import re
 import shutil
 import subprocess
 import sys
@@ -130,6 +131,8 @@ def main(command):
         with Program([command], environment) as program:
             program.press("Générer")
             program.answer_until("Générer")
+            built = program.find("push button", "Aide").get_description()
+            assert re.fullmatch(r"Cette version a été compilée pour Linux .* le \d{4}-\d\d-\d\d\s\d\d:\d\d\sUTC", built), built
             check_desktop(program, files, pathlib.Path(folder))
             check_choosers(program, files)
             check_written(program, files)
