@@ -12,10 +12,6 @@ App::App(int& argc, char** argv)
 {
     current_ = this;
     SetDesktopEntry(U"fr.kavesti.tarnivel", U"tarnivel");
-    MenuBarSelected = [this] {
-        for (DesktopMenuItem* const item : Menus.WhenIdle())
-            item->Enabled = Fncts::DrapMenu;
-    };
     SetMenuBar(Menus.Menus());
 }
 

@@ -21,8 +21,21 @@ struct MenuBar1 {
     DesktopMenuItem EditClear{U"EditClear", Localisation::Menu_EditClear(), U"", EditCommand::Clear};
     DesktopMenuItem EditSelectAll{U"EditSelectAll", Localisation::Menu_EditSelectAll(), U"Cmd+A",
                                   EditCommand::SelectAll};
-    DesktopMenuItem TexteProposer{U"TexteProposer", Localisation::Menu_TexteProposer()};
     DesktopPreferencesMenuItem ApplePrefs{U"ApplePrefs", Localisation::Menu_Preferences(), U"Cmd+,"};
+
+    DesktopMenuItem TexteGenerer{U"TexteGenerer", Localisation::Btn_Generer(), U"F5"};
+    DesktopMenuItem TexteRapport{U"TexteRapport", Localisation::Menu_Rapport()};
+    DesktopMenuItem TexteMonter{U"TexteMonter", Localisation::Menu_Monter(), U"Option+Up"};
+    DesktopMenuItem TexteDescendre{U"TexteDescendre", Localisation::Menu_Descendre(), U"Option+Down"};
+    DesktopMenuItem TexteDoubler{U"TexteDoubler", Localisation::Menu_Doubler(), U"Cmd+D"};
+    DesktopMenuItem TexteSupprimer{U"TexteSupprimer", Localisation::Menu_Supprimer(), U"Cmd+Shift+K"};
+    DesktopMenuItem TexteMarqueSuiv{U"TexteMarqueSuiv", Localisation::Menu_MarqueSuiv(), U"F8"};
+    DesktopMenuItem TexteMarquePrec{U"TexteMarquePrec", Localisation::Menu_MarquePrec(), U"Shift+F8"};
+    DesktopMenuItem TexteCherchSuiv{U"TexteCherchSuiv", Localisation::Menu_CherchSuiv(), U"F3"};
+    DesktopMenuItem TexteCherchPrec{U"TexteCherchPrec", Localisation::Menu_CherchPrec(), U"Shift+F3"};
+    DesktopMenuItem TexteAjouter{U"TexteAjouter", Localisation::Menu_Ajouter()};
+    DesktopMenuItem TexteDesactSansDoss{U"TexteDesactSansDoss", Localisation::Menu_DesactSansDoss()};
+    DesktopMenuItem TexteProposer{U"TexteProposer", Localisation::Menu_TexteProposer()};
 
     DesktopMenuItem UntitledSeparator{U"UntitledSeparator", U"-"};
 
@@ -37,7 +50,12 @@ struct MenuBar1 {
              Localisation::Menu_Edit(),
              {&EditUndo, &EditRedo, &UntitledSeparator, &EditCut, &EditCopy, &EditPaste, &EditClear, &EditSelectAll,
               &UntitledSeparator, &ApplePrefs}},
-            {U"TextMenu", Localisation::Menu_Texte(), {&TexteProposer}},
+            {U"TextMenu",
+             Localisation::Menu_Texte(),
+             {&TexteGenerer, &TexteRapport, &UntitledSeparator, &TexteMonter, &TexteDescendre, &TexteDoubler,
+              &TexteSupprimer, &UntitledSeparator, &TexteMarqueSuiv, &TexteMarquePrec, &TexteCherchSuiv,
+              &TexteCherchPrec, &UntitledSeparator, &TexteAjouter, &TexteDesactSansDoss, &UntitledSeparator,
+              &TexteProposer}},
         };
     }
 
@@ -45,5 +63,13 @@ struct MenuBar1 {
     std::vector<DesktopMenuItem*> WhenIdle()
     {
         return {&FichSelFichModel, &FichSelArchivDoss, &FichSelFichSpack, &FichSaveFile, &TexteProposer, &ApplePrefs};
+    }
+
+    /// The items that act on the text of the main window.
+    std::vector<DesktopMenuItem*> OfText()
+    {
+        return {&TexteGenerer,    &TexteRapport,    &TexteMonter,     &TexteDescendre,
+                &TexteDoubler,    &TexteSupprimer,  &TexteMarqueSuiv, &TexteMarquePrec,
+                &TexteCherchSuiv, &TexteCherchPrec, &TexteAjouter,    &TexteDesactSansDoss};
     }
 };

@@ -109,7 +109,6 @@ inline constexpr Text Dit_RepriseFin{U"Dit_RepriseFin", U"Reprise à la fin du t
 inline constexpr Text Dit_RienChercher{U"Dit_RienChercher", U"Rien à chercher : le champ de recherche est vide"};
 inline constexpr Text Dit_AucuneMarque{U"Dit_AucuneMarque", U"Aucune ligne sans équivalent dans ce texte"};
 inline constexpr Text Dit_PasLa{U"Dit_PasLa", U"N'existe pas : ¿%"};
-inline constexpr Text Dit_AliasPerdu{U"Dit_AliasPerdu", U"Cet alias ne mène nulle part : ¿%"};
 inline constexpr Text Dit_PasDossier{U"Dit_PasDossier", U"Cette ligne ne nomme pas de dossier de Custom Scenery"};
 inline constexpr Text Dit_Occupe{U"Dit_Occupe", U"Un traitement est en cours : arrêtez-le d'abord"};
 inline constexpr Text Txt_ProbLignPresDxFois{U"Txt_ProbLignPresDxFois",
@@ -227,6 +226,21 @@ inline constexpr Text Txt_TropColonnes{U"Txt_TropColonnes",
 inline constexpr Text Btn_CopiList_HT{U"Btn_CopiList_HT", U"Copier la liste dans le presse-papiers"};
 inline constexpr Text Pref_ChBoxAffBtnSpecA{U"Pref_ChBoxAffBtnSpecA", U"Afficher bouton “Spécial A”"};
 inline constexpr Text Menu_Preferences{U"Menu_Preferences", U"Préférences…"};
+inline constexpr Text Menu_Rapport{U"Menu_Rapport", U"Dernier rapport"};
+inline constexpr Text Menu_Monter{U"Menu_Monter", U"Monter les lignes"};
+inline constexpr Text Menu_Descendre{U"Menu_Descendre", U"Descendre les lignes"};
+inline constexpr Text Menu_Doubler{U"Menu_Doubler", U"Doubler les lignes"};
+inline constexpr Text Menu_Supprimer{U"Menu_Supprimer", U"Supprimer les lignes"};
+inline constexpr Text Menu_MarqueSuiv{U"Menu_MarqueSuiv", U"Ligne sans équivalent suivante"};
+inline constexpr Text Menu_MarquePrec{U"Menu_MarquePrec", U"Ligne sans équivalent précédente"};
+inline constexpr Text Menu_CherchSuiv{U"Menu_CherchSuiv", U"Chercher le suivant"};
+inline constexpr Text Menu_CherchPrec{U"Menu_CherchPrec", U"Chercher le précédent"};
+inline constexpr Text Menu_Ajouter{U"Menu_Ajouter", U"Ajouter les dossiers absents du texte"};
+inline constexpr Text Menu_DesactSansDoss{U"Menu_DesactSansDoss", U"Désactiver les lignes sans dossier"};
+inline constexpr Text Nb_Ajoutees{U"Nb_Ajoutees", U"ligne ajoutée|lignes ajoutées"};
+inline constexpr Text Dit_PasPlusLoin{U"Dit_PasPlusLoin", U"Pas plus loin"};
+inline constexpr Text Dit_SansDossiers{U"Dit_SansDossiers", U"Le dossier Custom Scenery n'est pas accessible"};
+inline constexpr Text Dit_PasDeRapport{U"Dit_PasDeRapport", U"Rien à signaler"};
 inline constexpr Text WinPref_Title{U"WinPref_Title", U"Préférences"};
 inline constexpr Text StText_VolSfx{U"StText_VolSfx", U"Effets sonores :"};
 inline constexpr Text Btn_Aide_HT{U"Btn_Aide_HT", U"Cette version a été compilée pour ¿% le ¿%"};

@@ -6,18 +6,18 @@
 #include "support/DialogHelpers.h"
 #include "support/FileHelpers.h"
 #include "support/PathForm.h"
-#include "support/Sounds.h"
 #include "support/Status.h"
+#include "support/TextHelpers.h"
 #include "toolkit/Desktop.h"
 
 namespace {
 
-void RevealOrBeep(const std::optional<FolderItem>& item, bool checkAlias)
+void RevealOrRefuse(const std::optional<FolderItem>& item, bool checkAlias, StringView path)
 {
     if (Fncts::PasNil_Existe_Alias(item, checkAlias))
         Fncts::RevealEltFinder(*item);
     else
-        Fncts::BeepNbT(1);
+        Fncts::Refuser(Fncts::Filled(Localisation::Dit_PasLa(), {path}));
 }
 
 std::optional<FolderItem> ChooseFile(const FolderItem& start)
@@ -74,7 +74,7 @@ std::optional<FolderItem> WinMain::RevealOrChoose(const DesktopTextField& field,
 {
     const std::optional<FolderItem> present = Fncts::GetFitemAbsPath(field.Text(), false);
     if (reveal) {
-        RevealOrBeep(present, true);
+        RevealOrRefuse(present, true, field.Text());
         return {};
     }
     const std::optional<FolderItem> chosen = chooser(present.value_or(Fncts::RetDossCetApp()));
@@ -124,12 +124,12 @@ void WinMain::BtnAffDoss_Pressed()
     ReturnFocus(BtnAffDoss);
     if (TextAreaAff.SelectionLength() == 0) SelLigneEnt();
     const String name(RetScenLigne(TextAreaAff.SelectedText()));
-    if (name.empty()) return Fncts::BeepNbT(1);
+    if (name.empty()) return Fncts::Refuser(Localisation::Dit_PasDossier());
     std::optional<FolderItem> item = Fncts::GetFitemAbsPath(TextFieldSpack.Text(), false);
     if (Fncts::PasNil_Existe_Alias(item, false)) {
         // A volume lies in no folder.
         const std::optional<FolderItem> folder = item->Parent();
         item = folder ? folder->Child(name, true) : std::nullopt;
     }
-    RevealOrBeep(item, false);
+    RevealOrRefuse(item, false, name);
 }

@@ -1,4 +1,5 @@
 #include "localisation/Localisation.h"
+#include "mainwindow/Sentences.h"
 #include "mainwindow/WinMain.h"
 #include "support/Diagnostics.h"
 #include "support/DialogHelpers.h"
@@ -22,6 +23,16 @@ void WinMain::AffArea()
     }
     TextAreaAff.SetDocument(Document(row));
     TextAreaAff.SetAccessibleName(PopMenuAff.SelectedRowText());
+    ShowStatus();
+}
+
+void WinMain::ShowStatus()
+{
+    const TextDocument& shown = Document(PopMenuAff.SelectedRowIndex());
+    SetStatus(StatusSentence(TextAreaAff.CaretLine() + 1, {.lines = shown.LineCount(),
+                                                           .enabled = shown.LinesIn(Colouring::EnabledKeyword),
+                                                           .disabled = shown.LinesIn(Colouring::DisabledKeyword),
+                                                           .marked = shown.MarkedLines()}));
 }
 
 void WinMain::ShowRun(const SceneryTexts& texts)

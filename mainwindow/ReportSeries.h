@@ -4,9 +4,10 @@
 #include "toolkit/core/Text.h"
 
 #include <functional>
+#include <vector>
 
-/// Shows the first reports one at a time. What comes after them is gathered, and shown as one report at the end, so
-/// that a file with thousands of faults doesn't ask thousands of times.
+/// Shows the first reports of each kind one at a time. What comes after them is shown as one report at the end, so that
+/// a file with many faults doesn't ask again and again. Reports with the same message are of one kind.
 class ReportSeries {
 public:
     using Show = std::function<void(const String& message, const String& explanation)>;
@@ -16,15 +17,26 @@ public:
     {
     }
 
-    void Add(const String& message, const String& explanation = {});
+    void Add(const String& message, const String& explanation);
     /// Shows what was gathered.
-    void Finish();
+    void Finish() const;
 
-    /// How many reports are shown one by one.
-    static constexpr int Single = 20;
+    /// All reports, each message above its explanations.
+    [[nodiscard]] String All() const { return Text(0); }
+    [[nodiscard]] Int64 Count() const { return count_; }
+
+    /// How many reports of a kind are shown one by one.
+    static constexpr std::size_t Single = 3;
 
 private:
+    struct Kind {
+        String message;
+        std::vector<String> explanations;
+    };
+    /// The reports from number `first` of each kind on.
+    [[nodiscard]] String Text(std::size_t first) const;
+
     Show show_;
-    int shown_ = 0;
-    String gathered_;
+    std::vector<Kind> kinds_;
+    Int64 count_ = 0;
 };

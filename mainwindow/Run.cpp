@@ -3,22 +3,26 @@
 #include "engine/SceneryText.h"
 #include "localisation/Localisation.h"
 #include "mainwindow/ReportSeries.h"
+#include "mainwindow/Sentences.h"
 #include "mainwindow/WinMain.h"
 #include "support/Fncts.h"
 #include "support/PathForm.h"
 #include "support/Sounds.h"
+#include "support/Status.h"
 #include "support/TextFiles.h"
+#include "support/TextHelpers.h"
 
 namespace {
 
 constexpr int fetchTimeout = 10;
 
-/// Replaces `text` by its accepted form or by an error text; true when it was refused.
-bool Refuses(String& text)
+/// Replaces `text` by its accepted form, or by an error text: adds then to `refusals` the sentence `why` with the
+/// reason.
+void Accept(String& text, const String& why, std::vector<String>& refusals)
 {
     Acceptance acceptance = AcceptSceneryText(text);
+    if (!acceptance.accepted) refusals.push_back(Fncts::Filled(why, {ReasonOfRefusal(text)}));
     text = std::move(acceptance.text);
-    return !acceptance.accepted;
 }
 
 } // namespace
@@ -39,6 +43,7 @@ void WinMain::BtnRun_Pressed()
         if (!DrapRun) nothing.TextSrcSpack = Document(rowSource).Text();
         ShowRun(nothing);
         EndRun();
+        Fncts::Dire(Localisation::Dit_Arrete());
     }
 }
 
@@ -58,18 +63,22 @@ void WinMain::RunSuite(String model)
 {
     SceneryTexts texts;
     texts.TextModel = std::move(model);
-    bool failed = Refuses(texts.TextModel);
+    std::vector<String> refusals;
+    Accept(texts.TextModel, Localisation::Dit_ModeleRefuse(), refusals);
     const std::optional<FolderItem> spack = Fncts::GetFitemAbsPath(TextFieldSpack.Text(), false);
     texts.TextSrcSpack = Fncts::LireFichier(spack);
-    failed = Refuses(texts.TextSrcSpack) || failed;
-    if (failed) {
+    Accept(texts.TextSrcSpack, Localisation::Dit_SpackRefuse(), refusals);
+    String sentence;
+    if (refusals.empty()) {
+        sentence = Reorder(texts, *spack->Parent());
+    } else {
         Fncts::BeepNbT(1);
         texts.TextDestSpack = ErrorMarker;
-    } else {
-        Reorder(texts, *spack->Parent());
+        lastReport_ = sentence = Join(std::vector<StringView>(refusals.begin(), refusals.end()), U" ; ");
     }
     ShowRun(texts);
     EndRun();
+    Fncts::Dire(sentence);
 }
 
 void WinMain::EndRun()
@@ -90,10 +99,18 @@ void WinMain::InRun(const std::function<void()>& step)
     }
 }
 
-void WinMain::Reorder(SceneryTexts& texts, const FolderItem& dossier)
+String WinMain::Reorder(SceneryTexts& texts, const FolderItem& dossier)
 {
+    using namespace Localisation;
     ReportSeries reports([this](const String& message, const String& explanation) { Tell(message, explanation); });
     CreerSpack(texts, dossier,
                [&reports](const String& message, const String& explanation) { reports.Add(message, explanation); });
     reports.Finish();
+    lastReport_ = reports.All();
+    if (BeginsWith(texts.TextDestSpack, ErrorMarker)) return Dit_Arrete();
+    const auto lines = CountFields(texts.TextDestSpack, TxtEoF) - (texts.TextDestSpack.ends_with(TxtEoF) ? 1 : 0);
+    const auto marked = std::ssize(texts.CoulDestSpack);
+    return Fncts::Filled(Dit_Reordonne(), {Join({{Counted(lines, Nb_Lignes()), Counted(marked, Nb_SansEquiv()),
+                                                  Counted(reports.Count(), Nb_Remarques())}},
+                                                U", ")});
 }

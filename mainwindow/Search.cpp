@@ -1,39 +1,51 @@
+#include "localisation/Localisation.h"
 #include "mainwindow/Searching.h"
 #include "mainwindow/WinMain.h"
 #include "support/Fncts.h"
 #include "support/Sounds.h"
+#include "support/Status.h"
+#include "support/TextHelpers.h"
+#include "toolkit/Desktop.h"
 
-namespace {
+using namespace Localisation;
 
-/// A match stands a few lines below the top, so that what comes before it is seen too.
-constexpr Int64 linesAbove = 5;
+void WinMain::PushButtCherch_Pressed() { Search(SearchWay::Button); }
 
-} // namespace
-
-void WinMain::PushButtCherch_Pressed()
+void WinMain::Search(SearchWay way)
 {
     if (!Fncts::DrapMenu) return;
     ReturnFocus(PushButtCherch);
-    const String word = TextFieldCherch.Text();
-    if (word.empty()) return Fncts::BeepNbT(1);
+    const String word = TextFieldCherch.Text(), text = TextAreaAff.Text();
+    if (word.empty()) return Fncts::Refuser(Dit_RienChercher());
+    const Selection selection{TextAreaAff.SelectionStart(), TextAreaAff.SelectionLength()};
+    const bool forward = way != SearchWay::Previous;
     const SearchResult result =
-        SearchNext(TextAreaAff.Text(), word, {TextAreaAff.SelectionStart(), TextAreaAff.SelectionLength()});
+        way == SearchWay::Button ? SearchNext(text, word, selection) : SearchBeyond(text, word, selection, forward);
     if (result.outcome == SearchOutcome::NotFound) {
-        TextAreaAff.Select(0, 0);
-        TextAreaAff.ScrollTo(0, 0);
+        if (way == SearchWay::Button) ShowInText({0, 0}, 0);
+        Fncts::Dire(Fncts::Filled(Dit_Introuvable(), {word}));
         return Fncts::PlayT(Fncts::_x_Glass_t::Glass_t());
     }
-    Fncts::PlayT(result.outcome == SearchOutcome::SameMatch ? Fncts::_x_Whit::Whit()
-                                                            : Fncts::_x_Agrafeuse_t::Agrafeuse_t());
+    const bool isSame = result.outcome == SearchOutcome::SameMatch;
+    Fncts::PlayT(isSame ? Fncts::_x_Whit::Whit() : Fncts::_x_Agrafeuse_t::Agrafeuse_t());
+    if (isSame)
+        Fncts::Dire(Fncts::Filled(Dit_SeulTrouve(), {word}));
+    else
+        Fncts::Dire(!result.wraps ? String() : forward ? Dit_RepriseDebut() : Dit_RepriseFin());
     TextAreaAff.SetFocus();
-    TextAreaAff.Select(result.selection.start, result.selection.length);
-    TextAreaAff.ScrollTo(result.selection.start, linesAbove);
+    ShowInText(result.selection, linesAbove);
+}
+
+void WinMain::ShowInText(const Selection& selection, Int64 lines)
+{
+    TextAreaAff.Select(selection.start, selection.length);
+    TextAreaAff.ScrollTo(selection.start, lines);
 }
 
 /// The focus comes back to the field: the next Enter searches on. In the text it would replace the match by a line end.
 void WinMain::TextFieldCherch_Entered()
 {
-    PushButtCherch_Pressed();
+    Search(Keyboard::AsyncShiftKey() ? SearchWay::Previous : SearchWay::Button);
     TextFieldCherch.SetFocus();
 }
 

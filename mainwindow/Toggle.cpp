@@ -1,6 +1,9 @@
+#include "localisation/Localisation.h"
+#include "mainwindow/Sentences.h"
 #include "mainwindow/Toggling.h"
 #include "mainwindow/WinMain.h"
 #include "support/Diagnostics.h"
+#include "support/Status.h"
 #include "toolkit/Desktop.h"
 
 namespace {
@@ -24,6 +27,7 @@ void WinMain::BtnEnabDis_Pressed()
     const auto [first, text] = TextAreaAff.SelectedLines();
     std::optional<Toggled> toggled =
         ToggleLines(text, {TextAreaAff.SelectionStart() - first, TextAreaAff.SelectionLength()}, mode);
+    Fncts::Dire(Counted(toggled ? std::ssize(toggled->changes) : 0, Localisation::Nb_Modifiees()));
     if (!toggled) return;
     for (TextChange& change : toggled->changes)
         change.start += first;

@@ -143,6 +143,9 @@ void WinMain::BindHandlers()
         TextFieldCherch.SetFocus();
         TextFieldCherch.SelectAll();
     };
+    TextAreaAff.CaretMoved = [this] { ShowStatus(); };
+    for (TextDocument& document : documents_)
+        document.Changed = [this] { ShowStatus(); };
     BtnRun.Pressed = [this] { BtnRun_Pressed(); };
     TimerDebRun.Action = [this] { InRun([&] { TimerDebRun_Action(); }); };
     // An error page is content like any other: the header test refuses it.
@@ -175,6 +178,8 @@ void WinMain::BindMenus()
     app.Menus.FichSaveFile.Action = [this] { ActSaveFile(); };
     app.Menus.TexteProposer.Action = [this] { TexteProposer_Action(); };
     app.Menus.ApplePrefs.Action = [this] { ApplePrefs_Action(); };
+    BindTextMenu();
+    app.MenuBarSelected = [this] { EnableMenus(); };
 }
 
 void WinMain::EnableControls(bool idle)

@@ -77,6 +77,9 @@ public:
     void PushButtCherch_Pressed();
     void TextFieldCherch_Entered();
     void PushButtInitCherch_Pressed();
+    /// The button's search, which finds what overlaps its last match, or the next and the previous match for the keys.
+    enum class SearchWay { Button, Next, Previous };
+    void Search(SearchWay way);
 
     // Choose.cpp
     /// `reveal` shows the present item in the file manager; else the user chooses another.
@@ -94,6 +97,8 @@ private:
     // WinMain.cpp: the shell.
     void BindHandlers();
     void BindMenus();
+    /// Brings the menus' items in line with what can be done now.
+    void EnableMenus();
     void NameControls();
     /// Beeps, and shows a notice that the user closes.
     void Tell(StringView message, StringView explanation = {});
@@ -115,7 +120,8 @@ private:
     // Run.cpp
     /// The second half of a run, wherever the model came from.
     void RunSuite(String model);
-    void Reorder(SceneryTexts& texts, const FolderItem& dossier);
+    /// The run itself; what came of it, in a sentence.
+    String Reorder(SceneryTexts& texts, const FolderItem& dossier);
     void EndRun();
     /// Does a step of the run; an exception ends the run.
     void InRun(const std::function<void()>& step);
@@ -136,6 +142,21 @@ private:
     /// Selects the line of the caret.
     void SelLigneEnt();
 
+    // Search.cpp
+    /// Selects, and scrolls until that stands so many lines below the top.
+    void ShowInText(const struct Selection& selection, Int64 lines);
+
+    // TextMenu.cpp
+    void BindTextMenu();
+    void ShowLastReport();
+    void MoveLines(bool down);
+    void GoToMark(bool forward);
+    void SearchFromAnywhere(SearchWay way);
+    /// The folder that holds the file on screen; nothing, which was told, where there is none or no scenery text.
+    [[nodiscard]] std::optional<FolderItem> SceneryFolder() const;
+    void AddUnlistedFolders();
+    void DisableWithoutFolder();
+
     // Choose.cpp
     using Chooser = std::optional<FolderItem> (*)(const FolderItem& start);
     std::optional<FolderItem> RevealOrChoose(const DesktopTextField& field, bool reveal, Chooser chooser) const;
@@ -146,6 +167,8 @@ private:
 
     // Display.cpp
     static constexpr int rowModel = 0, rowSource = 1, rowDest = 2;
+    /// What is found in the text stands a few lines below the top, so that what comes before it is seen too.
+    static constexpr Int64 linesAbove = 5;
     TextDocument& Document(int row) { return documents_.at(static_cast<std::size_t>(row)); }
     /// Hands the texts of a run over to the documents, each as one step that can be taken back.
     void ShowRun(const SceneryTexts& texts);
@@ -153,6 +176,8 @@ private:
     bool Forget(std::initializer_list<int> rows);
     /// Whether the edits in these documents may go; asks only when there are any.
     bool AsksToLose(std::initializer_list<int> rows);
+    /// Brings the status bar in line with the text on screen.
+    void ShowStatus();
     /// After a press by the mouse the keyboard is the text's again; a button that the Tab key led to keeps it.
     void ReturnFocus(const DesktopUIControl& button);
 
@@ -160,6 +185,8 @@ private:
     std::unique_ptr<WinAide> winAide_;
     std::unique_ptr<WinPrefs> winPrefs_;
     std::unique_ptr<WinSpecA> winSpecA_;
+    /// What the last run reported, or why there was none.
+    String lastReport_;
     /// A run has begun: the timer behind the press has fired.
     bool DrapRun = false;
     /// Packs are being looked at; false stops it.

@@ -9,6 +9,9 @@ namespace Fncts {
 /// ?". A part that the text doesn't have gives "" and a message for the authors.
 String FracTexte(StringView text, Int16 part);
 
+/// The text with its placeholders filled, one after the other.
+String Filled(StringView text, std::initializer_list<StringView> fillings);
+
 /// What is left of bytes that are no valid text when all that can't stand byte for byte is dropped: in UTF-8 the plain
 /// ASCII, so that valid characters of several bytes go too. Three beeps and "" for what stays invalid all the same.
 Bytes NettoiBadEncod(std::string_view text, const TextEncoding& encoding);

@@ -15,10 +15,14 @@ DesktopTextArea::DesktopTextArea(DesktopWindow& window, const Placement& placeme
     else
         widget_->setFont(QApplication::font());
     SetDocument(own_);
+    QObject::connect(&editor(), &QPlainTextEdit::cursorPositionChanged, &editor(), [this] {
+        if (CaretMoved) CaretMoved();
+    });
 }
 
 DesktopTextArea::~DesktopTextArea()
 {
+    CaretMoved = nullptr;
     editor().Leave();
     editor().setDocument(nullptr);
 }
@@ -32,6 +36,8 @@ String DesktopTextArea::Text() const { return FromDocument(editor().Body().toRaw
 void DesktopTextArea::SetText(StringView text) { editor().Body().Fill(text, {}); }
 
 void DesktopTextArea::SetReadOnly(bool readOnly) { editor().setReadOnly(readOnly); }
+
+Int64 DesktopTextArea::CaretLine() const { return editor().textCursor().blockNumber(); }
 
 Int64 DesktopTextArea::SelectionStart() const { return editor().Body().Offset(editor().textCursor().selectionStart()); }
 

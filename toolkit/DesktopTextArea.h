@@ -22,6 +22,9 @@ public:
     /// A text that can only be read has no caret, and the mouse wheel and the keys scroll it.
     void SetReadOnly(bool readOnly);
 
+    /// The line of the caret, counted from 0; a wrapped line is one.
+    [[nodiscard]] Int64 CaretLine() const;
+    std::function<void()> CaretMoved;
     [[nodiscard]] Int64 SelectionStart() const;
     [[nodiscard]] Int64 SelectionLength() const;
     [[nodiscard]] String SelectedText() const;

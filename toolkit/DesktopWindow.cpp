@@ -252,6 +252,8 @@ void DesktopWindow::Say(StringView sentence)
 
 bool DesktopWindow::Visible() const { return shell_->isVisible(); }
 
+bool DesktopWindow::Active() const { return shell_->isActiveWindow(); }
+
 void DesktopWindow::Show()
 {
     const bool opens = !std::exchange(opened_, true);

@@ -65,6 +65,8 @@ public:
     static void Say(StringView sentence);
 
     [[nodiscard]] bool Visible() const;
+    /// Whether the keyboard goes to this window.
+    [[nodiscard]] bool Active() const;
     /// Whether the window was shown and not closed since; true while it opens, before anything is seen.
     [[nodiscard]] bool IsOpen() const { return opened_; }
     /// Shows the window and brings it to the front. The first call, and the first after a close, fires `Opening` before

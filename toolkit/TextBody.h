@@ -68,6 +68,13 @@ public:
     QTextOption::WrapMode wrapMode = QTextOption::WrapAtWordBoundaryOrAnywhere;
     /// The text area that shows the document keeps its caret and top here, takes them or the mode of wrapping anew.
     std::function<void()> keepPlace, takePlace, wrapChanged;
+    /// How many lines begin in a colour, and how many show that of a mark.
+    struct Tally {
+        std::map<std::uint32_t, Int64> beginsIn;
+        Int64 marked = 0;
+    };
+    [[nodiscard]] const Tally& Counts() const { return *tally_; }
+
     /// What the last change touched.
     int changedFrom = 0, changedTo = 0;
     /// What comes in now brings its formats along.
@@ -101,6 +108,7 @@ private:
     void PlaceAtStart();
     void KeepPlace();
     void Touched(int position, int removed, int added);
+    void Count(int from, int to);
     void Recolor();
     [[nodiscard]] std::vector<ColorSpan> Spans(StringView line) const
     {
@@ -112,6 +120,7 @@ private:
     void ForgetStatesToCome() { states_.erase(states_.upper_bound(state_), states_.end()); }
 
     TextColors colors_;
+    std::shared_ptr<Tally> tally_ = std::make_shared<Tally>();
     std::map<std::pair<bool, std::int64_t>, QTextCharFormat> formats_;
     /// False as long as offsets and positions are the same.
     bool pairs_ = false;

@@ -23,6 +23,9 @@ TextDocument::TextDocument(TextColors colors)
     QObject::connect(body_.get(), &QTextDocument::modificationChanged, body_.get(), [this] {
         if (ModifiedChanged) ModifiedChanged();
     });
+    QObject::connect(body_.get(), &QTextDocument::contentsChanged, body_.get(), [this] {
+        if (Changed) Changed();
+    });
 }
 
 TextDocument::~TextDocument() = default;
@@ -40,6 +43,16 @@ std::vector<Int64> TextDocument::Marks() const
     return marks;
 }
 
+Int64 TextDocument::LineCount() const { return body_->blockCount() - (body_->lastBlock().length() > 1 ? 0 : 1); }
+
+Int64 TextDocument::LinesIn(ColorGroup color) const
+{
+    const auto found = body_->Counts().beginsIn.find(color.rgb);
+    return found == body_->Counts().beginsIn.end() ? 0 : found->second;
+}
+
+Int64 TextDocument::MarkedLines() const { return body_->Counts().marked; }
+
 void TextDocument::SetText(StringView text, std::span<const Int64> marks) { body_->Fill(text, marks); }
 
 void TextDocument::ReplaceText(StringView text, std::span<const Int64> marks) { body_->Replace(text, marks); }
@@ -56,6 +69,8 @@ TextDocument::Body::Body(TextColors colors)
     setDocumentLayout(new QPlainTextDocumentLayout(this));
     SetUnmodified();
     connect(this, &QTextDocument::contentsChange, this, &Body::Touched);
+    connect(this, &QTextDocument::contentsChange, this,
+            [this](int position, int /*removed*/, int added) { Count(position, position + added); });
     connect(this, &QTextDocument::contentsChanged, this, [this] {
         if (programEdits_ > 0 || touchedFrom_ < 0) return;
         Recolor();

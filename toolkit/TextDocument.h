@@ -38,6 +38,14 @@ public:
     /// Where the lines begin that show the colour of a mark.
     [[nodiscard]] std::vector<Int64> Marks() const;
 
+    /// The lines, without the empty one behind the last line end; those that begin in a colour; those that show that of
+    /// a mark. Counted along with each change.
+    [[nodiscard]] Int64 LineCount() const;
+    [[nodiscard]] Int64 LinesIn(ColorGroup color) const;
+    [[nodiscard]] Int64 MarkedLines() const;
+    /// The text or its colours changed, by whomever.
+    std::function<void()> Changed;
+
     /// Another text, whose history begins here. `marks` are offsets in lines to be marked, ascending. The caret goes to
     /// offset 0.
     void SetText(StringView text, std::span<const Int64> marks = {});

@@ -10,6 +10,7 @@ waits until what it needs is there, at most DEADLINE seconds, and then fails wit
 
 import contextlib
 import os
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -57,6 +58,14 @@ def pixel(x, y):
     """The colour at a point of the screen, as "srgb(red,green,blue)"."""
     crop = ["import", "-window", "root", "-crop", f"1x1+{x}+{y}", "-format", "%[pixel:p{0,0}]", "info:"]
     return subprocess.check_output(crop, text=True)
+
+
+def needs(*commands):
+    """Ends the test as one that was skipped (see tests/e2e/CMakeLists.txt) if a command is missing."""
+    for command in commands:
+        if shutil.which(command) is None:
+            print(f"skipped: there is no {command}")
+            sys.exit(77)
 
 
 def wait_for(what, condition, ended=lambda: None):

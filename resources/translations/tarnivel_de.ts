@@ -304,10 +304,6 @@ Packs nachher</translation>
         <source>N'existe pas : ¿%</source>
         <translation>Gibt es nicht: ¿%</translation>
     </message>
-    <message id="Localisation.Dit_AliasPerdu">
-        <source>Cet alias ne mène nulle part : ¿%</source>
-        <translation>Dieser Verweis führt nirgendwohin: ¿%</translation>
-    </message>
     <message id="Localisation.Dit_PasDossier">
         <source>Cette ligne ne nomme pas de dossier de Custom Scenery</source>
         <translation>Diese Zeile nennt keinen Ordner von Custom Scenery</translation>
@@ -653,6 +649,66 @@ Rückgabewert: 0 alles stimmt überein, 1 etwas wurde gemeldet,
     <message id="Localisation.Menu_Preferences">
         <source>Préférences…</source>
         <translation>Einstellungen…</translation>
+    </message>
+    <message id="Localisation.Menu_Rapport">
+        <source>Dernier rapport</source>
+        <translation>Letzter Bericht</translation>
+    </message>
+    <message id="Localisation.Menu_Monter">
+        <source>Monter les lignes</source>
+        <translation>Zeilen nach oben</translation>
+    </message>
+    <message id="Localisation.Menu_Descendre">
+        <source>Descendre les lignes</source>
+        <translation>Zeilen nach unten</translation>
+    </message>
+    <message id="Localisation.Menu_Doubler">
+        <source>Doubler les lignes</source>
+        <translation>Zeilen verdoppeln</translation>
+    </message>
+    <message id="Localisation.Menu_Supprimer">
+        <source>Supprimer les lignes</source>
+        <translation>Zeilen löschen</translation>
+    </message>
+    <message id="Localisation.Menu_MarqueSuiv">
+        <source>Ligne sans équivalent suivante</source>
+        <translation>Nächste Zeile ohne Gegenstück</translation>
+    </message>
+    <message id="Localisation.Menu_MarquePrec">
+        <source>Ligne sans équivalent précédente</source>
+        <translation>Vorige Zeile ohne Gegenstück</translation>
+    </message>
+    <message id="Localisation.Menu_CherchSuiv">
+        <source>Chercher le suivant</source>
+        <translation>Weitersuchen</translation>
+    </message>
+    <message id="Localisation.Menu_CherchPrec">
+        <source>Chercher le précédent</source>
+        <translation>Rückwärts suchen</translation>
+    </message>
+    <message id="Localisation.Menu_Ajouter">
+        <source>Ajouter les dossiers absents du texte</source>
+        <translation>Fehlende Ordner hinzufügen</translation>
+    </message>
+    <message id="Localisation.Menu_DesactSansDoss">
+        <source>Désactiver les lignes sans dossier</source>
+        <translation>Zeilen ohne Ordner ausschalten</translation>
+    </message>
+    <message id="Localisation.Nb_Ajoutees">
+        <source>ligne ajoutée|lignes ajoutées</source>
+        <translation>Zeile hinzugefügt|Zeilen hinzugefügt</translation>
+    </message>
+    <message id="Localisation.Dit_PasPlusLoin">
+        <source>Pas plus loin</source>
+        <translation>Nicht weiter</translation>
+    </message>
+    <message id="Localisation.Dit_SansDossiers">
+        <source>Le dossier Custom Scenery n'est pas accessible</source>
+        <translation>Der Ordner Custom Scenery ist nicht zugänglich</translation>
+    </message>
+    <message id="Localisation.Dit_PasDeRapport">
+        <source>Rien à signaler</source>
+        <translation>Nichts zu melden</translation>
     </message>
     <message id="Localisation.WinPref_Title">
         <source>Préférences</source>

@@ -304,10 +304,6 @@ Packs after</translation>
         <source>N'existe pas : ¿%</source>
         <translation>Does not exist: ¿%</translation>
     </message>
-    <message id="Localisation.Dit_AliasPerdu">
-        <source>Cet alias ne mène nulle part : ¿%</source>
-        <translation>This link leads nowhere: ¿%</translation>
-    </message>
     <message id="Localisation.Dit_PasDossier">
         <source>Cette ligne ne nomme pas de dossier de Custom Scenery</source>
         <translation>This line names no folder of Custom Scenery</translation>
@@ -653,6 +649,66 @@ Exit status: 0 all agrees, 1 something was reported,
     <message id="Localisation.Menu_Preferences">
         <source>Préférences…</source>
         <translation>Preferences…</translation>
+    </message>
+    <message id="Localisation.Menu_Rapport">
+        <source>Dernier rapport</source>
+        <translation>Last report</translation>
+    </message>
+    <message id="Localisation.Menu_Monter">
+        <source>Monter les lignes</source>
+        <translation>Move lines up</translation>
+    </message>
+    <message id="Localisation.Menu_Descendre">
+        <source>Descendre les lignes</source>
+        <translation>Move lines down</translation>
+    </message>
+    <message id="Localisation.Menu_Doubler">
+        <source>Doubler les lignes</source>
+        <translation>Duplicate lines</translation>
+    </message>
+    <message id="Localisation.Menu_Supprimer">
+        <source>Supprimer les lignes</source>
+        <translation>Delete lines</translation>
+    </message>
+    <message id="Localisation.Menu_MarqueSuiv">
+        <source>Ligne sans équivalent suivante</source>
+        <translation>Next unmatched line</translation>
+    </message>
+    <message id="Localisation.Menu_MarquePrec">
+        <source>Ligne sans équivalent précédente</source>
+        <translation>Previous unmatched line</translation>
+    </message>
+    <message id="Localisation.Menu_CherchSuiv">
+        <source>Chercher le suivant</source>
+        <translation>Find next</translation>
+    </message>
+    <message id="Localisation.Menu_CherchPrec">
+        <source>Chercher le précédent</source>
+        <translation>Find previous</translation>
+    </message>
+    <message id="Localisation.Menu_Ajouter">
+        <source>Ajouter les dossiers absents du texte</source>
+        <translation>Add unlisted folders</translation>
+    </message>
+    <message id="Localisation.Menu_DesactSansDoss">
+        <source>Désactiver les lignes sans dossier</source>
+        <translation>Disable lines without a folder</translation>
+    </message>
+    <message id="Localisation.Nb_Ajoutees">
+        <source>ligne ajoutée|lignes ajoutées</source>
+        <translation>line added|lines added</translation>
+    </message>
+    <message id="Localisation.Dit_PasPlusLoin">
+        <source>Pas plus loin</source>
+        <translation>No further</translation>
+    </message>
+    <message id="Localisation.Dit_SansDossiers">
+        <source>Le dossier Custom Scenery n'est pas accessible</source>
+        <translation>The folder Custom Scenery is not accessible</translation>
+    </message>
+    <message id="Localisation.Dit_PasDeRapport">
+        <source>Rien à signaler</source>
+        <translation>Nothing to report</translation>
     </message>
     <message id="Localisation.WinPref_Title">
         <source>Préférences</source>

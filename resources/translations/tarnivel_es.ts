@@ -304,10 +304,6 @@ Packs después</translation>
         <source>N'existe pas : ¿%</source>
         <translation>No existe: ¿%</translation>
     </message>
-    <message id="Localisation.Dit_AliasPerdu">
-        <source>Cet alias ne mène nulle part : ¿%</source>
-        <translation>Este enlace no lleva a ninguna parte: ¿%</translation>
-    </message>
     <message id="Localisation.Dit_PasDossier">
         <source>Cette ligne ne nomme pas de dossier de Custom Scenery</source>
         <translation>Esta línea no nombra ninguna carpeta de Custom Scenery</translation>
@@ -653,6 +649,66 @@ Estado de salida: 0 todo concuerda, 1 se ha señalado algo,
     <message id="Localisation.Menu_Preferences">
         <source>Préférences…</source>
         <translation>Preferencias…</translation>
+    </message>
+    <message id="Localisation.Menu_Rapport">
+        <source>Dernier rapport</source>
+        <translation>Último informe</translation>
+    </message>
+    <message id="Localisation.Menu_Monter">
+        <source>Monter les lignes</source>
+        <translation>Subir las líneas</translation>
+    </message>
+    <message id="Localisation.Menu_Descendre">
+        <source>Descendre les lignes</source>
+        <translation>Bajar las líneas</translation>
+    </message>
+    <message id="Localisation.Menu_Doubler">
+        <source>Doubler les lignes</source>
+        <translation>Duplicar las líneas</translation>
+    </message>
+    <message id="Localisation.Menu_Supprimer">
+        <source>Supprimer les lignes</source>
+        <translation>Eliminar las líneas</translation>
+    </message>
+    <message id="Localisation.Menu_MarqueSuiv">
+        <source>Ligne sans équivalent suivante</source>
+        <translation>Línea sin equivalente siguiente</translation>
+    </message>
+    <message id="Localisation.Menu_MarquePrec">
+        <source>Ligne sans équivalent précédente</source>
+        <translation>Línea sin equivalente anterior</translation>
+    </message>
+    <message id="Localisation.Menu_CherchSuiv">
+        <source>Chercher le suivant</source>
+        <translation>Buscar siguiente</translation>
+    </message>
+    <message id="Localisation.Menu_CherchPrec">
+        <source>Chercher le précédent</source>
+        <translation>Buscar anterior</translation>
+    </message>
+    <message id="Localisation.Menu_Ajouter">
+        <source>Ajouter les dossiers absents du texte</source>
+        <translation>Añadir las carpetas que faltan</translation>
+    </message>
+    <message id="Localisation.Menu_DesactSansDoss">
+        <source>Désactiver les lignes sans dossier</source>
+        <translation>Desactivar las líneas sin carpeta</translation>
+    </message>
+    <message id="Localisation.Nb_Ajoutees">
+        <source>ligne ajoutée|lignes ajoutées</source>
+        <translation>línea añadida|líneas añadidas</translation>
+    </message>
+    <message id="Localisation.Dit_PasPlusLoin">
+        <source>Pas plus loin</source>
+        <translation>No más allá</translation>
+    </message>
+    <message id="Localisation.Dit_SansDossiers">
+        <source>Le dossier Custom Scenery n'est pas accessible</source>
+        <translation>No se puede acceder a la carpeta Custom Scenery</translation>
+    </message>
+    <message id="Localisation.Dit_PasDeRapport">
+        <source>Rien à signaler</source>
+        <translation>Nada que señalar</translation>
     </message>
     <message id="Localisation.WinPref_Title">
         <source>Préférences</source>

@@ -304,10 +304,6 @@ Pack dopo</translation>
         <source>N'existe pas : ¿%</source>
         <translation>Non esiste: ¿%</translation>
     </message>
-    <message id="Localisation.Dit_AliasPerdu">
-        <source>Cet alias ne mène nulle part : ¿%</source>
-        <translation>Questo collegamento non porta da nessuna parte: ¿%</translation>
-    </message>
     <message id="Localisation.Dit_PasDossier">
         <source>Cette ligne ne nomme pas de dossier de Custom Scenery</source>
         <translation>Questa riga non indica alcuna cartella di Custom Scenery</translation>
@@ -653,6 +649,66 @@ Stato di uscita: 0 tutto concorda, 1 qualcosa è stato segnalato,
     <message id="Localisation.Menu_Preferences">
         <source>Préférences…</source>
         <translation>Preferenze…</translation>
+    </message>
+    <message id="Localisation.Menu_Rapport">
+        <source>Dernier rapport</source>
+        <translation>Ultimo rapporto</translation>
+    </message>
+    <message id="Localisation.Menu_Monter">
+        <source>Monter les lignes</source>
+        <translation>Sposta le righe in su</translation>
+    </message>
+    <message id="Localisation.Menu_Descendre">
+        <source>Descendre les lignes</source>
+        <translation>Sposta le righe in giù</translation>
+    </message>
+    <message id="Localisation.Menu_Doubler">
+        <source>Doubler les lignes</source>
+        <translation>Raddoppia le righe</translation>
+    </message>
+    <message id="Localisation.Menu_Supprimer">
+        <source>Supprimer les lignes</source>
+        <translation>Elimina le righe</translation>
+    </message>
+    <message id="Localisation.Menu_MarqueSuiv">
+        <source>Ligne sans équivalent suivante</source>
+        <translation>Riga senza equivalente successiva</translation>
+    </message>
+    <message id="Localisation.Menu_MarquePrec">
+        <source>Ligne sans équivalent précédente</source>
+        <translation>Riga senza equivalente precedente</translation>
+    </message>
+    <message id="Localisation.Menu_CherchSuiv">
+        <source>Chercher le suivant</source>
+        <translation>Trova successivo</translation>
+    </message>
+    <message id="Localisation.Menu_CherchPrec">
+        <source>Chercher le précédent</source>
+        <translation>Trova precedente</translation>
+    </message>
+    <message id="Localisation.Menu_Ajouter">
+        <source>Ajouter les dossiers absents du texte</source>
+        <translation>Aggiungi le cartelle mancanti</translation>
+    </message>
+    <message id="Localisation.Menu_DesactSansDoss">
+        <source>Désactiver les lignes sans dossier</source>
+        <translation>Disattiva le righe senza cartella</translation>
+    </message>
+    <message id="Localisation.Nb_Ajoutees">
+        <source>ligne ajoutée|lignes ajoutées</source>
+        <translation>riga aggiunta|righe aggiunte</translation>
+    </message>
+    <message id="Localisation.Dit_PasPlusLoin">
+        <source>Pas plus loin</source>
+        <translation>Non oltre</translation>
+    </message>
+    <message id="Localisation.Dit_SansDossiers">
+        <source>Le dossier Custom Scenery n'est pas accessible</source>
+        <translation>La cartella Custom Scenery non è accessibile</translation>
+    </message>
+    <message id="Localisation.Dit_PasDeRapport">
+        <source>Rien à signaler</source>
+        <translation>Nulla da segnalare</translation>
     </message>
     <message id="Localisation.WinPref_Title">
         <source>Préférences</source>

@@ -304,10 +304,6 @@ Packs na</translation>
         <source>N'existe pas : ¿%</source>
         <translation>Bestaat niet: ¿%</translation>
     </message>
-    <message id="Localisation.Dit_AliasPerdu">
-        <source>Cet alias ne mène nulle part : ¿%</source>
-        <translation>Deze koppeling leidt nergens heen: ¿%</translation>
-    </message>
     <message id="Localisation.Dit_PasDossier">
         <source>Cette ligne ne nomme pas de dossier de Custom Scenery</source>
         <translation>Deze regel noemt geen map van Custom Scenery</translation>
@@ -653,6 +649,66 @@ Afsluitstatus: 0 alles stemt overeen, 1 er is iets gemeld,
     <message id="Localisation.Menu_Preferences">
         <source>Préférences…</source>
         <translation>Voorkeuren…</translation>
+    </message>
+    <message id="Localisation.Menu_Rapport">
+        <source>Dernier rapport</source>
+        <translation>Laatste rapport</translation>
+    </message>
+    <message id="Localisation.Menu_Monter">
+        <source>Monter les lignes</source>
+        <translation>Regels omhoog</translation>
+    </message>
+    <message id="Localisation.Menu_Descendre">
+        <source>Descendre les lignes</source>
+        <translation>Regels omlaag</translation>
+    </message>
+    <message id="Localisation.Menu_Doubler">
+        <source>Doubler les lignes</source>
+        <translation>Regels verdubbelen</translation>
+    </message>
+    <message id="Localisation.Menu_Supprimer">
+        <source>Supprimer les lignes</source>
+        <translation>Regels verwijderen</translation>
+    </message>
+    <message id="Localisation.Menu_MarqueSuiv">
+        <source>Ligne sans équivalent suivante</source>
+        <translation>Volgende regel zonder tegenhanger</translation>
+    </message>
+    <message id="Localisation.Menu_MarquePrec">
+        <source>Ligne sans équivalent précédente</source>
+        <translation>Vorige regel zonder tegenhanger</translation>
+    </message>
+    <message id="Localisation.Menu_CherchSuiv">
+        <source>Chercher le suivant</source>
+        <translation>Volgende zoeken</translation>
+    </message>
+    <message id="Localisation.Menu_CherchPrec">
+        <source>Chercher le précédent</source>
+        <translation>Vorige zoeken</translation>
+    </message>
+    <message id="Localisation.Menu_Ajouter">
+        <source>Ajouter les dossiers absents du texte</source>
+        <translation>Ontbrekende mappen toevoegen</translation>
+    </message>
+    <message id="Localisation.Menu_DesactSansDoss">
+        <source>Désactiver les lignes sans dossier</source>
+        <translation>Regels zonder map uitschakelen</translation>
+    </message>
+    <message id="Localisation.Nb_Ajoutees">
+        <source>ligne ajoutée|lignes ajoutées</source>
+        <translation>regel toegevoegd|regels toegevoegd</translation>
+    </message>
+    <message id="Localisation.Dit_PasPlusLoin">
+        <source>Pas plus loin</source>
+        <translation>Niet verder</translation>
+    </message>
+    <message id="Localisation.Dit_SansDossiers">
+        <source>Le dossier Custom Scenery n'est pas accessible</source>
+        <translation>De map Custom Scenery is niet toegankelijk</translation>
+    </message>
+    <message id="Localisation.Dit_PasDeRapport">
+        <source>Rien à signaler</source>
+        <translation>Niets te melden</translation>
     </message>
     <message id="Localisation.WinPref_Title">
         <source>Préférences</source>

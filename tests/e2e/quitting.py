@@ -5,7 +5,7 @@ import subprocess
 import sys
 import time
 
-from desktop import Program, has, nodes, private_environment, wait_for, xdotool
+from desktop import Program, has, needs, nodes, private_environment, wait_for, xdotool
 from sample import sample
 from server import Server
 
@@ -94,6 +94,7 @@ def ask_for_log_out():
 
 def check_log_out(command, files):
     """A real session manager ends the log-in."""
+    needs("xsm")
     environment = private_environment(files.home, SM_SAVE_DIR=str(files.home))
     (files.home / ".xsmstartup").write_text(f"{command}\n")
     manager = subprocess.Popen(["xsm", "-session", "first"], env=environment, stderr=subprocess.DEVNULL)

@@ -113,10 +113,10 @@ TEST_F(MainWindow, ManyReportsDoNotAskWithoutEnd)
     Choose(window->TextFieldMod1, folder.File("model", model));
     Choose(window->TextFieldSpack, folder.File("Custom Scenery/source", source));
     Run();
-    ASSERT_EQ(probe.Asked.size(), 21U);
+    ASSERT_EQ(probe.Asked.size(), 5U) << "three, what the comparison found, and the rest in one";
     EXPECT_EQ(probe.Asked.front(),
               U"Problème, la ligne ci-dessous est présente plus d'une fois :\nSCENERY_PACK line 0[Ok]");
-    EXPECT_NE(probe.Asked.back().find(U"SCENERY_PACK line 99\n"), String::npos);
+    EXPECT_NE(probe.Asked.back().find(U"SCENERY_PACK line 99[Ok]"), String::npos);
 }
 
 TEST_F(MainWindow, WhatAHandHasMadeIsAskedForBeforeItGoes)

@@ -1,0 +1,19 @@
+/// What the status bar says of a text and of a run.
+#pragma once
+
+#include "toolkit/core/Text.h"
+
+/// How many lines a text has, and how many of them are enabled packs, disabled packs, and marked.
+struct LineCounts {
+    Int64 lines = 0, enabled = 0, disabled = 0, marked = 0;
+};
+
+/// "12 lines": the number, and the one of two forms "line|lines" that goes with it.
+String Counted(Int64 number, StringView forms);
+
+/// "Line 3 · 12 lines, 7 enabled, 2 disabled, 1 unmatched".
+String StatusSentence(Int64 line, const LineCounts& counts);
+
+/// Why a text as it came is no scenery text: its line ends, a byte-order mark, nothing in it, the error of the
+/// connection, or another beginning.
+String ReasonOfRefusal(StringView raw);

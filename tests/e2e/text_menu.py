@@ -1,0 +1,138 @@
+"""The menu "Texte" by its keys, and what the status bar says of each act."""
+
+import sys
+
+from desktop import Program, has, nodes, private_environment, xdotool
+from sample import DISABLED, ENABLED, sample
+
+ORANGE, FIRST = "255,127,0", "SCENERY_PACK Custom Scenery/{}/"
+
+
+def status(program, area):
+    """What the status bar must always show, counted here."""
+    text = program.text(area)
+    lines = text.removesuffix("\n").split("\n")
+    starts = [sum(len(line) + 1 for line in lines[:i]) for i in range(len(lines))]
+    marked = sum(bool(line) and program.color_at(area, at + len(line) - 1) == ORANGE for at, line in zip(starts, lines))
+    count = lambda prefix: sum(line.startswith(prefix) for line in lines)  # noqa: E731
+    line = text[: program.selection(area)[1]].count("\n") + 1
+    forms = [f"{n} {word}{'' if n == 1 else 's'}" for n, word in
+             ((len(lines), "ligne"), (count(ENABLED), "activée"), (count(DISABLED), "désactivée"))]
+    return f"Ligne {line} · {', '.join(forms)}, {marked} sans équivalent"
+
+
+def choose(program, item):
+    """By the mouse."""
+    for name in ("Texte", item):
+        left, top, width, height = program.extents(program.find("menu item", name))
+        xdotool("mousemove", left + width // 2, top + height // 2, "click", 1)
+
+
+class Editor:
+    def __init__(self, program):
+        self.program, self.area = program, program.find("text", "Spack Après")
+
+    def keys(self, keys, says=None):
+        """Presses keys in the text; what the status bar then says and shows."""
+        self.program.keys(keys)
+        if says is not None:
+            self.program.wait_for(f"“{says}”", lambda: self.program.all("notification", says))
+        self.program.wait_for("the counts", lambda: self.program.all("label", status(self.program, self.area)))
+
+    def lines(self):
+        return self.program.text(self.area).split("\n")
+
+    def until(self, lines):
+        self.program.wait_for(f"{lines[:6]}…", lambda: self.lines() == lines)
+
+
+def check_lines(editor):
+    """Moving, doubling and deleting the fifth line, and each taken back."""
+    before = editor.lines()
+    place = sum(len(line) + 1 for line in before[:5])
+    editor.program.select(editor.area, place + 3, place + 3)
+    up = [*before[:4], before[5], before[4], *before[6:]]
+    editor.keys("alt+Up")
+    editor.until(up)
+    for _ in range(2):
+        editor.keys("alt+Up")
+    editor.keys("alt+Up", "Pas plus loin")
+    for _ in range(2):
+        editor.keys("alt+Down")
+    for key, lines in (("alt+Down", before), ("ctrl+d", [*before[:6], *before[5:]]), ("ctrl+shift+k", before)):
+        editor.keys(key)
+        editor.program.wait_for(key, lambda wanted=lines: sorted(editor.lines()) == sorted(wanted))
+    while editor.lines() != before:
+        editor.keys("ctrl+z")
+    editor.until(before)
+
+
+def check_marks(editor, marked):
+    program, met = editor.program, []
+    program.keys("ctrl+Home")
+    for _ in range(marked):
+        editor.keys("F8")
+        met.append(program.selection(editor.area)[0])
+        assert program.color_at(editor.area, met[-1] + 30) == ORANGE, met
+    assert met == sorted(set(met)), met
+    editor.keys("F8", "Reprise au début du texte")
+    editor.keys("shift+F8", "Reprise à la fin du texte")
+    assert program.selection(editor.area)[0] == met[-1]
+
+
+def check_search(editor):
+    program, text = editor.program, editor.program.text(editor.area)
+    program.set_text(program.find("text", "Chercher"), "y")
+    program.keys("ctrl+Home")
+    places = [at for at, letter in enumerate(text) if letter in "yY"]
+    for key, way, said in (("F3", places, "début"), ("shift+F3", [*places[:0:-1], places[0]], None)):
+        for place in way[:4]:
+            editor.keys(key)
+            if key == "F3":
+                assert program.selection(editor.area) == (place, place + 1), (place, program.selection(editor.area))
+    program.set_text(program.find("text", "Chercher"), "nowhere")
+    before = program.selection(editor.area)
+    editor.keys("F3", "“nowhere” introuvable")
+    assert program.selection(editor.area) == before
+
+
+def check_folders(editor, files):
+    program, before = editor.program, editor.lines()
+    missing = files.folders_not_listed()
+    choose(program, "Ajouter les dossiers absents du texte")
+    added = [FIRST.format(name) for name in sorted(missing)]
+    editor.until([*before[:4], *added, *before[4:]])
+    gone = [line for line in editor.lines() if any(line.startswith(FIRST.format(n)) for n in files.listed_without_folder())]
+    choose(program, "Désactiver les lignes sans dossier")
+    program.wait_for("disabled lines", lambda: not set(gone) & set(editor.lines()))
+
+
+def main(command):
+    with sample() as files, Program([command], private_environment(files.home)) as program:
+        program.find("text", "Spack Après")
+        program.keys("F5")
+        reports = program.answer_until("Générer")
+        editor = Editor(program)
+        marked = sum(program.text(editor.area).count(f"{name}\n") for name in files.unknown_to_model())
+        program.wait_for("what the run did", lambda: any(
+            node.get_name().startswith("Réordonné : ") and f" {marked} sans équivalent" in node.get_name()
+            for node in program.all("notification")))
+        check_marks(editor, marked)
+        check_lines(editor)
+        check_search(editor)
+        check_folders(editor, files)
+        choose(program, "Dernier rapport")
+        report = next(node for node in nodes(program.dialog()) if node.get_role_name() == "text")
+        left, top, *_ = program.extents(report)
+        xdotool("mousemove", left + 30, top + 10, "click", 1)
+        program.wait_for("the focus in the report", lambda: has(report, "focused"))
+        program.keys("ctrl+a", "ctrl+c")
+        shown = "\n".join(program.answer())
+        assert all(text in shown for texts in reports for text in texts), (reports, shown)
+        program.keys("ctrl+f", "ctrl+v")
+        field = program.find("text", "Chercher")
+        program.wait_for("the copied report", lambda: "Dernier rapport" in program.text(field))
+        assert has(field, "focused")
+
+
+main(*sys.argv[1:])
