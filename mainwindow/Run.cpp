@@ -59,12 +59,13 @@ void WinMain::TimerDebRun_Action()
     RunSuite({});
 }
 
-void WinMain::RunSuite(String model)
+void WinMain::RunSuite(const String& model)
 {
     SceneryTexts texts;
-    texts.TextModel = std::move(model);
+    texts.TextModel = model;
     std::vector<String> refusals;
     Accept(texts.TextModel, Localisation::Dit_ModeleRefuse(), refusals);
+    if (model.empty()) refusals.back().append(U" (").append(Localisation::Dit_OffreModele()).append(U")");
     const std::optional<FolderItem> spack = Fncts::GetFitemAbsPath(TextFieldSpack.Text(), false);
     texts.TextSrcSpack = Fncts::LireFichier(spack);
     Accept(texts.TextSrcSpack, Localisation::Dit_SpackRefuse(), refusals);

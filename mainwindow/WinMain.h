@@ -119,7 +119,7 @@ private:
 
     // Run.cpp
     /// The second half of a run, wherever the model came from.
-    void RunSuite(String model);
+    void RunSuite(const String& model);
     /// The run itself; what came of it, in a sentence.
     String Reorder(SceneryTexts& texts, const FolderItem& dossier);
     void EndRun();

@@ -11,6 +11,14 @@ TEST_F(MainWindow, AProposalNeedsAScenery)
     EXPECT_EQ(probe.Said, std::vector<String>{U"scenery_packs.ini refusé : vide ou illisible"});
 }
 
+TEST_F(MainWindow, ARunWithoutAModelOffersOne)
+{
+    Open();
+    Choose(window->TextFieldSpack, folder.File("Custom Scenery/scenery_packs.ini", header));
+    Run();
+    EXPECT_EQ(probe.Said.back(), U"Modèle refusé : vide ou illisible (le menu “Texte” peut en proposer un)");
+}
+
 TEST_F(MainWindow, TheButtonStopsAProposal)
 {
     Open();
