@@ -7,6 +7,7 @@
 #include "support/FileHelpers.h"
 #include "support/PathForm.h"
 #include "support/Sounds.h"
+#include "support/Status.h"
 #include "support/TextFiles.h"
 #include "support/TextHelpers.h"
 
@@ -37,10 +38,14 @@ void WinMain::ActSaveFile()
 
     std::optional<FolderItem> archiveFolder;
     if (!DecideOnArchive(*target, archiveFolder) || !ConfirmsSave(*target)) return;
-    if (archiveFolder && !Archive(*target, *archiveFolder, moment)) return;
+    std::optional<String> archived;
+    if (archiveFolder && !Archive(*target, *archiveFolder, moment, archived)) return;
     if (!Fncts::SauvFichier(*target, text)) return Tell(Txt_ErreurEcrNouvScen());
     Document(PopMenuAff.SelectedRowIndex()).SetUnmodified();
     Fncts::PlayT(Fncts::_x_Msg::Msg());
+    String sentence = Fncts::Filled(Dit_Enregistre(), {Fncts::AbsPath_f(*target, true)});
+    if (archived) sentence += U" ; " + Fncts::Filled(Dit_Archive(), {*archived});
+    Fncts::Dire(sentence);
 }
 
 bool WinMain::DecideOnArchive(const FolderItem& target, std::optional<FolderItem>& folder)
@@ -61,11 +66,13 @@ bool WinMain::ConfirmsSave(const FolderItem& target)
                           Btn_SauvFichier());
 }
 
-bool WinMain::Archive(const FolderItem& target, const FolderItem& folder, const DateTime& moment)
+bool WinMain::Archive(const FolderItem& target, const FolderItem& folder, const DateTime& moment,
+                      std::optional<String>& name)
 {
     try {
-        const auto copy = folder.Child(ArchiveName(target.Name(), Fncts::Extension_f(target), moment), false);
-        target.CopyTo(copy.value());
+        const String wanted = ArchiveName(target.Name(), Fncts::Extension_f(target), moment);
+        target.CopyTo(folder.Child(wanted, false).value());
+        name = wanted;
         return true;
     } catch (const std::exception&) {
         return AsksToContinue(Txt_ErreurCopiAncScen(), Btn_Cont());

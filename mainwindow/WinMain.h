@@ -135,8 +135,9 @@ private:
     /// Sets `folder` to where the old file is to be kept, or to nothing; false when the user gives up.
     [[nodiscard]] bool DecideOnArchive(const FolderItem& target, std::optional<FolderItem>& folder);
     [[nodiscard]] bool ConfirmsSave(const FolderItem& target);
-    /// Copies the old file; false when that failed and the user gives up.
-    [[nodiscard]] bool Archive(const FolderItem& target, const FolderItem& folder, const DateTime& moment);
+    /// Copies the old file and sets `name` to what the copy is called; false when that failed and the user gives up.
+    [[nodiscard]] bool Archive(const FolderItem& target, const FolderItem& folder, const DateTime& moment,
+                               std::optional<String>& name);
 
     // Toggle.cpp
     /// Selects the line of the caret.
