@@ -73,10 +73,7 @@ DesktopApplication::DesktopApplication(int& argc, char** argv, String name, Stri
     current_ = this;
     QApplication::setPalette(LightPalette());
     QToolTip::setPalette(LightPalette());
-    QuitAtSessionEnd([this](bool bySignal) {
-        QuitsBySignal = QuitsBySignal || bySignal;
-        Quit(0);
-    });
+    CallAtSessionEnd([this](const std::function<bool()>& mayAsk) { return EndSession(mayAsk); });
     // A file above the user's limit of sizes is an error of its writer, and no end of the program.
     std::signal(SIGXFSZ, SIG_IGN);
     QApplication::setApplicationName(ToQt(Name));
@@ -127,6 +124,17 @@ void DesktopApplication::Quit(int exitCode)
     exitCode_ = exitCode;
     QApplication::exit(exitCode);
 }
+
+bool DesktopApplication::EndSession(const std::function<bool()>& mayAsk)
+{
+    if (SessionEnding && !SessionEnding(mayAsk)) return false;
+    exitCode_ = 0;
+    // All event loops end, those of dialogs too, which are then closed as cancelled.
+    QApplication::exit(0);
+    return true;
+}
+
+bool DesktopApplication::EndRequested() { return EndIsRequested(); }
 
 bool DesktopApplication::HasVisibleWindow()
 {

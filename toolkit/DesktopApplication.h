@@ -34,11 +34,15 @@ public:
     /// Runs the event loop until the program quits; the result is the program's exit code. An exception that leaves an
     /// event's handler is shown to the user, and the loop goes on.
     int Run();
-    /// Asks every open window (`CancelClosing` with true); if none objects, the event loop ends with `exitCode`. The
-    /// end of the desktop's log-in comes here too, and so do SIGTERM, SIGINT and SIGHUP, with 0.
+    /// Asks every open window (`CancelClosing` with true); if none objects, the event loop ends with `exitCode`.
     void Quit(int exitCode);
-    /// A signal asked for it: nobody may be there to answer a question.
-    bool QuitsBySignal = false;
+
+    /// The desktop's log-in ends, or SIGTERM, SIGINT or SIGHUP has come, whatever the program is doing: what is to be
+    /// kept is to be kept now. Dialogs are closed as cancelled afterwards, and the program ends with 0. Nothing may be
+    /// asked unless `mayAsk` allows it; the answer false keeps the program running.
+    std::function<bool(const std::function<bool()>& mayAsk)> SessionEnding;
+    /// Such a signal has come: long work is to be given up. Dialogs aren't shown any more.
+    static bool EndRequested();
 
     /// Lets the platform repaint and timers fire. Mouse, keyboard, the closing of windows and answers from the network
     /// wait until the program is idle again; what a screen reader presses meanwhile is dropped.
@@ -46,6 +50,7 @@ public:
 
 private:
     friend class DesktopWindow;
+    bool EndSession(const std::function<bool()>& mayAsk);
     /// The menu bar for one window, or null when the application has none.
     static QMenuBar* MakeMenuBar(const DesktopWindow& window, QWidget* parent);
     /// Ends the event loop when no window is left.

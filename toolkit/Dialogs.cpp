@@ -1,10 +1,12 @@
 #include "toolkit/Dialogs.h"
 
+#include "toolkit/DesktopApplication.h"
 #include "toolkit/DesktopWindow.h"
 #include "toolkit/MessageWindow.h"
 #include "toolkit/Probe.h"
 #include "toolkit/StrayKeys.h"
 #include "toolkit/core/QtText.h"
+#include "toolkit/core/TextEncoding.h"
 
 #include <QApplication>
 #include <QFile>
@@ -13,6 +15,7 @@
 #include <QOperatingSystemVersion>
 #include <QPointer>
 #include <QTreeView>
+#include <cstdio>
 #include <memory>
 
 /// The layer's own door to what hangs a dialog on a window.
@@ -114,6 +117,11 @@ MessageDialog::Button MessageDialog::ShowModal(DesktopWindow* window) const
     if (Probe* const probe = Probe::Current()) {
         Record(*probe, InWords(*this));
         return static_cast<Button>(TakeAnswer<int>(*probe, 1));
+    }
+    if (DesktopApplication::EndRequested()) {
+        // Nobody waits for an answer any more.
+        std::fprintf(stderr, "%s\n", Encodings::UTF8.Encode(InWords(*this)).c_str());
+        return Button::None;
     }
     const auto finished = Finished(MakeMessageWindow(*this, Dialogs::ParentOf(window)));
     return finished ? static_cast<Button>(finished->result()) : Button::None;

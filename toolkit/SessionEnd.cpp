@@ -1,10 +1,8 @@
 #include "toolkit/SessionEnd.h"
 
 #include <QApplication>
-#include <QEventLoop>
 #include <QSessionManager>
 #include <QSocketNotifier>
-#include <QTimer>
 #include <array>
 #include <cerrno>
 #include <csignal>
@@ -15,8 +13,7 @@ namespace {
 
 constexpr std::array EndSignals = {SIGTERM, SIGINT, SIGHUP};
 
-/// Milliseconds that the program has for its quit before the log-in is asked to go on.
-constexpr int QuitTime = 1000;
+volatile std::sig_atomic_t endIsRequested = 0;
 
 /// A signal's handler may do little more than write into a pipe, which wakes the event loop.
 std::array<int, 2> wakePipe = {-1, -1};
@@ -24,19 +21,9 @@ std::array<int, 2> wakePipe = {-1, -1};
 void WakeEventLoop(int /*signal*/)
 {
     const int before = errno;
+    endIsRequested = 1;
     [[maybe_unused]] const auto written = write(wakePipe[1], "", 1);
     errno = before;
-}
-
-void QuitOrGoOn(QSessionManager& manager, const std::function<void()>& quit)
-{
-    QEventLoop wait;
-    QTimer limit;
-    QObject::connect(&limit, &QTimer::timeout, &wait, [&wait] { wait.exit(1); });
-    limit.start(QuitTime);
-    quit();
-    // The end of the program ends this loop too, with 0.
-    if (wait.exec() != 0 && manager.allowsInteraction()) manager.cancel();
 }
 
 bool OpenWakePipe()
@@ -52,17 +39,20 @@ bool OpenWakePipe()
 
 } // namespace
 
-void QuitAtSessionEnd(const std::function<void(bool bySignal)>& quit)
+bool EndIsRequested() { return endIsRequested != 0; }
+
+void CallAtSessionEnd(const std::function<bool(const std::function<bool()>& mayAsk)>& end)
 {
-    QObject::connect(qApp, &QGuiApplication::commitDataRequest, qApp,
-                     [quit](QSessionManager& manager) { QuitOrGoOn(manager, [&quit] { quit(false); }); });
+    QObject::connect(qApp, &QGuiApplication::commitDataRequest, qApp, [end](QSessionManager& manager) {
+        if (!end([&manager] { return manager.allowsInteraction(); })) manager.cancel();
+    });
     if (!OpenWakePipe()) return;
     auto* const woken = new QSocketNotifier(wakePipe[0], QSocketNotifier::Read, qApp);
-    QObject::connect(woken, &QSocketNotifier::activated, qApp, [quit] {
+    QObject::connect(woken, &QSocketNotifier::activated, qApp, [end] {
         std::array<char, 16> drained;
         while (read(wakePipe[0], drained.data(), drained.size()) > 0) {
         }
-        quit(true);
+        end([] { return false; });
     });
     for (const int number : EndSignals)
         if (std::signal(number, WakeEventLoop) == SIG_IGN) std::signal(number, SIG_IGN);

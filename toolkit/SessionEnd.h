@@ -3,7 +3,10 @@
 
 #include <functional>
 
-/// Has `quit` called when the log-in ends, and with true at SIGTERM, SIGINT and SIGHUP, which Qt leaves alone, each
-/// time from the event loop. A log-in whose end finds the program still there a moment later is asked to go on, as far
-/// as the desktop lets it.
-void QuitAtSessionEnd(const std::function<void(bool bySignal)>& quit);
+/// Has `end` called when the log-in ends, and at SIGTERM, SIGINT and SIGHUP, which Qt leaves alone, each time from the
+/// event loop, which may be a dialog's. `mayAsk` tells whether the user may be asked something: never at a signal.
+/// Where `end` answers false the log-in is asked to go on.
+void CallAtSessionEnd(const std::function<bool(const std::function<bool()>& mayAsk)>& end);
+
+/// One of these signals has come.
+bool EndIsRequested();

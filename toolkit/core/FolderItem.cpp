@@ -1,6 +1,7 @@
 #include "toolkit/core/FolderItem.h"
 
 #include "toolkit/core/Exceptions.h"
+#include "toolkit/core/FileCalls.h"
 #include "toolkit/core/QtText.h"
 #include "toolkit/core/TextEncoding.h"
 
@@ -63,7 +64,6 @@ std::optional<fs::path> EquivalentEntry(const fs::path& folder, StringView name)
     return std::nullopt;
 }
 
-/// What an alias leads to in the end, even if nothing is there; the path itself when links go round in a circle.
 fs::path Destination(const fs::path& path)
 {
     fs::path destination = path;
@@ -126,6 +126,8 @@ std::optional<FolderItem> FolderItem::Parent() const
     return FolderItem(path_.parent_path());
 }
 
+FolderItem FolderItem::Original() const { return FolderItem(Destination(path_)); }
+
 bool FolderItem::IsPossibleName(StringView name)
 {
     return !name.empty() && name != U"." && name != U".." && name.find_first_of(StringView(U"/\0", 2)) == name.npos;
@@ -155,6 +157,8 @@ String FolderItem::URLPath() const
 }
 
 String FolderItem::NativePath() const { return Encodings::UTF8.Decode(path_.native()); }
+
+void FolderItem::CheckWritable() const { Check(::access(path_.c_str(), W_OK | X_OK) == 0); }
 
 void FolderItem::CreateFolder() const
 {

@@ -46,6 +46,10 @@ public:
     /// The folder above; nothing for a drive's root.
     [[nodiscard]] std::optional<FolderItem> Parent() const;
 
+    /// What an alias leads to in the end, even if nothing is there; the item itself where it is no alias, or one of a
+    /// circle.
+    [[nodiscard]] FolderItem Original() const;
+
     [[nodiscard]] bool Exists() const;
     [[nodiscard]] bool IsFolder() const;
     /// True for a folder, and for an alias that leads to one in the end.
@@ -61,6 +65,8 @@ public:
     [[nodiscard]] String NativePath() const;
     [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
 
+    /// Raises IOException where nothing can be made in the folder.
+    void CheckWritable() const;
     /// Makes the folder, and those above it that are missing. Whether it worked is seen by `Exists`.
     void CreateFolder() const;
     /// Moves the item into `folder` under its own name, or to the place `folder` itself where nothing is there yet.

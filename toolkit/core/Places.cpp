@@ -28,19 +28,31 @@ bool IsFolderOrLeadsToOne(const fs::path& path)
 }
 
 /// Qt would take the root of the file system for the home of a user who has none.
-bool HasHome()
+std::optional<fs::path> Home()
 {
-    const char* home = std::getenv("HOME"); // NOLINT(concurrency-mt-unsafe)
-    return home && fs::path(home).is_absolute() && IsFolderOrLeadsToOne(home);
+    const char* const home = std::getenv("HOME"); // NOLINT(concurrency-mt-unsafe)
+    if (!home || !fs::path(home).is_absolute() || !IsFolderOrLeadsToOne(home)) return std::nullopt;
+    return home;
 }
 
 std::optional<FolderItem> Place(QStandardPaths::StandardLocation location)
 {
-    if (!HasHome()) return std::nullopt;
     const QByteArray path = QFile::encodeName(QStandardPaths::writableLocation(location));
-    if (path.isEmpty()) return std::nullopt;
+    if (!Home() || path.isEmpty()) return std::nullopt;
     return FolderItem(path.toStdString());
 }
+
+#ifndef Q_OS_MACOS
+/// A folder that a variable names, or that is `usual` below the home. Not by Qt, which takes relative paths and changes
+/// bytes that are no UTF-8.
+std::optional<FolderItem> Place(const char* variable, const char* usual)
+{
+    const std::optional<fs::path> home = Home();
+    if (!home) return std::nullopt;
+    const char* const named = std::getenv(variable); // NOLINT(concurrency-mt-unsafe)
+    return FolderItem(named && fs::path(named).is_absolute() ? fs::path(named) : *home / usual);
+}
+#endif
 
 } // namespace
 
@@ -51,7 +63,7 @@ std::optional<FolderItem> FolderItem::Named(StringView text)
     // Some programs name this machine.
     if (url.host() == QLatin1String("localhost")) url.setHost({});
     QString path = url.isLocalFile() ? url.toLocalFile() : name;
-    if (path.startsWith(QLatin1String("~/")) && HasHome()) path.replace(0, 1, QDir::homePath());
+    if (path.startsWith(QLatin1String("~/")) && Home()) path.replace(0, 1, QDir::homePath());
     if (!path.startsWith(u'/') || path.contains(QChar())) return {};
     const FolderItem item(fs::path(QFile::encodeName(path).toStdString()).lexically_normal());
     return item.Exists() ? std::optional(item) : std::nullopt;
@@ -76,13 +88,24 @@ void FolderItem::SetVolumesFolder(std::optional<fs::path> folder) { VolumesPlace
 
 std::optional<FolderItem> SpecialFolder::ApplicationData()
 {
+#ifdef Q_OS_MACOS
     std::optional<FolderItem> folder = Place(QStandardPaths::GenericDataLocation);
+#else
+    std::optional<FolderItem> folder = Place("XDG_DATA_HOME", ".local/share");
+#endif
     if (!folder) return std::nullopt;
     folder->CreateFolder();
     return IsFolderOrLeadsToOne(folder->Path()) ? folder : std::nullopt;
 }
 
-std::optional<FolderItem> SpecialFolder::Preferences() { return Place(QStandardPaths::GenericConfigLocation); }
+std::optional<FolderItem> SpecialFolder::Preferences()
+{
+#ifdef Q_OS_MACOS
+    return Place(QStandardPaths::GenericConfigLocation);
+#else
+    return Place("XDG_CONFIG_HOME", ".config");
+#endif
+}
 
 std::optional<FolderItem> SpecialFolder::Documents()
 {

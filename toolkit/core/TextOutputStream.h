@@ -1,40 +1,32 @@
-/// Writing of text files.
+/// Writing of text files, whole or not at all.
 #pragma once
 
 #include "toolkit/core/FolderItem.h"
 #include "toolkit/core/TextEncoding.h"
 
-#include <utility>
-
-/// A text file that is being written.
+/// A text file that is being written: beside the old one under another name, until it is complete.
 ///
-/// The file is written in place: its permissions and owner stay, and of an alias the file behind it is written. Each
-/// operation raises IOException when it fails; what is on disk then is what was written until then, or the old content
-/// where nothing was. A program that dies leaves the old or the new text, unless it dies within the one write.
+/// Each operation raises IOException when it fails. On disk is the old file until `Close`, and the new one from then
+/// on, with no moment between; without `Close` nothing is left of the new one.
 class TextOutputStream {
 public:
-    /// Opens an existing regular file, whose content is replaced, or makes a new one. A file that nobody may write is
-    /// refused, also to a user who could write it all the same, and left as it is; so is a folder, a pipe or a device.
+    /// Begins the new content of a file, or a new file. It gets the permissions of the old one and, as far as the user
+    /// may give them, its owner and group. Of an alias the file behind it is replaced.
     ///
-    /// `size` bytes are going to be written: where they are above the user's limit or quota, or the file system can
-    /// tell that they don't fit, the file is refused.
-    static TextOutputStream Create(const FolderItem& file, Int64 size);
-
-    TextOutputStream(TextOutputStream&& other) noexcept
-        : descriptor_(std::exchange(other.descriptor_, -1))
-    {
-    }
+    /// Refused are a file that nobody may write, also to a user who could write it all the same, and what is no regular
+    /// file: a folder, a pipe, a device.
+    explicit TextOutputStream(const FolderItem& file);
+    TextOutputStream(const TextOutputStream&) = delete;
+    TextOutputStream& operator=(const TextOutputStream&) = delete;
     ~TextOutputStream();
 
     void Write(const Bytes& data);
-    /// Cuts off what is left of the old content, and waits until the bytes have reached the file system. Only then is
-    /// the file written.
+    /// Waits until the bytes have reached the file system, and puts the new file in the place of the old one.
     void Close();
 
 private:
-    explicit TextOutputStream(int descriptor)
-        : descriptor_(descriptor)
-    {
-    }
-    int descriptor_;
+    void Discard();
+
+    const std::filesystem::path target_, temporary_;
+    int descriptor_ = -1;
 };
