@@ -224,6 +224,22 @@ inline constexpr Text Txt_TropLong{U"Txt_TropLong",
 inline constexpr Text Txt_TropColonnes{U"Txt_TropColonnes",
     U"Les cellules au-delà de la troisième colonne ont été laissées de côté."};
 inline constexpr Text Btn_CopiList_HT{U"Btn_CopiList_HT", U"Copier la liste dans le presse-papiers"};
+inline constexpr Text Txt_OctetsRetires{U"Txt_OctetsRetires",
+    U"“¿%” contient des octets qui ne sont pas de l'UTF-8. Les caractères non ASCII en ont été retirés, dans ¿% "
+    U"ligne(s). La première est la ligne ¿% :\n¿%"};
+inline constexpr Text Txt_SauvTexteAbime{U"Txt_SauvTexteAbime",
+    U"Des caractères de ce texte ont été retirés à la lecture, parce que son fichier contient des octets qui ne "
+    U"sont pas de l'UTF-8. L'enregistrer quand même ?"};
+inline constexpr Text Txt_FichierChange{U"Txt_FichierChange",
+    U"“¿%” a changé sur le disque depuis qu'il a été lu. L'enregistrement fera perdre ces changements."};
+inline constexpr Text Txt_FormeTexte{U"Txt_FormeTexte",
+    U"“¿%” n'est pas un simple texte UTF-8 aux fins de ligne LF : ¿%."};
+inline constexpr Text Txt_PrefsGardees{U"Txt_PrefsGardees",
+    U"Avant d'être remplacé, l'ancien fichier de réglages sera renommé “¿%”."};
+inline constexpr Text Txt_PrefsNonGardees{U"Txt_PrefsNonGardees",
+    U"Le dossier “¿%” n'est pas utilisable (¿%) : les réglages ne seront pas gardés."};
+inline constexpr Text Txt_PrefsNonReprises{U"Txt_PrefsNonReprises",
+    U"Les réglages d'une version plus ancienne n'ont pas pu être repris de “¿%” : ¿%."};
 inline constexpr Text Pref_ChBoxAffBtnSpecA{U"Pref_ChBoxAffBtnSpecA", U"Afficher bouton “Spécial A”"};
 inline constexpr Text Menu_Preferences{U"Menu_Preferences", U"Préférences…"};
 inline constexpr Text Menu_Rapport{U"Menu_Rapport", U"Dernier rapport"};

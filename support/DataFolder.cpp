@@ -1,64 +1,76 @@
-#include "support/Diagnostics.h"
+#include "localisation/Localisation.h"
 #include "support/FileHelpers.h"
 #include "support/Fncts.h"
-#include "support/Sounds.h"
+#include "support/TextHelpers.h"
+#include "toolkit/Dialogs.h"
 #include "toolkit/core/Exceptions.h"
 
+#include <cerrno>
+
 namespace {
+
+namespace fs = std::filesystem;
 
 constexpr StringView folderName = U"fr.Kavesti.Tarnivel Datas", olderFolder = U"Tarnivel",
                      oldestFile = U"Tarnivel Prefs.txt";
 
-/// Brings an item of an older version to its new place, or leaves it where it is if it can't be moved: to another file
-/// system, or to where a name is taken. The program can start without it.
-void MoveIfPossible(const FolderItem& item, const FolderItem& folder)
+/// Moves an item to a place where nothing is yet, by way of a copy where that is on another file system.
+void MoveAnywhere(const FolderItem& item, const FolderItem& place)
 {
     try {
-        item.MoveTo(folder);
-    } catch (const IOException&) {
-        return;
+        return item.MoveTo(place);
+    } catch (const IOException& error) {
+        if (error.ErrorNumber != EXDEV) throw;
+    }
+    // Complete before it has its name: half a copy would pass for all of it.
+    const fs::path copy = place.Path().native() + ".part";
+    fs::remove_all(copy);
+    fs::copy(item.Path(), copy, fs::copy_options::recursive | fs::copy_options::copy_symlinks);
+    fs::rename(copy, place.Path());
+    Fncts::RemoveFileOrFolder(item, false);
+}
+
+/// Takes over what an older version kept. The program can start without it, but not in silence.
+void TakeOver(const FolderItem& item, const FolderItem& place)
+{
+    try {
+        MoveAnywhere(item, place);
+    } catch (const std::exception& error) {
+        const String reason = Fncts::DefAppEncod.Decode(error.what());
+        MessageBox(Fncts::Filled(Localisation::Txt_PrefsNonReprises(), {item.NativePath(), reason}));
     }
 }
 
-/// Makes the data folder from what older versions kept among the preferences, or empty if they kept nothing.
-void MakeDataFolder(const FolderItem& dataFolder, const FolderItem& applicationData, const FolderItem& preferences)
+/// Makes the data folder from what older versions kept among the preferences, or empty if they kept nothing. What is no
+/// folder or no file there but a link isn't theirs.
+void MakeDataFolder(const FolderItem& dataFolder)
 {
-    if (const auto older = preferences.Child(olderFolder); older && older->Exists()) {
-        MoveIfPossible(*older, applicationData);
-        if (const auto moved = applicationData.Child(olderFolder); moved && moved->Exists()) moved->Rename(folderName);
-        if (!dataFolder.Exists()) dataFolder.CreateFolder();
-        return;
-    }
-    dataFolder.CreateFolder();
-    if (const auto file = preferences.Child(oldestFile); file && file->Exists() && dataFolder.Exists())
-        MoveIfPossible(*file, dataFolder);
-}
-
-std::optional<FolderItem> FindDataFolder()
-{
-    const auto applicationData = SpecialFolder::ApplicationData();
-    if (!Fncts::PasNil_Existe_Alias(applicationData, true)) return std::nullopt;
-    auto dataFolder = applicationData->Child(folderName);
-    if (!dataFolder || dataFolder->Exists()) return dataFolder;
-
     const auto preferences = SpecialFolder::Preferences();
-    if (Fncts::PasNil_Existe_Alias(preferences, true))
-        MakeDataFolder(*dataFolder, *applicationData, *preferences);
-    else
-        dataFolder->CreateFolder();
-    return dataFolder->Exists() ? dataFolder : std::nullopt;
+    const auto older = preferences ? preferences->Child(olderFolder, false) : std::nullopt;
+    if (older && older->IsFolder()) TakeOver(*older, dataFolder);
+    if (dataFolder.Exists()) return;
+    fs::create_directory(dataFolder.Path());
+    const auto oldest = preferences ? preferences->Child(oldestFile, false) : std::nullopt;
+    if (oldest && fs::is_regular_file(fs::symlink_status(oldest->Path())))
+        TakeOver(*oldest, dataFolder.Child(oldestFile).value());
 }
 
 } // namespace
 
-bool Fncts::DefDossAppDataPref()
+Fncts::Outcome Fncts::DefDossAppDataPref()
 {
+    DossierPref.reset();
+    const auto applicationData = SpecialFolder::ApplicationData();
+    const auto dataFolder = applicationData ? applicationData->Child(folderName) : std::nullopt;
+    if (!dataFolder) return {U"There is no home folder, or nothing can be made in it."};
     try {
-        DossierPref = FindDataFolder();
-        return PasNil_Existe_Alias(DossierPref, true);
-    } catch (const std::exception&) {
-        BeepNbT(3);
-        TellAuthorsShortly(U"DefDossAppDataPref, problem while creating Preferences folder!");
-        return false;
+        // A link that leads nowhere may be waiting for its disk.
+        const auto link = applicationData->Child(folderName, false);
+        if (!dataFolder->Exists() && !link->IsAlias()) MakeDataFolder(*dataFolder);
+        if (!dataFolder->IsFolder()) throw SystemError(dataFolder->Exists() ? ENOTDIR : ENOENT);
+        DossierPref = dataFolder;
+        return {};
+    } catch (const std::exception& error) {
+        return {dataFolder->NativePath() + U"\n" + DefAppEncod.Decode(error.what())};
     }
 }

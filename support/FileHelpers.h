@@ -1,7 +1,7 @@
 /// Questions about files and folders, and what the program does with whole folders.
 #pragma once
 
-#include "toolkit/core/FolderItem.h"
+#include "support/Fncts.h"
 
 namespace Fncts {
 
@@ -30,8 +30,8 @@ void RevealEltFinder(const FolderItem& item);
 FolderItem RetDossCetApp(const FolderItem& executable = ExecutableFile());
 
 /// Finds the data folder "fr.Kavesti.Tarnivel Datas" or makes it, bringing in what older versions kept elsewhere, and
-/// stores it in `DossierPref`. False when there is none; a failure of the file system on the way is reported to the
-/// user.
-bool DefDossAppDataPref();
+/// stores it in `DossierPref`. Where there is none the failure names the place too. What could not be brought in is
+/// told to the user.
+Outcome DefDossAppDataPref();
 
 } // namespace Fncts

@@ -3,6 +3,8 @@
 
 #include "toolkit/core/TextEncoding.h"
 
+#include <initializer_list>
+
 namespace Fncts {
 
 /// Piece number `part`, counted from 1, of a text that is cut at its placeholders "¿%": the second of "“¿%” ?" is "”

@@ -12,9 +12,9 @@
 
 class TemporaryFolder {
 public:
-    TemporaryFolder()
+    explicit TemporaryFolder(const std::filesystem::path& place = std::filesystem::temp_directory_path())
     {
-        std::string pattern = std::filesystem::canonical(std::filesystem::temp_directory_path()) / "tarnivel-XXXXXX";
+        std::string pattern = std::filesystem::canonical(place) / "tarnivel-XXXXXX";
         if (!::mkdtemp(pattern.data())) throw std::runtime_error("no temporary folder");
         path_ = pattern;
     }

@@ -641,6 +641,43 @@ Rückgabewert: 0 alles stimmt überein, 1 etwas wurde gemeldet,
         <source>Copier la liste dans le presse-papiers</source>
         <translation>Die Liste in die Zwischenablage kopieren</translation>
     </message>
+    <message id="Localisation.Txt_OctetsRetires">
+        <source>“¿%” contient des octets qui ne sont pas de l'UTF-8. Les caractères non ASCII en ont été retirés, dans ¿% ligne(s). La première est la ligne ¿% :
+¿%</source>
+        <extracomment>What bytes that are no UTF-8 cost. Placeholders: file or address, number of lines, number of the first line, that line.</extracomment>
+        <translation>„¿%“ enthält Bytes, die kein UTF-8 sind. Die Zeichen außerhalb von ASCII wurden entfernt, in ¿% Zeile(n). Die erste ist Zeile ¿%:
+¿%</translation>
+    </message>
+    <message id="Localisation.Txt_SauvTexteAbime">
+        <source>Des caractères de ce texte ont été retirés à la lecture, parce que son fichier contient des octets qui ne sont pas de l'UTF-8. L'enregistrer quand même ?</source>
+        <extracomment>Question before a save.</extracomment>
+        <translation>Aus diesem Text wurden beim Lesen Zeichen entfernt, weil seine Datei Bytes enthält, die kein UTF-8 sind. Trotzdem sichern?</translation>
+    </message>
+    <message id="Localisation.Txt_FichierChange">
+        <source>“¿%” a changé sur le disque depuis qu'il a été lu. L'enregistrement fera perdre ces changements.</source>
+        <extracomment>Question before a save. Placeholder: the file's path.</extracomment>
+        <translation>„¿%“ hat sich auf der Platte geändert, seit es gelesen wurde. Durch das Sichern gehen diese Änderungen verloren.</translation>
+    </message>
+    <message id="Localisation.Txt_FormeTexte">
+        <source>“¿%” n'est pas un simple texte UTF-8 aux fins de ligne LF : ¿%.</source>
+        <extracomment>In the status line. Placeholders: file or address, and what it is, as in “BOM, CR LF” or “UTF-16”.</extracomment>
+        <translation>„¿%“ ist kein einfacher UTF-8-Text mit Zeilenenden LF: ¿%.</translation>
+    </message>
+    <message id="Localisation.Txt_PrefsGardees">
+        <source>Avant d'être remplacé, l'ancien fichier de réglages sera renommé “¿%”.</source>
+        <extracomment>Told when the settings could not be read as they are. Placeholder: a file name.</extracomment>
+        <translation>Bevor sie ersetzt wird, wird die alte Einstellungsdatei in „¿%“ umbenannt.</translation>
+    </message>
+    <message id="Localisation.Txt_PrefsNonGardees">
+        <source>Le dossier “¿%” n'est pas utilisable (¿%) : les réglages ne seront pas gardés.</source>
+        <extracomment>Told at the start. Placeholders: the folder's path, the reason.</extracomment>
+        <translation>Der Ordner „¿%“ ist nicht benutzbar (¿%): Die Einstellungen werden nicht behalten.</translation>
+    </message>
+    <message id="Localisation.Txt_PrefsNonReprises">
+        <source>Les réglages d'une version plus ancienne n'ont pas pu être repris de “¿%” : ¿%.</source>
+        <extracomment>Told at the start. Placeholders: the place of an older version's settings, the reason.</extracomment>
+        <translation>Die Einstellungen einer älteren Version konnten nicht aus „¿%“ übernommen werden: ¿%.</translation>
+    </message>
     <message id="Localisation.Pref_ChBoxAffBtnSpecA">
         <source>Afficher bouton “Spécial A”</source>
         <extracomment>Check box, room for 338 pixels: about 46 characters.</extracomment>

@@ -641,6 +641,43 @@ Exit status: 0 all agrees, 1 something was reported,
         <source>Copier la liste dans le presse-papiers</source>
         <translation>Copy the list to the clipboard</translation>
     </message>
+    <message id="Localisation.Txt_OctetsRetires">
+        <source>“¿%” contient des octets qui ne sont pas de l'UTF-8. Les caractères non ASCII en ont été retirés, dans ¿% ligne(s). La première est la ligne ¿% :
+¿%</source>
+        <extracomment>What bytes that are no UTF-8 cost. Placeholders: file or address, number of lines, number of the first line, that line.</extracomment>
+        <translation>“¿%” contains bytes that are not UTF-8. Its characters beyond ASCII were taken out, in ¿% line(s). The first is line ¿%:
+¿%</translation>
+    </message>
+    <message id="Localisation.Txt_SauvTexteAbime">
+        <source>Des caractères de ce texte ont été retirés à la lecture, parce que son fichier contient des octets qui ne sont pas de l'UTF-8. L'enregistrer quand même ?</source>
+        <extracomment>Question before a save.</extracomment>
+        <translation>Characters of this text were taken out when it was read, because its file contains bytes that are not UTF-8. Save it all the same?</translation>
+    </message>
+    <message id="Localisation.Txt_FichierChange">
+        <source>“¿%” a changé sur le disque depuis qu'il a été lu. L'enregistrement fera perdre ces changements.</source>
+        <extracomment>Question before a save. Placeholder: the file's path.</extracomment>
+        <translation>“¿%” has changed on disk since it was read. Saving will lose these changes.</translation>
+    </message>
+    <message id="Localisation.Txt_FormeTexte">
+        <source>“¿%” n'est pas un simple texte UTF-8 aux fins de ligne LF : ¿%.</source>
+        <extracomment>In the status line. Placeholders: file or address, and what it is, as in “BOM, CR LF” or “UTF-16”.</extracomment>
+        <translation>“¿%” is not plain UTF-8 text with LF line ends: ¿%.</translation>
+    </message>
+    <message id="Localisation.Txt_PrefsGardees">
+        <source>Avant d'être remplacé, l'ancien fichier de réglages sera renommé “¿%”.</source>
+        <extracomment>Told when the settings could not be read as they are. Placeholder: a file name.</extracomment>
+        <translation>Before it is replaced, the old settings file will be renamed “¿%”.</translation>
+    </message>
+    <message id="Localisation.Txt_PrefsNonGardees">
+        <source>Le dossier “¿%” n'est pas utilisable (¿%) : les réglages ne seront pas gardés.</source>
+        <extracomment>Told at the start. Placeholders: the folder's path, the reason.</extracomment>
+        <translation>The folder “¿%” cannot be used (¿%): the settings will not be kept.</translation>
+    </message>
+    <message id="Localisation.Txt_PrefsNonReprises">
+        <source>Les réglages d'une version plus ancienne n'ont pas pu être repris de “¿%” : ¿%.</source>
+        <extracomment>Told at the start. Placeholders: the place of an older version's settings, the reason.</extracomment>
+        <translation>The settings of an older version could not be taken over from “¿%”: ¿%.</translation>
+    </message>
     <message id="Localisation.Pref_ChBoxAffBtnSpecA">
         <source>Afficher bouton “Spécial A”</source>
         <extracomment>Check box, room for 338 pixels: about 46 characters.</extracomment>

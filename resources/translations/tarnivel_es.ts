@@ -641,6 +641,43 @@ Estado de salida: 0 todo concuerda, 1 se ha señalado algo,
         <source>Copier la liste dans le presse-papiers</source>
         <translation>Copiar la lista al portapapeles</translation>
     </message>
+    <message id="Localisation.Txt_OctetsRetires">
+        <source>“¿%” contient des octets qui ne sont pas de l'UTF-8. Les caractères non ASCII en ont été retirés, dans ¿% ligne(s). La première est la ligne ¿% :
+¿%</source>
+        <extracomment>What bytes that are no UTF-8 cost. Placeholders: file or address, number of lines, number of the first line, that line.</extracomment>
+        <translation>“¿%” contiene bytes que no son UTF-8. Se han quitado los caracteres que no son ASCII, en ¿% línea(s). La primera es la línea ¿%:
+¿%</translation>
+    </message>
+    <message id="Localisation.Txt_SauvTexteAbime">
+        <source>Des caractères de ce texte ont été retirés à la lecture, parce que son fichier contient des octets qui ne sont pas de l'UTF-8. L'enregistrer quand même ?</source>
+        <extracomment>Question before a save.</extracomment>
+        <translation>Se quitaron caracteres de este texto al leerlo, porque su archivo contiene bytes que no son UTF-8. ¿Guardarlo de todos modos?</translation>
+    </message>
+    <message id="Localisation.Txt_FichierChange">
+        <source>“¿%” a changé sur le disque depuis qu'il a été lu. L'enregistrement fera perdre ces changements.</source>
+        <extracomment>Question before a save. Placeholder: the file's path.</extracomment>
+        <translation>“¿%” ha cambiado en el disco desde que se leyó. Al guardar se perderán esos cambios.</translation>
+    </message>
+    <message id="Localisation.Txt_FormeTexte">
+        <source>“¿%” n'est pas un simple texte UTF-8 aux fins de ligne LF : ¿%.</source>
+        <extracomment>In the status line. Placeholders: file or address, and what it is, as in “BOM, CR LF” or “UTF-16”.</extracomment>
+        <translation>“¿%” no es un texto UTF-8 simple con finales de línea LF: ¿%.</translation>
+    </message>
+    <message id="Localisation.Txt_PrefsGardees">
+        <source>Avant d'être remplacé, l'ancien fichier de réglages sera renommé “¿%”.</source>
+        <extracomment>Told when the settings could not be read as they are. Placeholder: a file name.</extracomment>
+        <translation>Antes de ser reemplazado, el archivo de ajustes antiguo pasará a llamarse “¿%”.</translation>
+    </message>
+    <message id="Localisation.Txt_PrefsNonGardees">
+        <source>Le dossier “¿%” n'est pas utilisable (¿%) : les réglages ne seront pas gardés.</source>
+        <extracomment>Told at the start. Placeholders: the folder's path, the reason.</extracomment>
+        <translation>La carpeta “¿%” no se puede usar (¿%): los ajustes no se conservarán.</translation>
+    </message>
+    <message id="Localisation.Txt_PrefsNonReprises">
+        <source>Les réglages d'une version plus ancienne n'ont pas pu être repris de “¿%” : ¿%.</source>
+        <extracomment>Told at the start. Placeholders: the place of an older version's settings, the reason.</extracomment>
+        <translation>Los ajustes de una versión anterior no se han podido recuperar de “¿%”: ¿%.</translation>
+    </message>
     <message id="Localisation.Pref_ChBoxAffBtnSpecA">
         <source>Afficher bouton “Spécial A”</source>
         <extracomment>Check box, room for 338 pixels: about 46 characters.</extracomment>

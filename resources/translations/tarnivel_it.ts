@@ -641,6 +641,43 @@ Stato di uscita: 0 tutto concorda, 1 qualcosa è stato segnalato,
         <source>Copier la liste dans le presse-papiers</source>
         <translation>Copia l'elenco negli appunti</translation>
     </message>
+    <message id="Localisation.Txt_OctetsRetires">
+        <source>“¿%” contient des octets qui ne sont pas de l'UTF-8. Les caractères non ASCII en ont été retirés, dans ¿% ligne(s). La première est la ligne ¿% :
+¿%</source>
+        <extracomment>What bytes that are no UTF-8 cost. Placeholders: file or address, number of lines, number of the first line, that line.</extracomment>
+        <translation>“¿%” contiene byte che non sono UTF-8. I caratteri non ASCII sono stati tolti, in ¿% riga/righe. La prima è la riga ¿%:
+¿%</translation>
+    </message>
+    <message id="Localisation.Txt_SauvTexteAbime">
+        <source>Des caractères de ce texte ont été retirés à la lecture, parce que son fichier contient des octets qui ne sont pas de l'UTF-8. L'enregistrer quand même ?</source>
+        <extracomment>Question before a save.</extracomment>
+        <translation>Alla lettura sono stati tolti caratteri da questo testo, perché il suo file contiene byte che non sono UTF-8. Registrarlo comunque?</translation>
+    </message>
+    <message id="Localisation.Txt_FichierChange">
+        <source>“¿%” a changé sur le disque depuis qu'il a été lu. L'enregistrement fera perdre ces changements.</source>
+        <extracomment>Question before a save. Placeholder: the file's path.</extracomment>
+        <translation>“¿%” è cambiato sul disco da quando è stato letto. Registrando si perderanno queste modifiche.</translation>
+    </message>
+    <message id="Localisation.Txt_FormeTexte">
+        <source>“¿%” n'est pas un simple texte UTF-8 aux fins de ligne LF : ¿%.</source>
+        <extracomment>In the status line. Placeholders: file or address, and what it is, as in “BOM, CR LF” or “UTF-16”.</extracomment>
+        <translation>“¿%” non è un semplice testo UTF-8 con fine riga LF: ¿%.</translation>
+    </message>
+    <message id="Localisation.Txt_PrefsGardees">
+        <source>Avant d'être remplacé, l'ancien fichier de réglages sera renommé “¿%”.</source>
+        <extracomment>Told when the settings could not be read as they are. Placeholder: a file name.</extracomment>
+        <translation>Prima di essere sostituito, il vecchio file delle impostazioni sarà rinominato “¿%”.</translation>
+    </message>
+    <message id="Localisation.Txt_PrefsNonGardees">
+        <source>Le dossier “¿%” n'est pas utilisable (¿%) : les réglages ne seront pas gardés.</source>
+        <extracomment>Told at the start. Placeholders: the folder's path, the reason.</extracomment>
+        <translation>La cartella “¿%” non è utilizzabile (¿%): le impostazioni non saranno conservate.</translation>
+    </message>
+    <message id="Localisation.Txt_PrefsNonReprises">
+        <source>Les réglages d'une version plus ancienne n'ont pas pu être repris de “¿%” : ¿%.</source>
+        <extracomment>Told at the start. Placeholders: the place of an older version's settings, the reason.</extracomment>
+        <translation>Non è stato possibile riprendere le impostazioni di una versione precedente da “¿%”: ¿%.</translation>
+    </message>
     <message id="Localisation.Pref_ChBoxAffBtnSpecA">
         <source>Afficher bouton “Spécial A”</source>
         <extracomment>Check box, room for 338 pixels: about 46 characters.</extracomment>

@@ -641,6 +641,43 @@ Afsluitstatus: 0 alles stemt overeen, 1 er is iets gemeld,
         <source>Copier la liste dans le presse-papiers</source>
         <translation>De lijst naar het klembord kopiëren</translation>
     </message>
+    <message id="Localisation.Txt_OctetsRetires">
+        <source>“¿%” contient des octets qui ne sont pas de l'UTF-8. Les caractères non ASCII en ont été retirés, dans ¿% ligne(s). La première est la ligne ¿% :
+¿%</source>
+        <extracomment>What bytes that are no UTF-8 cost. Placeholders: file or address, number of lines, number of the first line, that line.</extracomment>
+        <translation>“¿%” bevat bytes die geen UTF-8 zijn. De tekens buiten ASCII zijn weggehaald, in ¿% regel(s). De eerste is regel ¿%:
+¿%</translation>
+    </message>
+    <message id="Localisation.Txt_SauvTexteAbime">
+        <source>Des caractères de ce texte ont été retirés à la lecture, parce que son fichier contient des octets qui ne sont pas de l'UTF-8. L'enregistrer quand même ?</source>
+        <extracomment>Question before a save.</extracomment>
+        <translation>Bij het lezen zijn tekens uit deze tekst weggehaald, omdat het bestand bytes bevat die geen UTF-8 zijn. Toch opslaan?</translation>
+    </message>
+    <message id="Localisation.Txt_FichierChange">
+        <source>“¿%” a changé sur le disque depuis qu'il a été lu. L'enregistrement fera perdre ces changements.</source>
+        <extracomment>Question before a save. Placeholder: the file's path.</extracomment>
+        <translation>“¿%” is op de schijf veranderd sinds het gelezen is. Bij opslaan gaan die veranderingen verloren.</translation>
+    </message>
+    <message id="Localisation.Txt_FormeTexte">
+        <source>“¿%” n'est pas un simple texte UTF-8 aux fins de ligne LF : ¿%.</source>
+        <extracomment>In the status line. Placeholders: file or address, and what it is, as in “BOM, CR LF” or “UTF-16”.</extracomment>
+        <translation>“¿%” is geen gewone UTF-8-tekst met regeleinden LF: ¿%.</translation>
+    </message>
+    <message id="Localisation.Txt_PrefsGardees">
+        <source>Avant d'être remplacé, l'ancien fichier de réglages sera renommé “¿%”.</source>
+        <extracomment>Told when the settings could not be read as they are. Placeholder: a file name.</extracomment>
+        <translation>Voordat het vervangen wordt, krijgt het oude instellingenbestand de naam “¿%”.</translation>
+    </message>
+    <message id="Localisation.Txt_PrefsNonGardees">
+        <source>Le dossier “¿%” n'est pas utilisable (¿%) : les réglages ne seront pas gardés.</source>
+        <extracomment>Told at the start. Placeholders: the folder's path, the reason.</extracomment>
+        <translation>De map “¿%” is niet bruikbaar (¿%): de instellingen worden niet bewaard.</translation>
+    </message>
+    <message id="Localisation.Txt_PrefsNonReprises">
+        <source>Les réglages d'une version plus ancienne n'ont pas pu être repris de “¿%” : ¿%.</source>
+        <extracomment>Told at the start. Placeholders: the place of an older version's settings, the reason.</extracomment>
+        <translation>De instellingen van een oudere versie konden niet worden overgenomen uit “¿%”: ¿%.</translation>
+    </message>
     <message id="Localisation.Pref_ChBoxAffBtnSpecA">
         <source>Afficher bouton “Spécial A”</source>
         <extracomment>Check box, room for 338 pixels: about 46 characters.</extracomment>

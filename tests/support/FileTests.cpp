@@ -3,7 +3,9 @@
 #include "tests/TemporaryFolder.h"
 #include "toolkit/Probe.h"
 
+#include <functional>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 namespace {
 
@@ -125,28 +127,75 @@ TEST_F(DataFolder, IsMadeAndFilledWithWhatOlderVersionsKept)
     EXPECT_TRUE(Fncts::DefDossAppDataPref()) << "no folder of preferences";
 }
 
-TEST_F(DataFolder, OlderDataThatCannotBeMovedStayAndTheProgramStarts)
+TEST_F(DataFolder, OlderDataComeFromAnotherFileSystemWholeOrAreTold)
 {
-    home_.File("config/Tarnivel/Tarnivel Prefs.txt", "old");
-    home_.File("data/Tarnivel/other", "x");
-    EXPECT_TRUE(Fncts::DefDossAppDataPref()) << "the name is taken";
-    EXPECT_EQ(home_.Content(folder_ / "other"), "x");
-    EXPECT_EQ(home_.Content("config/Tarnivel/Tarnivel Prefs.txt"), "old");
+    // The temporary folders lie on another file system than this one, where there are two.
+    const TemporaryFolder elsewhere("/dev/shm");
+    ::setenv("XDG_CONFIG_HOME", elsewhere.Path().c_str(), 1);
+    elsewhere.File("Tarnivel/Tarnivel Prefs.txt", "old");
+    elsewhere.File("Tarnivel/sub/file", "x");
+    EXPECT_TRUE(Fncts::DefDossAppDataPref());
+    EXPECT_EQ(home_.Content(folder_ / "Tarnivel Prefs.txt") + home_.Content(folder_ / "sub/file"), "oldx");
+    EXPECT_FALSE(fs::exists(elsewhere.Path() / "Tarnivel"));
+    fs::remove_all(folder_);
+    elsewhere.File("Tarnivel Prefs.txt", "oldest");
+    EXPECT_TRUE(Fncts::DefDossAppDataPref());
+    EXPECT_EQ(home_.Content(folder_ / "Tarnivel Prefs.txt"), "oldest");
+    EXPECT_FALSE(fs::exists(elsewhere.Path() / "Tarnivel Prefs.txt"));
+    EXPECT_TRUE(probe_.Asked.empty());
 
     fs::remove_all(folder_);
-    home_.File("data/Tarnivel/Tarnivel Prefs.txt", "same");
-    ::setenv("XDG_CONFIG_HOME", (home_.Path() / "data").c_str(), 1);
-    EXPECT_TRUE(Fncts::DefDossAppDataPref()) << "both folders are one";
-    EXPECT_EQ(home_.Content(folder_ / "Tarnivel Prefs.txt"), "same");
+    fs::create_directory(elsewhere.Path() / "Tarnivel");
+    home_.File("data/fr.Kavesti.Tarnivel Datas.part/in the way");
+    ASSERT_EQ(::mkfifo((elsewhere.Path() / "Tarnivel/fifo").c_str(), 0600), 0);
+    EXPECT_TRUE(Fncts::DefDossAppDataPref()) << "the program starts all the same";
+    ASSERT_EQ(probe_.Asked.size(), 1U);
+    EXPECT_NE(probe_.Asked.front().find((elsewhere.Path() / "Tarnivel").u32string()), String::npos);
+    EXPECT_TRUE(fs::exists(elsewhere.Path() / "Tarnivel/fifo"));
+}
+
+TEST_F(DataFolder, WhatIsNoFolderOrFileOfOursIsLeftAlone)
+{
+    const fs::path old = home_.Path() / "config/Tarnivel", oldest = home_.Path() / "config/Tarnivel Prefs.txt";
+    const std::pair<const char*, std::function<void()>> rows[] = {
+        {"a plain file in the folder's place", [&] { home_.File(old, "foreign"); }},
+        {"a link in the folder's place", [&] { fs::create_symlink(home_.Folder("foreign"), old); }},
+        {"a dead link", [&] { fs::create_symlink("nowhere", oldest); }},
+        {"a folder in the file's place", [&] { fs::create_directories(oldest); }},
+        {"one folder for both",
+         [&] {
+             home_.File("data/Tarnivel Prefs.txt", "same");
+             ::setenv("XDG_CONFIG_HOME", (home_.Path() / "data").c_str(), 1);
+         }},
+    };
+    for (const auto& [name, prepare] : rows) {
+        fs::remove_all(folder_);
+        fs::remove_all(old);
+        fs::remove_all(oldest);
+        prepare();
+        const bool hadOld = fs::exists(fs::symlink_status(old)), hadOldest = fs::exists(fs::symlink_status(oldest));
+        EXPECT_TRUE(Fncts::DefDossAppDataPref()) << name;
+        EXPECT_EQ(fs::exists(fs::symlink_status(old)), hadOld) << name;
+        EXPECT_EQ(fs::exists(fs::symlink_status(oldest)), hadOldest) << name;
+        EXPECT_EQ(home_.Content(folder_ / "Tarnivel Prefs.txt"), hadOld || hadOldest ? "" : "same") << name;
+    }
     EXPECT_TRUE(probe_.Asked.empty());
 }
 
 TEST_F(DataFolder, WithNoPlaceForItThereIsNone)
 {
+    const auto failure = [] { return Fncts::DefDossAppDataPref().failure; };
+    home_.File(folder_, "a file in its place");
+    EXPECT_EQ(failure().find(folder_.u32string() + U"\n"), 0U);
+    EXPECT_EQ(home_.Content(folder_), "a file in its place");
+    fs::remove(folder_);
+    fs::create_symlink(home_.Path() / "an unmounted disk", folder_);
+    EXPECT_EQ(failure().find((home_.Path() / "an unmounted disk").u32string() + U"\n"), 0U);
+    EXPECT_FALSE(fs::exists(home_.Path() / "an unmounted disk"));
     ::setenv("XDG_DATA_HOME", home_.File("file").c_str(), 1);
-    EXPECT_FALSE(Fncts::DefDossAppDataPref()) << "a file is in the place of the folder";
+    EXPECT_NE(failure(), U"") << "a file is in the place of the folder above";
     ::unsetenv("HOME");
-    EXPECT_FALSE(Fncts::DefDossAppDataPref());
+    EXPECT_NE(failure(), U"");
     EXPECT_FALSE(Fncts::DossierPref);
 }
 

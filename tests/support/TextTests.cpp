@@ -1,3 +1,4 @@
+#include "support/TextFiles.h"
 #include "support/TextHelpers.h"
 #include "toolkit/Probe.h"
 
@@ -22,6 +23,40 @@ TEST(NettoiBadEncod, KeepsTheBytesThatStandAlone)
     EXPECT_EQ(Fncts::NettoiBadEncod("a\xC3\xA9\xE2\x82\n\xFF\x7F", Encodings::UTF8), "a\n\x7F");
     const Bytes ascii(std::size_t{10} << 20, 'a');
     EXPECT_EQ(Fncts::NettoiBadEncod(ascii + '\xFF', Encodings::UTF8), ascii) << "in one pass";
+}
+
+TEST(Reading, TellsWhatTheTextLostAndWhatMakesItAnotherKind)
+{
+    using namespace std::string_literals;
+    struct Row {
+        Bytes data;
+        String text;
+        Int64 cleaned, first;
+        String firstLine, form;
+    };
+    const Row rows[] = {
+        {"été\n", U"été\n", 0, 0, U"", U""},
+        {"a\nd'\xE9t\xE9\nété\nb", U"a\nd't\nt\nb", 2, 2, U"d'\uFFFDt\uFFFD", U""},
+        {"\xFF", U"", 1, 1, U"\uFFFD", U""},
+        {"\xEF\xBB\xBF"
+         "a\r\n",
+         U"\uFEFFa\r\n", 0, 0, U"", U"BOM, CR LF"},
+        {"a\rb\r\n\r", U"a\rb\r\n\r", 0, 0, U"", U"CR LF, CR"},
+        {"\xFF\xFEI\0"s, U"I\0"s, 1, 1, U"\uFFFD\uFFFDI\0"s, U"UTF-16"},
+        {"\xFE\xFF\0I"s, U"\0I"s, 1, 1, U"\uFFFD\uFFFD\0I"s, U"UTF-16"},
+        {"I\0\n\0"s, U"I\0\n\0"s, 0, 0, U"", U"UTF-16"},
+        {"", U"", 0, 0, U"", U""},
+    };
+    for (const Row& row : rows) {
+        const Fncts::Reading reading = Fncts::TextOfBytes(row.data);
+        EXPECT_EQ(reading.text, row.text);
+        EXPECT_EQ(std::pair(reading.cleanedLines, reading.firstCleaned), std::pair(row.cleaned, row.first)) << row.data;
+        EXPECT_EQ(reading.firstCleanedLine, row.firstLine);
+        EXPECT_EQ(reading.form, row.form);
+    }
+    const Fncts::Reading unreadable = Fncts::LireFichier(FolderItem("/proc/self"));
+    EXPECT_TRUE(unreadable.text.empty() && !unreadable.failure.empty() && !unreadable.fingerprint);
+    EXPECT_EQ(Fncts::LireFichier(FolderItem("/nowhere")).failure, U"") << "a missing file has no fault";
 }
 
 } // namespace
