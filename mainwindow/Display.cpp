@@ -56,11 +56,7 @@ bool WinMain::AsksToLose(std::initializer_list<int> rows)
 {
     using namespace Localisation;
     if (std::ranges::none_of(rows, [this](int row) { return Document(row).Modified(); })) return true;
-    constexpr Int16 goesOn = 3;
-    Fncts::BeepNbT(1);
-    return Fncts::MyDialogBox(
-               {.message = Txt_TexteModifie(), .btnAction = Btn_Annuler(), .btnAlternate = Btn_Cont(), .win = this}) ==
-           goesOn;
+    return AsksToLose(Txt_TexteModifie(), Btn_Cont());
 }
 
 void WinMain::ReturnFocus(const DesktopUIControl& button)

@@ -16,7 +16,9 @@ using namespace Localisation;
 void WinMain::TexteProposer_Action()
 {
     const std::optional<FolderItem> spack = Fncts::GetFitemAbsPath(TextFieldSpack.Text(), false);
-    const Acceptance source = AcceptSceneryText(Fncts::LireFichier(spack));
+    const Fncts::Reading reading = Fncts::LireFichier(spack);
+    if (reading.cleanedLines > 0) Tell(Fncts::CleaningReport(reading, TextFieldSpack.Text()));
+    const Acceptance source = AcceptSceneryText(reading.text);
     if (!source.accepted) return Fncts::Refuser(ReplaceAll(Dit_SpackRefuse(), U"¿%", Dit_Vide()));
     const std::optional<FolderItem> file = Fncts::MyDialogSave(U"modele.ini", Txt_ChoisirModele(), this);
     if (!file) return;
@@ -26,6 +28,7 @@ void WinMain::TexteProposer_Action()
     const Proposal proposal = ProposeModel(source.text, *packs);
     TextFieldMod1.SetText(Fncts::AbsPath_f(*file, true));
     RadGrpSrc.SetSelectedIndex(0);
+    modelWasCleaned_ = reading.cleanedLines > 0;
     Document(rowModel).ReplaceText(proposal.model);
     PopMenuAff.SetSelectedRowIndex(rowModel);
     AffArea();

@@ -16,6 +16,15 @@ namespace {
 
 constexpr int fetchTimeout = 10;
 
+/// What is told of texts that are none as the program writes them, which the box of stars alone doesn't explain.
+String FormsOf(std::initializer_list<std::pair<String, String>> namesAndForms)
+{
+    String sentences;
+    for (const auto& [name, form] : namesAndForms)
+        if (!form.empty()) sentences += U" " + Fncts::Filled(Localisation::Txt_FormeTexte(), {name, form});
+    return sentences;
+}
+
 /// Replaces `text` by its accepted form, or by an error text: adds then to `refusals` the sentence `why` with the
 /// reason.
 void Accept(String& text, const String& why, std::vector<String>& refusals)
@@ -50,8 +59,7 @@ void WinMain::BtnRun_Pressed()
 void WinMain::TimerDebRun_Action()
 {
     DrapRun = true;
-    if (RadGrpSrc.SelectedIndex() == 0)
-        return RunSuite(Fncts::LireFichier(Fncts::GetFitemAbsPath(TextFieldMod1.Text(), false)));
+    if (RadGrpSrc.SelectedIndex() == 0) return RunSuite(ReadFile(Fncts::GetFitemAbsPath(TextFieldMod1.Text(), false)));
     const String url = TextFieldMod2.Text();
     if (BeginsWith(url, U"http://") || BeginsWith(url, U"https://"))
         return URLCnctLirePage.Send(U"Get", url, fetchTimeout);
@@ -59,15 +67,29 @@ void WinMain::TimerDebRun_Action()
     RunSuite({});
 }
 
-void WinMain::RunSuite(const String& model)
+Fncts::Reading WinMain::ReadFile(const std::optional<FolderItem>& file)
 {
+    Fncts::Reading reading = Fncts::LireFichier(file);
+    if (file) asRead_[file->Path()] = reading.fingerprint;
+    return reading;
+}
+
+void WinMain::RunSuite(Fncts::Reading model)
+{
+    const DesktopTextField& field = RadGrpSrc.SelectedIndex() == 0 ? TextFieldMod1 : TextFieldMod2;
+    modelWasCleaned_ = model.cleanedLines > 0;
+    if (modelWasCleaned_) Tell(Fncts::CleaningReport(model, field.Text()));
     SceneryTexts texts;
-    texts.TextModel = model;
+    texts.TextModel = std::move(model.text);
+    const bool isEmpty = texts.TextModel.empty();
     std::vector<String> refusals;
     Accept(texts.TextModel, Localisation::Dit_ModeleRefuse(), refusals);
-    if (model.empty()) refusals.back().append(U" (").append(Localisation::Dit_OffreModele()).append(U")");
+    if (isEmpty) refusals.back().append(U" (").append(Localisation::Dit_OffreModele()).append(U")");
     const std::optional<FolderItem> spack = Fncts::GetFitemAbsPath(TextFieldSpack.Text(), false);
-    texts.TextSrcSpack = Fncts::LireFichier(spack);
+    Fncts::Reading source = ReadFile(spack);
+    sourceWasCleaned_ = source.cleanedLines > 0;
+    if (sourceWasCleaned_) Tell(Fncts::CleaningReport(source, TextFieldSpack.Text()));
+    texts.TextSrcSpack = std::move(source.text);
     Accept(texts.TextSrcSpack, Localisation::Dit_SpackRefuse(), refusals);
     String sentence;
     if (refusals.empty()) {
@@ -79,7 +101,7 @@ void WinMain::RunSuite(const String& model)
     }
     ShowRun(texts);
     EndRun();
-    Fncts::Dire(sentence);
+    Fncts::Dire(sentence + FormsOf({{field.Text(), model.form}, {TextFieldSpack.Text(), source.form}}));
 }
 
 void WinMain::EndRun()

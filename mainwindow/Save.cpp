@@ -25,6 +25,14 @@ bool WinMain::AsksToContinue(StringView message, StringView button)
     return Fncts::MyDialogBox({.message = message, .btnAction = button, .btnCancel = Btn_Annuler(), .win = this}) == 1;
 }
 
+bool WinMain::AsksToLose(StringView message, StringView button)
+{
+    constexpr Int16 goesOn = 3;
+    Fncts::BeepNbT(1);
+    return Fncts::MyDialogBox({.message = message, .btnAction = Btn_Annuler(), .btnAlternate = button, .win = this}) ==
+           goesOn;
+}
+
 void WinMain::ActSaveFile()
 {
     // The archive bears the moment at which the user asked, however long the questions take.
@@ -37,10 +45,12 @@ void WinMain::ActSaveFile()
     if (!target) return Tell(Txt_ImpLocDossSauvFich());
 
     std::optional<FolderItem> archiveFolder;
-    if (!DecideOnArchive(*target, archiveFolder) || !ConfirmsSave(*target)) return;
+    if (!DecideOnArchive(*target, archiveFolder) || !ConfirmsSave(*target) || !ConfirmsLosses(*target)) return;
     std::optional<String> archived;
     if (archiveFolder && !Archive(*target, *archiveFolder, moment, archived)) return;
-    if (!Fncts::SauvFichier(*target, text)) return Tell(Txt_ErreurEcrNouvScen());
+    if (const Fncts::Outcome written = Fncts::SauvFichier(*target, text); !written)
+        return Tell(Txt_ErreurEcrNouvScen(), target->NativePath() + U"\n" + written.failure);
+    asRead_[target->Path()] = Fncts::TextOfBytes(Fncts::DefAppEncod.Encode(text)).fingerprint;
     Document(PopMenuAff.SelectedRowIndex()).SetUnmodified();
     Fncts::PlayT(Fncts::_x_Msg::Msg());
     String sentence = Fncts::Filled(Dit_Enregistre(), {Fncts::AbsPath_f(*target, true)});
@@ -60,10 +70,19 @@ bool WinMain::DecideOnArchive(const FolderItem& target, std::optional<FolderItem
 
 bool WinMain::ConfirmsSave(const FolderItem& target)
 {
-    const String question = Txt_SurSauv();
-    return AsksToContinue(Fncts::FracTexte(question, 1) + PopMenuAff.SelectedRowText() + Fncts::FracTexte(question, 2) +
-                              Fncts::AbsPath_f(target, true) + Fncts::FracTexte(question, 3),
+    return AsksToContinue(Fncts::Filled(Txt_SurSauv(), {PopMenuAff.SelectedRowText(), Fncts::AbsPath_f(target, true)}),
                           Btn_SauvFichier());
+}
+
+bool WinMain::ConfirmsLosses(const FolderItem& target)
+{
+    const int row = PopMenuAff.SelectedRowIndex();
+    const bool wasCleaned = (row != rowSource && modelWasCleaned_) || (row != rowModel && sourceWasCleaned_);
+    if (wasCleaned && !AsksToLose(Txt_SauvTexteAbime(), Btn_SauvFichier())) return false;
+    const auto known = asRead_.find(target.Path());
+    if (known == asRead_.end() || !target.Exists()) return true;
+    return Fncts::LireFichier(target).fingerprint == known->second ||
+           AsksToLose(Fncts::Filled(Txt_FichierChange(), {Fncts::AbsPath_f(target, true)}), Btn_SauvFichier());
 }
 
 bool WinMain::Archive(const FolderItem& target, const FolderItem& folder, const DateTime& moment,

@@ -121,6 +121,7 @@ void WinMain::BindHandlers()
     for (DesktopUIControl* const control : std::initializer_list<DesktopUIControl*>{
              &BtnEnabDis, &BtnAffDoss, &BtnSave, &PushButtCherch, &PushButtInitCherch, &PopMenuAff})
         control->SetFocusByTabAlone();
+    App::Current().SessionEnding = [this](const auto& mayAsk) { return Event_SessionEnding(mayAsk); };
     Opening = [this] { Event_Opening(); };
     CancelClosing = [this](bool appQuitting) { return Event_CancelClosing(appQuitting); };
     Activated = [this] {
@@ -153,7 +154,7 @@ void WinMain::BindHandlers()
         InRun([&] { RunSuite(Fncts::TextOfBytes(content)); });
     };
     URLCnctLirePage.Error = [this](const RuntimeException& error) {
-        InRun([&] { RunSuite(String(ErrorMarker) + ToText(error.ErrorNumber) + U" " + error.Message); });
+        InRun([&] { RunSuite({.text = String(ErrorMarker) + ToText(error.ErrorNumber) + U" " + error.Message}); });
     };
     PopMenuAff.SelectionChanged = [this] { PopMenuAff_SelectionChanged(); };
     StaticTextVersion.Pressed = [] { System::GotoURL(Addresses::VersionNotes); };
@@ -227,8 +228,8 @@ String WinMain::StartFailure() const
     const DesktopDisplay screen = DesktopDisplay::DisplayAt(0);
     if (screen.Width - margin < MinimumWidth() || screen.Height - margin < MinimumHeight())
         return U"The screen size is too small.";
-    if (!Fncts::DefDossAppDataPref()) return U"Impossible to create the Preferences folder.";
-    return {};
+    const Fncts::Outcome folder = Fncts::DefDossAppDataPref();
+    return folder ? U"" : U"Impossible to create the Preferences folder.\n" + folder.failure;
 }
 
 void WinMain::RefuseStart(StringView failure)
@@ -239,6 +240,7 @@ void WinMain::RefuseStart(StringView failure)
     Fncts::DrapMenu = true;
     Fncts::DossierPref.reset();
     Close();
+    App::Current().Quit(1);
 }
 
 /// A user's close is refused at first: it starts the timer, which quits the program, whose close then passes.
@@ -253,14 +255,31 @@ bool WinMain::Event_CancelClosing(bool appQuitting)
         return true;
     }
     if (!appQuitting) {
-        if (!App::Current().QuitsBySignal && !AsksToLose({rowModel, rowSource, rowDest})) return true;
-        if (SegButtSpecA.Selected(0) && winSpecA_) winSpecA_->Close();
-        if (Fncts::AinitProg) PrefsSauver();
-        App::Current().DrapOkQuit = true;
-        Fncts::DrapMenu = false;
+        if (!AsksToLose({rowModel, rowSource, rowDest})) return true;
+        KeepSettings();
     }
     TimerQuit.SetRunMode(Timer::RunModes::Single);
     return true;
+}
+
+bool WinMain::Event_SessionEnding(const std::function<bool()>& mayAsk)
+{
+    if (App::Current().DrapOkQuit) return true;
+    const bool isEdited = std::ranges::any_of(documents_, &TextDocument::Modified);
+    if (isEdited && mayAsk() && !AsksToLose({rowModel, rowSource, rowDest})) return false;
+    KeepSettings();
+    return true;
+}
+
+void WinMain::KeepSettings()
+{
+    // Before the saving, whose message lets a second request to quit come here.
+    App::Current().DrapOkQuit = true;
+    // Whatever is under way, the other window hands over what it holds.
+    Fncts::DrapMenu = true;
+    if (SegButtSpecA.Selected(0) && winSpecA_) winSpecA_->Close();
+    Fncts::DrapMenu = false;
+    if (Fncts::AinitProg) PrefsSauver();
 }
 
 void WinMain::SegButtSpecA_Pressed()

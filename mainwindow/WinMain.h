@@ -4,12 +4,14 @@
 #include "engine/Proposal.h"
 #include "engine/SceneryTexts.h"
 #include "mainwindow/Colouring.h"
+#include "preferences/PreferencesFile.h"
 #include "support/Covers.h"
 #include "toolkit/DesktopTextArea.h"
 #include "toolkit/Timer.h"
 #include "toolkit/URLConnection.h"
 
 #include <array>
+#include <map>
 
 class WinAide;
 class WinPrefs;
@@ -107,6 +109,9 @@ private:
     [[nodiscard]] String StartFailure() const;
     void RefuseStart(StringView failure);
     bool Event_CancelClosing(bool appQuitting);
+    bool Event_SessionEnding(const std::function<bool()>& mayAsk);
+    /// Writes the preferences, once, before the program ends.
+    void KeepSettings();
     void SegButtSpecA_Pressed();
     /// Opens the preferences; with Shift and Alt held down the folder that they lie in.
     void ApplePrefs_Action();
@@ -116,10 +121,13 @@ private:
     void PrefsCharger();
     /// Writes the preferences file from what the controls hold.
     void PrefsSauver() const;
+    /// The settings as the controls and the application hold them.
+    [[nodiscard]] Preferences ShownPreferences() const;
 
     // Run.cpp
     /// The second half of a run, wherever the model came from.
-    void RunSuite(const String& model);
+    void RunSuite(Fncts::Reading model);
+    Fncts::Reading ReadFile(const std::optional<FolderItem>& file);
     /// The run itself; what came of it, in a sentence.
     String Reorder(SceneryTexts& texts, const FolderItem& dossier);
     void EndRun();
@@ -132,9 +140,13 @@ private:
     // Save.cpp
     /// One question of a save: whether the user goes on.
     [[nodiscard]] bool AsksToContinue(StringView message, StringView button);
+    /// The same about what can't be had back: the default is not to go on.
+    [[nodiscard]] bool AsksToLose(StringView message, StringView button);
     /// Sets `folder` to where the old file is to be kept, or to nothing; false when the user gives up.
     [[nodiscard]] bool DecideOnArchive(const FolderItem& target, std::optional<FolderItem>& folder);
     [[nodiscard]] bool ConfirmsSave(const FolderItem& target);
+    /// Asks about what a save would lose; false when the user gives up.
+    [[nodiscard]] bool ConfirmsLosses(const FolderItem& target);
     /// Copies the old file and sets `name` to what the copy is called; false when that failed and the user gives up.
     [[nodiscard]] bool Archive(const FolderItem& target, const FolderItem& folder, const DateTime& moment,
                                std::optional<String>& name);
@@ -182,6 +194,11 @@ private:
     /// After a press by the mouse the keyboard is the text's again; a button that the Tab key led to keeps it.
     void ReturnFocus(const DesktopUIControl& button);
 
+    /// The last run's texts lost characters when they were read.
+    bool modelWasCleaned_ = false, sourceWasCleaned_ = false;
+    /// What the files held when they were last read or written here.
+    std::map<std::filesystem::path, std::optional<std::size_t>> asRead_;
+    std::optional<PreferencesFile> prefsFile_;
     // The other windows, from an opening to the next.
     std::unique_ptr<WinAide> winAide_;
     std::unique_ptr<WinPrefs> winPrefs_;

@@ -1,40 +1,11 @@
 #include "app/App.h"
 #include "mainwindow/WinMain.h"
-#include "preferences/Preferences.h"
 #include "support/Diagnostics.h"
-#include "support/FileHelpers.h"
 #include "support/Fncts.h"
 #include "support/Sounds.h"
-#include "support/TextFiles.h"
 #include "toolkit/Desktop.h"
-#include "toolkit/core/TextInputStream.h"
 
 namespace {
-
-constexpr StringView fileName = U"Tarnivel Prefs.txt";
-
-/// Bytes; far above any setting made by hand. A list of more empty texts than that would fill the memory.
-constexpr std::size_t longestLine = 8 << 20;
-
-/// What the file says; if reading fails, which is told to the user, what could be read until then.
-Preferences ReadPreferences(const FolderItem& file)
-{
-    Preferences preferences;
-    try {
-        TextInputStream stream = TextInputStream::Open(file);
-        for (bool isFirst = true; !stream.EndOfFile(); isFirst = false) {
-            const Bytes line = stream.ReadLine();
-            if (line.size() > longestLine) continue;
-            const String text = Fncts::TextOfBytes(line);
-            // An editor may have left the mark of UTF-8 at the start.
-            ReadPreference(preferences, isFirst && text.starts_with(U'\uFEFF') ? Middle(text, 1) : text);
-        }
-    } catch (const std::exception&) {
-        Fncts::BeepNbT(3);
-        TellAuthorsShortly(U"PrefsCharger, problem while reading file!");
-    }
-    return preferences;
-}
 
 void SetField(DesktopTextField& field, const std::optional<String>& text)
 {
@@ -45,15 +16,15 @@ void SetField(DesktopTextField& field, const std::optional<String>& text)
 
 void WinMain::PrefsCharger()
 {
-    const std::optional<FolderItem> file = Fncts::DossierPref->Child(fileName, true);
-    Preferences preferences = file && file->Exists() ? ReadPreferences(*file) : Preferences();
+    PreferencesFile& file = prefsFile_.emplace(*Fncts::DossierPref);
+    Preferences preferences = file.Settings();
     Fncts::AffHelpTag = preferences.AffHelpTag.value_or(true);
     Fncts::CtrlFenetrOuv({this});
     // Beeps last; a broken file is not to hold up the start.
     constexpr int mostRefusals = 5;
-    for (int refused = 0; refused < std::min(preferences.sourceModel.refused, mostRefusals); ++refused)
+    for (int refused = 0; refused < std::min(file.Refused(), mostRefusals); ++refused)
         Fncts::BeepNbT(3);
-    if (preferences.sourceModel.index) RadGrpSrc.SetSelectedIndex(*preferences.sourceModel.index);
+    if (preferences.sourceModel) RadGrpSrc.SetSelectedIndex(*preferences.sourceModel);
     SetField(TextFieldMod1, preferences.modelFile);
     SetField(TextFieldMod2, preferences.modelUrl);
     ChBoxArchiv.SetValue(preferences.archive);
@@ -77,20 +48,20 @@ void WinMain::PrefsCharger()
     SetWidth(geometry.width);
     // The status bar is to be seen, even where the place is the whole screen or was kept without one.
     SetHeight(std::min<int>(geometry.height, screen.Height - geometry.top - StatusHeight()));
+    file.ShownAs(ShownPreferences());
 }
 
-void WinMain::PrefsSauver() const
+Preferences WinMain::ShownPreferences() const
 {
-    if (!Fncts::PasNil_Existe_Alias(Fncts::DossierPref, true)) return;
     App& app = App::Current();
     const WindowPlace place = RestoredPlace();
     const DesktopDisplay screen = DesktopDisplay::DisplayAt(0);
-    const String text = WritePreferences({
+    return {
         .DrapAffBtnSpecA = app.DrapAffBtnSpecA,
         .archive = ChBoxArchiv.Value(),
         .volume = app.DefVolSon(),
         .geometry = WithinScreen(place.left, place.top, place.width, place.height, screen.Width, screen.Height),
-        .sourceModel = {.index = RadGrpSrc.SelectedIndex()},
+        .sourceModel = RadGrpSrc.SelectedIndex(),
         .modelFile = TextFieldMod1.Text(),
         .modelUrl = TextFieldMod2.Text(),
         .archiveFolder = TextFieldArchiv.Text(),
@@ -100,9 +71,15 @@ void WinMain::PrefsSauver() const
         .TabSpecAorg = app.TabSpecAorg,
         .TabSpecAdest1 = app.TabSpecAdest1,
         .TabSpecAdest2 = app.TabSpecAdest2,
-    });
-    const std::optional<FolderItem> file = Fncts::DossierPref->Child(fileName, true);
-    if (file && Fncts::SauvFichier(*file, text)) return;
+    };
+}
+
+void WinMain::PrefsSauver() const
+{
+    if (!prefsFile_) return;
+    const Fncts::Outcome written = prefsFile_->Write(ShownPreferences());
+    if (written) return;
     Fncts::BeepNbT(3);
-    TellAuthorsShortly(U"PrefsSauver, problem while writing file!");
+    TellAuthorsShortly(Join(
+        {{U"PrefsSauver, problem while writing file!", Fncts::DossierPref->NativePath(), written.failure}}, U"\n"));
 }

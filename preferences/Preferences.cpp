@@ -17,38 +17,58 @@ Int64 Integer(StringView value)
     return std::abs(number) < limit ? static_cast<Int64>(number) : 0;
 }
 
-void Read(bool& field, StringView value) { field = SameText(value, U"True"); }
-void Read(Int16& field, StringView value) { field = static_cast<Int16>(Integer(value)); }
-void Read(String& field, StringView value) { field = value; }
+// Each gives the field its value, and is false for one that is passed over.
 
-void Read(std::vector<String>& field, StringView value)
+bool Read(bool& field, StringView value)
 {
-    field.clear();
-    if (value.empty()) return;
-    for (const StringView element : Split(value, tab))
-        field.emplace_back(element);
+    field = SameText(value, U"True");
+    return true;
 }
 
-void Read(WindowGeometry& field, StringView value)
+bool Read(Int16& field, StringView value)
+{
+    field = static_cast<Int16>(Integer(value));
+    return true;
+}
+
+bool Read(String& field, StringView value)
+{
+    field = value;
+    return true;
+}
+
+bool Read(std::vector<String>& field, StringView value)
+{
+    field.clear();
+    if (value.empty()) return true;
+    for (const StringView element : Split(value, tab))
+        field.emplace_back(element);
+    return true;
+}
+
+bool Read(WindowGeometry& field, StringView value)
 {
     Int64 number = 0;
     for (Int16* const part : {&field.left, &field.top, &field.width, &field.height})
         Read(*part, NthField(value, U",", ++number));
+    return true;
 }
 
-void Read(SourceModel& field, StringView value)
+/// The source of the model.
+bool Read(std::optional<int>& field, StringView value)
 {
     const Int64 index = Integer(value);
-    if (index == 0 || index == 1)
-        field.index = static_cast<int>(index);
-    else
-        ++field.refused;
+    if (index != 0 && index != 1) return false;
+    field = static_cast<int>(index);
+    return true;
 }
 
-void Read(std::optional<String>& field, StringView value)
+bool Read(std::optional<String>& field, StringView value)
 {
     constexpr std::size_t longest = 65'536;
-    if (value.size() <= longest) field = value;
+    if (value.size() > longest) return false;
+    field = value;
+    return true;
 }
 
 String Write(bool field) { return field ? U"True" : U"False"; }
@@ -58,7 +78,7 @@ String Write(const std::vector<String>& field)
 {
     return Join(std::vector<StringView>(field.begin(), field.end()), tab);
 }
-String Write(const SourceModel& field) { return ToText(field.index.value_or(0)); }
+String Write(const std::optional<int>& field) { return ToText(field.value_or(0)); }
 
 /// A pasted line end would break the file into other lines.
 String Write(const std::optional<String>& field) { return ReplaceLineEndings(field.value_or(String()), U""); }
@@ -70,15 +90,24 @@ String Write(const WindowGeometry& field)
 
 struct Key {
     StringView name;
-    void (*read)(Preferences& preferences, StringView value);
+    bool (*read)(Preferences& preferences, StringView value);
     String (*write)(const Preferences& preferences);
+    void (*copy)(const Preferences& from, Preferences& to);
+    /// A setting of the replacement table, whose columns go together.
+    bool isOfTable;
+
+    [[nodiscard]] bool Differs(const Preferences& left, const Preferences& right) const
+    {
+        return write(left) != write(right);
+    }
 };
 
 template <auto Field>
 constexpr Key Setting(StringView name)
 {
-    return {name, [](Preferences& preferences, StringView value) { Read(preferences.*Field, value); },
-            [](const Preferences& preferences) { return Write(preferences.*Field); }};
+    return {name, [](Preferences& preferences, StringView value) { return Read(preferences.*Field, value); },
+            [](const Preferences& preferences) { return Write(preferences.*Field); },
+            [](const Preferences& from, Preferences& to) { to.*Field = from.*Field; }, name.starts_with(U"TabSpecA")};
 }
 
 /// In the order in which they are written.
@@ -101,14 +130,31 @@ constexpr std::array keys = {
 
 } // namespace
 
-void ReadPreference(Preferences& preferences, StringView line)
+bool ReadPreference(Preferences& preferences, StringView line)
 {
     const Int64 end = IndexOf(line, separator);
-    if (end < 0) return;
+    if (end < 0) return true;
     const StringView name = Left(line, end), value = Middle(line, end + std::ssize(separator));
     if (SameText(name, U"Afficher HelpTag") && !preferences.AffHelpTag) Read(preferences.AffHelpTag.emplace(), value);
-    for (const Key& key : keys)
-        if (SameText(key.name, name)) return key.read(preferences, value);
+    const auto* const key = std::ranges::find_if(keys, [name](const Key& each) { return SameText(each.name, name); });
+    return key == keys.end() || key->read(preferences, value);
+}
+
+Preferences MergedPreferences(const Preferences& ours, const Preferences& oursBefore, const Preferences& theirs,
+                              const Preferences& theirsBefore)
+{
+    const auto isOurs = [&](const Key& key) { return key.Differs(ours, oursBefore); };
+    const auto isTheirs = [&](const Key& key) { return key.Differs(theirs, theirsBefore); };
+    const bool tableIsOurs = std::ranges::any_of(keys, [&](const Key& key) { return key.isOfTable && isOurs(key); });
+    const bool tableIsTheirs =
+        std::ranges::any_of(keys, [&](const Key& key) { return key.isOfTable && isTheirs(key); });
+    Preferences merged = ours;
+    for (const Key& key : keys) {
+        const bool changedHere = key.isOfTable ? tableIsOurs : isOurs(key);
+        const bool changedThere = key.isOfTable ? tableIsTheirs : isTheirs(key);
+        if (changedThere && !changedHere) key.copy(theirs, merged);
+    }
+    return merged;
 }
 
 String WritePreferences(const Preferences& preferences)

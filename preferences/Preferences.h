@@ -16,14 +16,6 @@ struct WindowGeometry {
     bool operator==(const WindowGeometry&) const = default;
 };
 
-/// Where the model comes from.
-struct SourceModel {
-    /// 0 the model file, 1 the model URL.
-    std::optional<int> index = {};
-    /// How many lines gave another number. They were passed over.
-    int refused = 0;
-};
-
 /// What the file says; an optional without a value leaves its control as it is.
 struct Preferences {
     /// The old key: of this one the first line counts.
@@ -32,7 +24,8 @@ struct Preferences {
     /// Percent; -1 stands for none.
     Int16 volume = -1;
     WindowGeometry geometry;
-    SourceModel sourceModel;
+    /// Where the model comes from: 0 the model file, 1 the model URL.
+    std::optional<int> sourceModel;
     std::optional<String> modelFile, modelUrl, archiveFolder, spackFile;
     /// Points.
     Int16 WspecAheight = 0;
@@ -40,10 +33,16 @@ struct Preferences {
     std::vector<String> TabSpecAorg, TabSpecAdest1, TabSpecAdest2;
 };
 
-/// Takes over the setting of one line of a preferences file, after those of the lines before it; it never fails.
+/// Takes over the setting of one line of a preferences file, after those of the lines before it.
 ///
-/// A path or an address of more than 65,536 characters is passed over: no field could show it in good time.
-void ReadPreference(Preferences& preferences, StringView line);
+/// False for a value that is passed over: a source of the model other than 0 and 1, and a path or an address of more
+/// than 65,536 characters, which no field could show in good time.
+bool ReadPreference(Preferences& preferences, StringView line);
+
+/// Our settings, with what another program has changed meanwhile and we haven't. The columns of the replacement table
+/// stay together.
+Preferences MergedPreferences(const Preferences& ours, const Preferences& oursBefore, const Preferences& theirs,
+                              const Preferences& theirsBefore);
 
 /// The whole file: a line for each setting, in a fixed order. Line ends inside the four paths and addresses of the main
 /// window are left out; the old key of `AffHelpTag` is not written.

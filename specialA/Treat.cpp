@@ -50,7 +50,15 @@ void WinSpecA::PushButtTrait_Pressed()
 
 void WinSpecA::TreatOriginal()
 {
-    const String original = Fncts::LireFichier(FichOrg);
+    const Fncts::Reading reading = Fncts::LireFichier(FichOrg);
+    const String& original = reading.text;
+    if (reading.cleanedLines > 0) {
+        Fncts::BeepNbT(1);
+        const String lost = Fncts::CleaningReport(reading, FichOrg->NativePath());
+        if (Fncts::MyDialogBox(
+                {.message = lost, .btnAction = Btn_Annuler(), .btnAlternate = Btn_Cont(), .win = this}) != 3)
+            return;
+    }
     FaireTab();
     const Treatment treated = TreatVisibly(original);
     if (Ask(Txt_NbTrouv() + treated.report, Btn_Cont(), Btn_Arreter()) != 1) return;

@@ -53,33 +53,98 @@ def check_ways(command, files):
         assert f"TabSpecAdest1 :@: dest{number}\t" in kept, (way, kept)
 
 
+def run_from(program, address):
+    program.act(program.find("radio button", "Url modèle"))
+    program.set_text(program.find("text", "Url modèle"), address)
+    program.press("Générer")
+
+
 def check_busy(command, files):
-    """Close box, Ctrl+Q and SIGTERM leave a run, and then a dialog, as they are. A stopped run leaves nothing behind."""
+    """Close box and Ctrl+Q leave a run, and then a dialog, as they are. A stopped run leaves nothing behind."""
     server = Server(files.model_file.read_bytes())
     with Program([command], private_environment(files.home)) as program:
-        program.act(program.find("radio button", "Url modèle"))
-        program.set_text(program.find("text", "Url modèle"), server.url("/hang"))
-
-        def try_to_quit():
-            program.keys("ctrl+q")
-            program.process.send_signal(signal.SIGTERM)
-
-        program.press("Générer")
+        run_from(program, server.url("/hang"))
         program.wait_for("a hanging fetch", server.hanging.is_set)
-        program.keys("alt+F4")
-        try_to_quit()
+        program.keys("alt+F4", "ctrl+q")
         program.press("Arrêter")
         program.find("push button", "Générer")
         assert program.text(program.find("text", "Spack Après")) == ""
-        program.set_text(program.find("text", "Url modèle"), server.url("/model.ini"))
-        program.press("Générer")
+        run_from(program, server.url("/model.ini"))
         program.dialog()
-        try_to_quit()
+        program.keys("ctrl+q")
         program.answer_until("Générer")
         assert files.is_in_model_order(program.text(program.find("text", "Spack Après")))
         assert program.close() == 0
     server.ended.set()
     server.shutdown()
+
+
+def fetch(program, server):
+    run_from(program, server.url("/hang"))
+    program.wait_for("a hanging fetch", server.hanging.is_set)
+
+
+def report(program, server):
+    run_from(program, server.url("/model.ini"))
+    program.dialog()
+
+
+def question(program, server):
+    report(program, server)
+    program.answer_until("Générer")
+    program.press("Sauv fichier")
+    program.dialog()
+
+
+def chooser(program, _server):
+    program.keys("ctrl+o")
+    program.dialog()
+
+
+def preferences(program, _server):
+    program.keys("ctrl+comma")
+    program.front = "Préférences"
+    program.act(program.find("check box"))
+
+
+def help_window(program, _server):
+    program.press("Aide")
+    program.wait_for("the help", lambda: window_named("^Aide$"))
+
+
+def message(program, server):
+    """The settings can't be written: what is told of it waits for an answer, and a second signal asks nothing anew."""
+    files = server.files
+    files.preferences.parent.rename(files.preferences.parent.with_name("away"))
+    program.keys("ctrl+q")
+    program.dialog()
+    files.preferences.parent.with_name("away").rename(files.preferences.parent)
+
+
+SIGNALS = (signal.SIGTERM, signal.SIGHUP, signal.SIGINT)
+
+
+def check_signals(command, files):
+    """A signal ends whatever is under way, as if cancelled, and the settings are kept."""
+    before = files.source_file.read_bytes()
+    for number, make_busy in enumerate((fetch, report, question, chooser, preferences, help_window, message)):
+        server = Server(files.model_file.read_bytes())
+        server.files = files
+        with Program([command], private_environment(files.home)) as program:
+            use_special(program, f"busy{number}")
+            program.wait_for("the main window in front", lambda: xdotool("windowactivate", window_named("^Tarnivel$")) == "")
+            make_busy(program, server)
+            start = time.monotonic()
+            for _ in range(2):
+                program.process.send_signal(SIGNALS[number % len(SIGNALS)])
+            assert program.wait_for_end() == 0, make_busy
+            print(f"{make_busy.__name__}: {time.monotonic() - start:.2f} s")
+        kept = files.preferences.read_text("utf-8")
+        assert (f"TabSpecAdest1 :@: busy{number}\t" in kept) == (make_busy != message), (make_busy, kept)
+        assert "Afficher Bouton Special A :@: True" in kept, "the preferences were cancelled"
+        assert files.source_file.read_bytes() == before
+        server.ended.set()
+        server.shutdown()
 
 
 def ask_for_log_out():
@@ -113,9 +178,11 @@ def check_log_out(command, files):
 
 
 def main(command):
+    signal.signal(signal.SIGINT, signal.SIG_DFL)  # a shell's job in the background inherits it ignored
     with sample() as files:
         check_ways(command, files)
         check_busy(command, files)
+        check_signals(command, files)
         check_log_out(command, files)
 
 

@@ -4,7 +4,6 @@
 #include "tests/faults/FileFaults.h"
 #include "tests/mainwindow/MainWindowTest.h"
 
-#include <algorithm>
 #include <map>
 
 /// A file of some 9 KB whose lines begin with `letter`.
@@ -46,16 +45,10 @@ protected:
         return contents;
     }
 
-    /// The new text came so far, and what follows is not replaced yet, or not yet cut off.
-    bool IsUnderWay(const std::string& content) const
+    /// What is in the folder of a file beside it.
+    static std::ptrdiff_t Leftovers(const std::filesystem::path& file)
     {
-        const auto came = static_cast<std::size_t>(std::ranges::mismatch(content, fresh).in1 - content.begin());
-        return came == content.size() || content.substr(came) == old.substr(came) || IsBlankAfter(content, fresh);
-    }
-
-    static bool IsBlankAfter(const std::string& content, const std::string& text)
-    {
-        return content.starts_with(text) && content.find_first_not_of('\n', text.size()) == content.npos;
+        return std::distance(std::filesystem::directory_iterator(file.parent_path()), {}) - 1;
     }
 
     const std::string old = Lines('o'), fresh = Lines('n', 450);

@@ -2,6 +2,7 @@
 #include "support/FileHelpers.h"
 #include "tests/faults/FaultTest.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 
@@ -15,11 +16,11 @@ const StringView copyFailed = U"Erreur pendant la copie de l'ancien", writeFaile
                  notReplaced = U"Remplacement impossible !",
                  notFound = U"Nombre de fois où les textes cherchés ont été trouvés :\n • 0 x";
 
-/// These may fail in silence: the close after reading, the search for another form of a name, and the question whether
-/// there is room.
+/// These may fail in silence: a close after reading or when the file is in its place, the search for another form of a
+/// name, and the removal of what an earlier program left.
 bool IsHarmless(const std::string& call)
 {
-    return call.starts_with("close reading") || call.starts_with("openat") || call.starts_with("fallocate");
+    return call.starts_with("close") || call.starts_with("openat") || call.starts_with("unlink");
 }
 
 class Faults : public FaultTest {
@@ -27,6 +28,7 @@ protected:
     std::vector<std::string> Attempt(const Fault& fault, const std::function<void()>& act)
     {
         Reset();
+        if (prepare) prepare();
         probe.Asked.clear();
         FileFaults faults(folder.Path(), fault);
         act();
@@ -46,12 +48,18 @@ protected:
                 SCOPED_TRACE(calls[call - 1] + (forGood ? " and all after it: " : ": ") + std::strerror(error));
                 Attempt({static_cast<int>(call), error, forGood}, act);
                 check(forGood);
-                EXPECT_TRUE(IsHarmless(calls[call - 1]) || probe.Asked != asked) << "nobody was told";
+                // A file is opened to be locked, and again to be read.
+                const bool locks =
+                    call < calls.size() && calls[call] == calls[call - 1] && calls[call].starts_with("open");
+                EXPECT_TRUE(locks || IsHarmless(calls[call - 1]) || probe.Asked != asked) << "nobody was told";
             }
         }
         Attempt({}, act);
         check(false);
     }
+
+    /// Brings the program into the state that each attempt begins with.
+    std::function<void()> prepare;
 
     std::ptrdiff_t Told(StringView message) const
     {
@@ -62,6 +70,15 @@ protected:
 TEST_F(Faults, OfASaveAreToldAndLeaveTheOldFileInOnePlaceOrTheOther)
 {
     OpenAndFill();
+    // The file is as it was when it was written here last.
+    prepare = [this] {
+        window->ChBoxArchiv.SetValue(false);
+        probe.Answers = {1, 3};
+        window->TextAreaAff.SetText(Encodings::UTF8.Decode(old));
+        window->BtnSave_Pressed();
+        window->ChBoxArchiv.SetValue(true);
+        window->TextAreaAff.SetText(Encodings::UTF8.Decode(fresh));
+    };
     for (const int answer : {1, 2}) {
         SCOPED_TRACE(answer == 1 ? "goes on without archive" : "gives up without archive");
         const auto act = [&] {
@@ -69,12 +86,10 @@ TEST_F(Faults, OfASaveAreToldAndLeaveTheOldFileInOnePlaceOrTheOther)
             window->BtnSave_Pressed();
         };
         ForEachFault(act, [&](bool forGood) {
-            const bool noArchive = Told(copyFailed) > 0, written = !noArchive || answer == 1;
-            const std::string content = folder.Content(target);
-            if (!written || Told(writeFailed) == 0)
-                EXPECT_EQ(content, written ? fresh : old);
-            else
-                EXPECT_TRUE(content == old || (forGood ? IsUnderWay(content) : fresh.starts_with(content)));
+            const bool unsure = Told(U"“Linux:") > 0, noArchive = unsure || Told(copyFailed) > 0;
+            const bool written = !unsure && (!noArchive || answer == 1);
+            EXPECT_EQ(folder.Content(target), written && Told(writeFailed) == 0 ? fresh : old);
+            EXPECT_TRUE(forGood || Leftovers(target) == 0);
             // Half a copy is taken away again, where that is possible.
             EXPECT_TRUE((noArchive && forGood) || Archives() == std::vector(noArchive ? 0 : 1, old));
             EXPECT_TRUE(Fncts::DrapMenu);
@@ -95,23 +110,25 @@ TEST_F(Faults, OfThePreferencesAreToldAndLeaveTheOldOrTheNewOnes)
     Attempt({}, act);
     const std::string written = folder.Content(preferences);
     ASSERT_LT(written.size(), oldPreferences.size());
-    ForEachFault(act, [&](bool) {
-        const std::string content = folder.Content(preferences);
-        const bool told = Told(preferencesFailed) > 0;
-        EXPECT_TRUE(told ? content == oldPreferences || IsBlankAfter(content, written) : content == written) << content;
+    ForEachFault(act, [&](bool forGood) {
+        EXPECT_EQ(folder.Content(preferences), Told(preferencesFailed) > 0 ? oldPreferences : written);
+        const bool kept = Told(U"Error ! Please contact the authors.\nPrefsCharger") > 0;
+        EXPECT_TRUE(forGood || Leftovers(preferences) == (kept ? 1 : 0));
+        EXPECT_TRUE(!kept || folder.Content(preferences.parent_path() / "Tarnivel Prefs 1.txt") == oldPreferences ||
+                    Told(preferencesFailed) > 0);
     });
 }
 
-TEST_F(Faults, OfAnOlderDataFolderThatKeepsItsNameAreTold)
+TEST_F(Faults, OfAnOlderDataFolderThatKeepsItsPlaceAreTold)
 {
     setenv("XDG_CONFIG_HOME", (folder.Path() / "config").c_str(), 1);
     before = {{folder.Path() / "config/Tarnivel/Tarnivel Prefs.txt", "old"}, {folder.Path() / "data/other", ""}};
     const auto act = [] { Fncts::DefDossAppDataPref(); };
     const std::vector<std::string> calls = Attempt({}, act);
-    const auto renaming = std::ranges::find(calls, "rename /data/Tarnivel") - calls.begin();
+    const auto renaming = std::ranges::find(calls, "rename /config/Tarnivel") - calls.begin();
     Attempt({static_cast<int>(renaming) + 1, EACCES}, act);
-    EXPECT_EQ(Told(U"Error ! Please contact the authors.\nDefDossAppDataPref"), 1);
-    EXPECT_EQ(folder.Content("data/Tarnivel/Tarnivel Prefs.txt"), "old");
+    EXPECT_EQ(Told(U"Les réglages d'une version plus ancienne n'ont pas pu être repris"), 1);
+    EXPECT_EQ(folder.Content("config/Tarnivel/Tarnivel Prefs.txt"), "old");
 }
 
 TEST_F(Faults, OfATreatmentAreToldForEachVariant)

@@ -86,14 +86,7 @@ ssize_t write(int file, const void* data, size_t size)
     return Call<decltype(write)>("write", PathOf(file), file, data, Portion(file, size));
 }
 int fsync(int file) { return Call<decltype(fsync)>("fsync", PathOf(file), file); }
-int ftruncate(int file, off_t size) noexcept
-{
-    return Call<decltype(ftruncate)>("ftruncate", PathOf(file), file, size);
-}
-int fallocate(int file, int mode, off_t start, off_t size)
-{
-    return Call<decltype(fallocate)>("fallocate", PathOf(file), file, mode, start, size);
-}
+int fchmod(int file, mode_t mode) noexcept { return Call<decltype(fchmod)>("fchmod", PathOf(file), file, mode); }
 int close(int file)
 {
     const bool reads = (::fcntl(file, F_GETFL) & O_ACCMODE) == O_RDONLY;

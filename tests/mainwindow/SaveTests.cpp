@@ -43,12 +43,30 @@ protected:
         window->BtnSave_Pressed();
         std::vector<String> wanted = asked;
         std::ranges::replace(wanted, sure, Question());
+        CutReason();
         EXPECT_EQ(probe.Asked, wanted);
         EXPECT_EQ(probe.Beeps, std::ssize(wanted)) << "each question beeps once";
         EXPECT_EQ(folder.Content(target), content);
         EXPECT_EQ(Archives(), std::vector<std::string>(archives, "old"));
         const bool written = asked.back() == sure && content != "old";
         EXPECT_EQ(probe.Sounds, written ? std::vector<String>{U"Msg.wav"} : std::vector<String>{});
+    }
+
+    /// Cuts off what follows the message of a failed write: the path and the reason.
+    void CutReason()
+    {
+        String& last = probe.Asked.back();
+        const std::size_t reason = last.find(U'\n');
+        if (!last.starts_with(U"Erreur pendant l'écriture")) return;
+        EXPECT_EQ(last.find(target.u32string() + U"\n"), reason + 1);
+        last.erase(reason, last.find(U'[') - reason);
+    }
+
+    [[nodiscard]] static String Changed(const fs::path& file)
+    {
+        return U"“" + Fncts::AbsPath_f(FolderItem(file), false) +
+               U"” a changé sur le disque depuis qu'il a été lu. L'enregistrement fera perdre ces changements."
+               U"[Annuler][Sauv fichier]";
     }
 
     /// What the archives hold, in an order of its own.
@@ -88,11 +106,55 @@ TEST_F(Saving, EachViewGoesToItsFileAsItWasRead)
         View(view);
         folder.File(modelFile, "old");
         folder.File(target, "old");
+        probe.Answers = {1, 0};
+        window->BtnSave_Pressed();
+        EXPECT_EQ(folder.Content(modelFile) + folder.Content(target), "oldold") << "no answer but the last writes";
         probe.Asked.clear();
+        probe.Answers = {1, 3};
         window->BtnSave_Pressed();
         EXPECT_EQ(folder.Content(modelFile), view == 0 ? model : "old");
         EXPECT_EQ(folder.Content(target), view == 0 ? "old" : views[view]);
-        EXPECT_EQ(probe.Asked, std::vector{Question(window->PopMenuAff.SelectedRowText())});
+        const String question = Question(window->PopMenuAff.SelectedRowText());
+        EXPECT_EQ(probe.Asked, (std::vector{question, Changed(view == 0 ? modelFile : target)}));
+        probe.Asked.clear();
+        window->BtnSave_Pressed();
+        EXPECT_EQ(probe.Asked, std::vector{question}) << "what was written here is no surprise";
+    }
+    fs::remove(target);
+    probe.Asked.clear();
+    window->BtnSave_Pressed();
+    EXPECT_EQ(probe.Asked.size(), 1U) << "nothing is there to be lost";
+}
+
+TEST_F(Saving, ATextThatLostCharactersIsAskedAboutWhereverTheyWent)
+{
+    const std::string good = header + "SCENERY_PACK d'été/\n"s,
+                      bad = header + "SCENERY_PACK L\xE9man/\nSCENERY_PACK d'été/\n"s;
+    window->ChBoxArchiv.SetValue(false);
+    Choose(window->TextFieldMod1, folder.Path() / "model.ini");
+    for (const auto& [model, source, asked] : {std::tuple(good, good, std::array{false, false, false}),
+                                               {bad, good, {true, false, true}},
+                                               {good, bad, {false, true, true}}}) {
+        folder.File("model.ini", model);
+        folder.File(target, source);
+        probe.Asked.clear();
+        Run();
+        const String lost = U"“" + (model == bad ? window->TextFieldMod1 : window->TextFieldSpack).Text() +
+                            U"” contient des octets qui ne sont pas de l'UTF-8. Les caractères non ASCII en ont été "
+                            U"retirés, dans 2 ligne(s). La première est la ligne 4 :\nSCENERY_PACK L\uFFFDman/[Ok]";
+        EXPECT_EQ(std::ranges::count(probe.Asked, lost), model == source ? 0 : 1);
+        for (const int view : {0, 1, 2}) {
+            View(view);
+            probe.Asked.clear();
+            probe.Answers = {2};
+            if (asked[static_cast<std::size_t>(view)]) probe.Answers.push_front(1);
+            const std::size_t questions = probe.Answers.size();
+            window->BtnSave_Pressed();
+            EXPECT_EQ(probe.Asked.size(), questions) << view;
+            EXPECT_EQ(probe.Asked.back().ends_with(U"L'enregistrer quand même ?[Annuler][Sauv fichier]"),
+                      questions == 2);
+            EXPECT_EQ(folder.Content(target), source);
+        }
     }
 }
 
@@ -150,6 +212,7 @@ TEST_F(Saving, AnArchiveThatCanNotBeMadeIsNeverPassedInSilence)
     EXPECT_EQ(probe.Asked, (std::vector<String>{Question(), copyFailed}));
     probe.Asked.clear();
     window->BtnSave_Pressed();
+    CutReason();
     EXPECT_EQ(probe.Asked, (std::vector<String>{Question(), copyFailed, writeFailed}));
     EXPECT_TRUE(fs::is_fifo(target));
 }
@@ -161,6 +224,7 @@ TEST_F(Saving, AnArchiveIsNeverOverwritten)
     for (int save = 0; save < 100 && (probe.Asked.empty() || probe.Asked.back() != copyFailed); ++save) {
         before = Archives();
         folder.File(target, std::to_string(save));
+        if (save > 0) probe.Answers = {1, 3}; // the file has changed
         window->BtnSave_Pressed();
     }
     EXPECT_EQ(probe.Asked.back(), copyFailed);

@@ -26,6 +26,8 @@ TEST_F(MainWindow, ARefusedTextStandsWhereItsViewIs)
         const char* model;
         const char* source;
         String views[3];
+        /// What the status line names of the model and of the source.
+        StringView forms[2] = {};
     };
     const String refused =
         U"### Error ###  Content should begin with :\nI\n1000 version\nSCENERY\n\n" + String(89, U'*') + U"\n";
@@ -34,23 +36,34 @@ TEST_F(MainWindow, ARefusedTextStandsWhereItsViewIs)
         {"the model has another header",
          "x\r\n",
          "I\n1000 VERSION\nSCENERY_X\r\ny\r",
-         {refused + U"x\r\n", U"I\n1000 VERSION\nSCENERY_X\ny\n", U"### Error ###"}},
+         {refused + U"x\r\n", U"I\n1000 VERSION\nSCENERY_X\ny\n", U"### Error ###"},
+         {U"CR LF", U"CR LF, CR"}},
         {"the source begins with a byte-order mark and holds bad bytes",
          header,
          "\xEF\xBB\xBFI\n1000 version\nSCENERY\nab\xFF"
          "c",
-         {U"I\n1000 version\nSCENERY\n", U"I\n1000 version\nSCENERY\nabc", U"I\n1000 version\nSCENERY\nabc\n"}},
+         {U"I\n1000 version\nSCENERY\n", U"I\n1000 version\nSCENERY\nabc", U"I\n1000 version\nSCENERY\nabc\n"},
+         {U"", U"BOM"}},
     };
     Open();
     for (const Row& row : rows) {
         probe.Beeps = 0;
+        probe.Said.clear();
         Choose(window->TextFieldMod1, row.model ? folder.File("model", row.model) : folder.Path() / "none");
         Choose(window->TextFieldSpack,
                row.source ? folder.File("Custom Scenery/source", row.source) : folder.Folder("folder"));
         Run();
+        String said;
+        for (const auto& [field, form] :
+             {std::pair(&window->TextFieldMod1, row.forms[0]), {&window->TextFieldSpack, row.forms[1]}})
+            if (!form.empty())
+                said += U" “" + field->Text() + U"” n'est pas un simple texte UTF-8 aux fins de ligne LF : " +
+                        String(form) + U".";
+        EXPECT_TRUE(probe.Said.back().ends_with(said)) << row.name;
+        EXPECT_EQ(IndexOf(probe.Said.back(), U"simple texte") >= 0, !said.empty()) << row.name;
         for (const int view : {0, 1, 2})
             EXPECT_EQ(View(view), row.views[view]) << row.name;
-        EXPECT_EQ(probe.Beeps, row.views[2] == U"### Error ###" ? 1 : 0) << row.name;
+        EXPECT_EQ(probe.Beeps, 1) << row.name << ": the refusal, or what the reading lost";
     }
 }
 
@@ -194,7 +207,7 @@ TEST_F(MainWindow, ThePreferencesFillTheControls)
     EXPECT_EQ(window->Width(), 800);
     EXPECT_EQ(window->Height(), 600);
     EXPECT_EQ(window->RadGrpSrc.SelectedIndex(), 0);
-    EXPECT_EQ(probe.Beeps, 3) << "the source has no choice 7";
+    EXPECT_EQ(probe.Beeps, 4) << "three for the source, which has no choice 7";
     EXPECT_EQ(window->TextFieldMod1.Text(), U"a");
     EXPECT_TRUE(window->ChBoxArchiv.Value());
     EXPECT_EQ(window->TextFieldArchiv.Text(), U"b");
@@ -347,7 +360,7 @@ TEST_F(MainWindow, AStartThatFailsSaysWhyAndQuits)
     EXPECT_EQ(probe.Asked,
               std::vector<String>{U"Error ! Please contact the authors.\n \nThe screen size is too small.[Quitter]"});
     EXPECT_FALSE(Fncts::AinitProg);
-    EXPECT_EQ(app->Run(), 0);
+    EXPECT_EQ(app->Run(), 1);
 }
 
 TEST_F(MainWindow, TheLabelOfTheVersionOpensThePageOfVersions)

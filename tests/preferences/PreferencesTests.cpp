@@ -4,11 +4,12 @@
 
 namespace {
 
-Preferences Read(const std::vector<StringView>& lines)
+Preferences Read(const std::vector<StringView>& lines, int refused = 0)
 {
     Preferences preferences;
     for (const StringView line : lines)
-        ReadPreference(preferences, line);
+        refused -= ReadPreference(preferences, line) ? 0 : 1;
+    EXPECT_EQ(refused, 0);
     return preferences;
 }
 
@@ -36,7 +37,7 @@ TEST(Preferences, EachKeyGoesToItsSetting)
     EXPECT_TRUE(preferences.DrapAffBtnSpecA);
     EXPECT_EQ(preferences.volume, 35);
     EXPECT_EQ(preferences.geometry, (WindowGeometry{10, 48, -3, 0}));
-    EXPECT_EQ(preferences.sourceModel.index, 1);
+    EXPECT_EQ(preferences.sourceModel, 1);
     EXPECT_EQ(preferences.modelFile, U"Linux:a :@: b") << "the first separator of a line counts";
     EXPECT_EQ(preferences.modelUrl, U"https://model");
     EXPECT_EQ(preferences.archive, false) << "only True is true";
@@ -57,8 +58,7 @@ TEST(Preferences, OfTwoLinesTheLaterWinsButForTheOldHelpKey)
 
 TEST(Preferences, NumbersOutOfRangeDoNoHarm)
 {
-    EXPECT_EQ(Read({U"Source Model :@: 0", U"Source Model :@: 2"}).sourceModel.index, 0);
-    EXPECT_EQ(Read({U"Source Model :@: 2", U"Source Model :@: -1"}).sourceModel.refused, 2);
+    EXPECT_EQ(Read({U"Source Model :@: 0", U"Source Model :@: 2", U"Source Model :@: -1"}, 2).sourceModel, 0);
     EXPECT_EQ(Read({U"Volume Sonore :@: 1e300"}).volume, 0);
     EXPECT_EQ(Read({U"Volume Sonore :@: nan"}).volume, 0);
     EXPECT_EQ(Read({U"Volume Sonore :@: -99999999999999999999"}).volume, 0);
