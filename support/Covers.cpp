@@ -1,6 +1,7 @@
 #include "support/Covers.h"
 
 #include "support/Diagnostics.h"
+#include "support/Sounds.h"
 #include "toolkit/Desktop.h"
 #include "toolkit/Dialogs.h"
 #include "toolkit/core/System.h"
@@ -114,7 +115,7 @@ bool CmLabBlockUI(CoverAct act, DesktopWindow* win, DesktopLabel* first, Desktop
         break;
     case CoverAct::Activated:
         if (MemFenetr == nullptr || MemFenetr == win) break;
-        if (System::Ticks() - TpDerTicks > ticksOfOneAct) System::Beep();
+        if (System::Ticks() - TpDerTicks > ticksOfOneAct) BeepNbT(1);
         MemFenetr->Show();
         break;
     }

@@ -19,6 +19,12 @@ Sound* LoadForGood(StringView fileName)
     return file ? Sound::OpenAsSound(*file).release() : nullptr;
 }
 
+Sound* BeepSound()
+{
+    static Sound* const sound = LoadForGood(U"Beep.wav");
+    return sound;
+}
+
 /// Starts a second voice of a sound that plays.
 void PlayOver(const Sound& sound)
 {
@@ -37,7 +43,7 @@ void BeepNbT(Int16 count)
 {
     for (Int16 beep = 0; beep < count; ++beep) {
         if (beep > 0) Pause(10);
-        System::Beep();
+        System::Beep(BeepSound());
     }
 }
 
@@ -67,8 +73,8 @@ void PlayT(Sound* sound)
 
 void SetVolume(Int16 percent)
 {
-    for (Sound* const sound :
-         {_x_Bip::Bip(), _x_Whit::Whit(), _x_Glass_t::Glass_t(), _x_Agrafeuse_t::Agrafeuse_t(), _x_Msg::Msg()})
+    for (Sound* const sound : {_x_Bip::Bip(), _x_Whit::Whit(), _x_Glass_t::Glass_t(), _x_Agrafeuse_t::Agrafeuse_t(),
+                               _x_Msg::Msg(), BeepSound()})
         if (sound != nullptr) sound->SetVolume(percent);
 }
 

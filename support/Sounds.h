@@ -17,7 +17,7 @@ void Pause(std::uint16_t ticks);
 /// a short time that they would pile up are dropped; see SoundThrottle.
 void PlayT(Sound* sound);
 
-/// Sets the volume, 0 to 100 percent, of the five sounds.
+/// Sets the volume, 0 to 100 percent, of the five sounds and of the beep.
 void SetVolume(Int16 percent);
 
 // Each sound is looked for once, at the first call; one that is missing or broken is null for good.

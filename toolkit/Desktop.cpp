@@ -1,6 +1,7 @@
 #include "toolkit/Desktop.h"
 
 #include "toolkit/Probe.h"
+#include "toolkit/Sound.h"
 #include "toolkit/core/QtText.h"
 
 #include <QApplication>
@@ -29,10 +30,12 @@ bool IsHeld(Qt::KeyboardModifier key, bool Probe::*inTest)
 
 } // namespace
 
-void System::Beep()
+void System::Beep(Sound* standIn)
 {
     if (Probe* const probe = Probe::Current())
         ++probe->Beeps;
+    else if (standIn && QGuiApplication::platformName() != QLatin1String("cocoa"))
+        standIn->Play();
     else
         QApplication::beep();
 }

@@ -5,8 +5,12 @@
 
 #include <functional>
 
+class Sound;
+
 namespace System {
-void Beep();
+/// The bell. Linux has none that is heard: X has it off, whatever it tells, and Wayland lacks it; so a sound, if there
+/// is one, stands in.
+void Beep(Sound* standIn);
 /// Opens a link with the program that the desktop uses for it. The text goes out as it stands, but for one that is no
 /// link, such as a name without a scheme: nothing is opened.
 void GotoURL(StringView url);

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Makes the five sounds of the program as WAV files: make_sounds.py [folder], by default the folder of this script.
+"""Makes the six sounds of the program as WAV files: make_sounds.py [folder], by default the folder of this script.
 
 Each is a list of samples from -1 to 1, given by a function of the time in seconds. The same script makes the same
 bytes: the only noise comes from a generator of our own.
@@ -18,6 +18,11 @@ FADE = 0.004  # seconds at both ends, so that no sound begins or ends with a cli
 
 def tone(frequency, time):
     return math.sin(2 * math.pi * frequency * time)
+
+
+def beep(time):
+    """A soft knock on wood: an action was refused. It stands in for a desktop's bell that nobody hears."""
+    return math.exp(-30 * time) * (tone(660, time) + 0.5 * tone(1320, time))
 
 
 def bip(time):
@@ -64,6 +69,7 @@ def message(time):
 
 
 SOUNDS = {
+    "Beep": (beep, 0.1),
     "Bip": (bip, 0.12),
     "Whit": (whit, 0.25),
     "Glass_t": (glass, 0.65),
