@@ -8,6 +8,7 @@ import os
 import socket
 import subprocess
 import sys
+import tempfile
 import time
 
 from choosing import set_preferences
@@ -32,24 +33,35 @@ def sound_server(home):
         server.wait()
 
 
-def loudness(server, play):
-    """The root mean square of what is heard after `play`, in steps of a sample."""
-    command = ["parec", "--device=silent.monitor", "--raw", "--latency-msec=50", f"--rate={RATE}", "--channels=1", "--format=s16le"]
-    recorder = subprocess.Popen(command, env=os.environ | server, stdout=subprocess.PIPE)
-    try:
-        recorder.stdout.read(RATE // 5)  # it records
+class Recorder:
+    def __init__(self, server):
+        self.file = tempfile.NamedTemporaryFile()
+        command = ["parec", "--device=silent.monitor", "--raw", "--latency-msec=50", f"--rate={RATE}", "--channels=1", "--format=s16le"]
+        self.process = subprocess.Popen(command, env=os.environ | server, stdout=self.file)
+        wait_for("a recording", self.size, self.process.poll)
+
+    def size(self):
+        return os.stat(self.file.name).st_size // 2 * 2
+
+    def record(self, play):
+        """The root of the sum of the squares of what is heard from `play` on, in steps of a sample.
+
+        On a busy machine the sound server loses a short sound at times; it is then played again.
+        """
+        return next((heard for heard in (self._once(play) for _ in range(5)) if heard), 0)
+
+    def _once(self, play):
+        start = self.size()
         play()
-        samples = array.array("h", recorder.stdout.read(int(SECONDS * RATE) * 2))
-    finally:
-        recorder.kill()
-        recorder.wait()
-    return math.sqrt(sum(sample * sample for sample in samples) / len(samples))
+        end = self.size() + int(SECONDS * RATE) * 2
+        wait_for("the end of the recording", lambda: self.size() >= end, self.process.poll)
+        self.file.seek(start)
+        return math.sqrt(sum(sample * sample for sample in array.array("h", self.file.read(end - start))))
 
-
-def played(server, percent, play):
-    """What is heard of it. On a busy machine the sound server misses a short sound at times: then it is played again."""
-    found = (loudness(server, play) for _ in range(5 if percent else 1))
-    return next((sound for sound in found if sound > 1), 0)
+    def close(self):
+        self.process.kill()
+        self.process.wait()
+        self.file.close()
 
 
 def open_special(program):
@@ -82,17 +94,18 @@ def main(command):
     with sample() as files, sound_server(files.home) as server:
         with Program([command], private_environment(files.home, **server)) as program:
             program.front = "Tarnivel"
-            heard, beeps = {}, {}
+            heard, beeps, recorder = {}, {}, Recorder(server)
             for percent in (100, 20, 0):
                 set_preferences(program, percent)
                 time.sleep(SECONDS)  # until the sound of the slider has ended
-                beeps[percent] = played(server, percent, lambda: program.press("Chercher"))  # for nothing
+                beeps[percent] = recorder.record(lambda: program.press("Chercher"))  # for nothing
                 open_special(program)
-                heard[percent] = played(server, percent, lambda: copy(program))
+                heard[percent] = recorder.record(lambda: copy(program))
                 window = program.window()
                 program.front = "Tarnivel"
                 program.press("Spécial A", "check box")
                 program.wait_until_gone(window)
+            recorder.close()
             for loud in (heard, beeps):
                 assert loud[0] == 0 and 1 < loud[20] < loud[100], (heard, beeps)
             assert program.close() == 0
