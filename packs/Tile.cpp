@@ -5,10 +5,8 @@
 
 namespace {
 
-using std::string_view_literals::operator""sv;
-
 // A name is stored backwards.
-constexpr std::string_view cookieAndVersion = "XPLNEDSF\1\0\0\0"sv, head = "DAEH", properties = "PORP";
+constexpr std::string_view cookieAndVersion("XPLNEDSF\1\0\0\0", 12), head = "DAEH", properties = "PORP";
 constexpr std::size_t nameSize = 4, atomHeader = 8;
 
 /// Little-endian; the bytes must be there.
