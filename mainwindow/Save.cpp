@@ -38,8 +38,8 @@ void WinMain::ActSaveFile()
     // The archive bears the moment at which the user asked, however long the questions take.
     const DateTime moment = DateTime::Now();
     const String text = TextAreaAff.Text();
-    if ((text.empty() || BeginsWith(text, ErrorMarker)) && !AsksToContinue(Txt_TxtAreaPasScenPack(), Btn_Cont()))
-        return;
+    // No text, an error text, or one whose header an edit has damaged.
+    if (!BeginsWith(text, TxtDebSpack) && !AsksToLose(Txt_TxtAreaPasScenPack(), Btn_Cont())) return;
     const DesktopTextField& field = PopMenuAff.SelectedRowIndex() == rowModel ? TextFieldMod1 : TextFieldSpack;
     const std::optional<FolderItem> target = Fncts::GetFitemAbsPath(field.Text(), false);
     if (!target) return Tell(Txt_ImpLocDossSauvFich());

@@ -20,7 +20,7 @@ public:
     /// False accepts every certificate, self-signed ones included.
     bool AllowCertificateValidation = true;
     /// The whole answer of the server, an error page included, unpacked. Nothing tells the end of one that was sent
-    /// packed or without its length from a break; one in pieces that broke off may pass, some in a thousand.
+    /// packed or without its length from a break; one in pieces that broke off may pass, some in a hundred.
     std::function<void(const String& url, Int64 httpStatus, const Bytes& content)> ContentReceived;
     /// No answer, one that broke off, or one beyond the limits; the number is Qt's (`QNetworkReply::NetworkError`).
     std::function<void(const RuntimeException& error)> Error;

@@ -9,7 +9,7 @@
 /// A file of some 9 KB whose lines begin with `letter`.
 inline std::string Lines(char letter, int count = 500)
 {
-    std::string lines;
+    std::string lines = header;
     for (int line = 0; line < count; ++line)
         lines += letter + std::string("CENERY_PACK ") + letter + std::to_string(line) + "/\n";
     return lines;

@@ -10,13 +10,14 @@ namespace {
 namespace fs = std::filesystem;
 using namespace std::string_literals;
 
-const String noPack = U"Le TextArea ne contient pas de scenery_packs.[Continuer][Annuler]";
+const String noPack = U"Le TextArea ne contient pas de scenery_packs.[Annuler][Continuer]";
 const String noTarget = U"Impossible de localiser le dossier où sauvegarder le fichier.[Ok]";
 const String noArchiveFolder =
     U"Impossible de localiser le dossier où sauvegarder l'ancien fichier.[Continuer][Annuler]";
 const String noOldFile = U"Il n'y a pas d'ancien fichier à sauvegarder.[Continuer][Annuler]";
 const String copyFailed = U"Erreur pendant la copie de l'ancien (précédent) scenery_packs.[Continuer][Annuler]";
 const String writeFailed = U"Erreur pendant l'écriture du nouveau scenery_packs.[Ok]";
+const std::string fresh = header + "new"s;
 /// Stands for the question that names the file.
 const String sure = U"sure";
 
@@ -31,7 +32,7 @@ protected:
         Choose(window->TextFieldSpack, target);
         Choose(window->TextFieldArchiv, archiveFolder);
         window->ChBoxArchiv.SetValue(true);
-        window->TextAreaAff.SetText(U"new");
+        window->TextAreaAff.SetText(Encodings::UTF8.Decode(fresh));
     }
 
     /// Saves, and checks what was asked, what is in the file then, and how many archives there are.
@@ -162,7 +163,7 @@ TEST_F(Saving, WithoutArchiveItsFolderIsNotLookedAt)
 {
     window->ChBoxArchiv.SetValue(false);
     window->TextFieldArchiv.SetText(U"nowhere");
-    Save({sure}, "new", 0);
+    Save({sure}, fresh, 0);
 }
 
 TEST_F(Saving, NoAnswerButTheFirstWrites)
@@ -174,9 +175,11 @@ TEST_F(Saving, NoAnswerButTheFirstWrites)
 TEST_F(Saving, ATextThatIsNoneIsAskedAbout)
 {
     window->TextAreaAff.SetText(U"### error ### empty");
-    probe.Answers = {0};
     Save({noPack}, "old", 0);
+    probe.Answers = {3, 1};
     Save({noPack, sure}, "### error ### empty", 1);
+    window->TextAreaAff.SetText(U"\n" + Encodings::UTF8.Decode(fresh));
+    Save({noPack}, "### error ### empty", 1);
 }
 
 TEST_F(Saving, AMissingArchiveFolderLeavesTheChoice)
@@ -184,14 +187,14 @@ TEST_F(Saving, AMissingArchiveFolderLeavesTheChoice)
     fs::remove(archiveFolder);
     probe.Answers = {2};
     Save({noArchiveFolder}, "old", 0);
-    Save({noArchiveFolder, sure}, "new", 0);
+    Save({noArchiveFolder, sure}, fresh, 0);
 }
 
 TEST_F(Saving, AnArchiveFolderThatIsAFileIsNone)
 {
     fs::remove(archiveFolder);
     folder.File("archives", "a file");
-    Save({noArchiveFolder, sure}, "new", 0);
+    Save({noArchiveFolder, sure}, fresh, 0);
 }
 
 TEST_F(Saving, AFileThatIsNotThereYetIsMade)
@@ -199,7 +202,7 @@ TEST_F(Saving, AFileThatIsNotThereYetIsMade)
     fs::remove(target);
     probe.Answers = {2};
     Save({noOldFile}, "", 0);
-    Save({noOldFile, sure}, "new", 0);
+    Save({noOldFile, sure}, fresh, 0);
 }
 
 TEST_F(Saving, AnArchiveThatCanNotBeMadeIsNeverPassedInSilence)
@@ -229,7 +232,7 @@ TEST_F(Saving, AnArchiveIsNeverOverwritten)
     }
     EXPECT_EQ(probe.Asked.back(), copyFailed);
     EXPECT_EQ(Archives(), before);
-    EXPECT_EQ(folder.Content(target), "new") << "the user went on";
+    EXPECT_EQ(folder.Content(target), fresh) << "the user went on";
 }
 
 TEST_F(Saving, AReadOnlyFileAndAMissingFolderEndInTheWriteError)
@@ -248,9 +251,9 @@ TEST_F(Saving, ALinkStaysOneAndPermissionsStay)
     fs::remove(target);
     fs::create_symlink(real, target);
     fs::permissions(real, fs::perms::owner_all);
-    Save({sure}, "new", 1);
+    Save({sure}, fresh, 1);
     EXPECT_TRUE(fs::is_symlink(target));
-    EXPECT_EQ(folder.Content(real), "new");
+    EXPECT_EQ(folder.Content(real), fresh);
     EXPECT_EQ(fs::status(real).permissions(), fs::perms::owner_all);
 }
 
@@ -275,7 +278,7 @@ TEST_F(Saving, ATextThatDoesNotFitLeavesTheOldFileAsItWas)
     getrlimit(RLIMIT_FSIZE, &usual);
     const rlimit small{8192, usual.rlim_max};
     setrlimit(RLIMIT_FSIZE, &small);
-    window->TextAreaAff.SetText(String(100'000, U'x'));
+    window->TextAreaAff.SetText(Encodings::UTF8.Decode(fresh) + String(100'000, U'x'));
     Save({sure, writeFailed}, "old", 1);
     setrlimit(RLIMIT_FSIZE, &usual);
     fs::remove_all(archiveFolder);
