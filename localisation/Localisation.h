@@ -218,11 +218,22 @@ inline constexpr Text Txt_FichPasModif{U"Txt_FichPasModif",
 inline constexpr Text Btn_Remplacer{U"Btn_Remplacer", U"Remplacer"};
 inline constexpr Text Btn_NePasRempl{U"Btn_NePasRempl", U"Ne pas remplacer"};
 inline constexpr Text Txt_NbTrouv{U"Txt_NbTrouv", U"Nombre de fois où les textes cherchés ont été trouvés :"};
-inline constexpr Text Txt_TropLignes{U"Txt_TropLignes", U"Le tableau ne peut pas avoir plus de 1 000 lignes."};
-inline constexpr Text Txt_TropLong{U"Txt_TropLong",
+inline constexpr Text Dit_TropLignes{U"Dit_TropLignes", U"Le tableau ne peut pas avoir plus de 1 000 lignes."};
+inline constexpr Text Dit_TropLong{U"Dit_TropLong",
     U"Trop long : une colonne du tableau peut avoir 2 000 000 de caractères."};
-inline constexpr Text Txt_TropColonnes{U"Txt_TropColonnes",
+inline constexpr Text Dit_TropColonnes{U"Dit_TropColonnes",
     U"Les cellules au-delà de la troisième colonne ont été laissées de côté."};
+inline constexpr Text Dit_RienEnlever{U"Dit_RienEnlever",
+    U"Aucune ligne n'est sélectionnée, et la dernière n'est pas vide."};
+inline constexpr Text Txt_LectureImp{U"Txt_LectureImp", U"Le fichier original ne peut pas être lu."};
+inline constexpr Text Txt_TropGrand{U"Txt_TropGrand", U"“¿%” deviendrait trop long et n'est pas écrit."};
+inline constexpr Text Txt_DossierPlein{U"Txt_DossierPlein",
+    U"“¿%” est un dossier. Ce qu'il contient sera supprimé avec lui. Nombre d'éléments : ¿%."};
+inline constexpr Text Txt_RemplOriginal{U"Txt_RemplOriginal",
+    U"“¿%” est le fichier original lui-même. Son texte d'avant sera perdu."};
+inline constexpr Text Dit_TraitArrete{U"Dit_TraitArrete", U"Traitement arrêté, rien n'a été écrit."};
+inline constexpr Text Dit_RienEcrit{U"Dit_RienEcrit", U"Rien n'a été écrit."};
+inline constexpr Text Dit_EcritDans{U"Dit_EcritDans", U"Écrit : ¿%, dans ¿%."};
 inline constexpr Text Btn_CopiList_HT{U"Btn_CopiList_HT", U"Copier la liste dans le presse-papiers"};
 inline constexpr Text Txt_OctetsRetires{U"Txt_OctetsRetires",
     U"“¿%” contient des octets qui ne sont pas de l'UTF-8. Les caractères non ASCII en ont été retirés, dans ¿% "

@@ -6,7 +6,7 @@
 #include "support/FileHelpers.h"
 #include "support/Fncts.h"
 #include "support/PathForm.h"
-#include "support/Sounds.h"
+#include "support/Status.h"
 #include "toolkit/Desktop.h"
 
 using namespace Localisation;
@@ -26,11 +26,14 @@ std::optional<FolderItem> DroppedText(const DragItem& dragged)
 
 bool WinSpecA::FairePath()
 {
+    String& path = App::Current().PathSpecA;
+    // What was away may be there again.
+    if (!FichOrg) FichOrg = Fncts::GetFitemAbsPath(path, true);
     const bool usable = Fncts::PasNil_Existe_Alias(FichOrg, false) && !FichOrg->IsAlias();
-    // A label of the toolkit shows "&" as it stands: nothing is doubled here.
-    App::Current().PathSpecA = usable ? Fncts::AbsPath_f(*FichOrg, true) : String();
-    StTextFichSource.SetText(usable ? App::Current().PathSpecA : Txt_Attente());
-    TextFieldOrg.SetText(usable ? FichOrg->Name() : Txt_Attente());
+    if (usable) path = Fncts::AbsPath_f(*FichOrg, true);
+    const StringView lastName = NthField(path, U":", CountFields(path, U":"));
+    StTextFichSource.SetText(path.empty() ? Txt_Attente() : path);
+    TextFieldOrg.SetText(usable ? FichOrg->Name() : path.empty() ? Txt_Attente() : String(lastName));
     return usable;
 }
 
@@ -51,7 +54,7 @@ void WinSpecA::PushButtSource_Pressed()
     if (Fncts::PasNil_Existe_Alias(FichOrg, false))
         Fncts::RevealEltFinder(*FichOrg);
     else
-        Fncts::BeepNbT(1);
+        Fncts::Refuser(Txt_FichOrgNonDef());
 }
 
 void WinSpecA::GroupBoxSource_DragEnter()
@@ -64,7 +67,7 @@ void WinSpecA::GroupBoxSource_DragExit() { AffCanvDrag(0, 0, -1, -1); }
 void WinSpecA::GroupBoxSource_DropObject(const DragItem& item)
 {
     AffCanvDrag(0, 0, -1, -1);
-    if (!Fncts::DrapMenu) return Fncts::BeepNbT(1);
+    if (!Fncts::DrapMenu) return Fncts::Refuser(Dit_Occupe());
     if (std::optional<FolderItem> dropped = DroppedText(item)) return ActButtSource(std::move(dropped));
     Tell(Txt_DropQueFichTxt());
 }

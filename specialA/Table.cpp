@@ -60,12 +60,12 @@ Int16 WinSpecA::FaireTab()
 
 bool WinSpecA::ListboxRR_Accepts(const std::vector<CellRow>& rows)
 {
-    if (rows.size() > mostRows) return Fncts::Refuser(Txt_TropLignes()), false;
+    if (rows.size() > mostRows) return Fncts::Refuser(Dit_TropLignes()), false;
     for (std::size_t column = 0; column < 3; ++column) {
         std::size_t characters = 0;
         for (const CellRow& row : rows)
             characters += row[column].size();
-        if (characters > mostCharacters) return Fncts::Refuser(Txt_TropLong()), false;
+        if (characters > mostCharacters) return Fncts::Refuser(Dit_TropLong()), false;
     }
     return true;
 }
@@ -81,7 +81,7 @@ void WinSpecA::PushButtSupp_Pressed()
     const std::vector<CellRow>& rows = ListboxRR.Rows();
     if (const int selected = ListboxRR.SelectedRowIndex(); selected >= 0) return ListboxRR.RemoveRowAt(selected);
     if (!rows.empty() && rows.back() == CellRow(3)) return ListboxRR.RemoveRowAt(static_cast<int>(rows.size()) - 1);
-    Fncts::BeepNbT(1);
+    Fncts::Refuser(Dit_RienEnlever());
 }
 
 void WinSpecA::PushButtCopiList_Pressed()
@@ -98,10 +98,10 @@ void WinSpecA::ListboxRR_RowsPasted(std::vector<CellRow> rows)
     if (BeginsWithHeading(rows)) rows.erase(rows.begin(), rows.begin() + 2);
     const std::size_t room = mostRows - ListboxRR.Rows().size();
     if (std::ranges::any_of(rows, [](const CellRow& row) { return row.size() > 3; }))
-        Fncts::Refuser(Txt_TropColonnes());
+        Fncts::Refuser(Dit_TropColonnes());
     if (rows.size() > room) {
         rows.resize(room);
-        Fncts::Refuser(Txt_TropLignes());
+        Fncts::Refuser(Dit_TropLignes());
     }
     const int selected = ListboxRR.SelectedRowIndex();
     if (!rows.empty())

@@ -6,14 +6,49 @@
 #include "support/FileHelpers.h"
 #include "support/Fncts.h"
 #include "support/Sounds.h"
+#include "support/Status.h"
 #include "support/TextFiles.h"
 #include "support/TextHelpers.h"
+#include "toolkit/core/Exceptions.h"
 #include "toolkit/core/System.h"
 
 #include <new>
 
 using namespace Localisation;
 using Fncts::DialogIcon;
+
+namespace {
+
+/// A place beside the item where nothing is yet.
+FolderItem PlaceBeside(const FolderItem& item)
+{
+    const FolderItem folder = *item.Parent();
+    FolderItem place = item;
+    for (Int64 number = 1; place.Exists(); ++number)
+        place = *folder.Child(U".tarnivel-" + ToText(number), false);
+    return place;
+}
+
+/// Writes the text to a new file, which takes the place of any old item once it is complete.
+Fncts::Outcome PutInPlace(const FolderItem& target, StringView text)
+{
+    // What is written to a file replaces it whole; it would not replace a folder, and would follow an alias.
+    if (!target.IsFolder() && !target.IsAlias()) return Fncts::SauvFichier(target, text);
+    const FolderItem complete = PlaceBeside(target);
+    if (Fncts::Outcome written = Fncts::SauvFichier(complete, text); !written) return written;
+    if (Fncts::RemoveFileOrFolder(target, false)) {
+        Fncts::RemoveFileOrFolder(complete, false);
+        return {Txt_Rempl_Imposs()};
+    }
+    try {
+        complete.Rename(target.Name());
+        return {};
+    } catch (const IOException& error) {
+        return {complete.NativePath() + U'\n' + error.Message};
+    }
+}
+
+} // namespace
 
 void WinSpecA::EnableControls(bool idle)
 {
@@ -23,20 +58,34 @@ void WinSpecA::EnableControls(bool idle)
         control->SetEnabled(idle);
 }
 
-Int16 WinSpecA::Ask(StringView message, StringView action, StringView cancel, DialogIcon icon)
+bool WinSpecA::GoesOn(StringView message, StringView explanation)
 {
-    return Fncts::MyDialogBox(
-        {.message = message, .btnAction = action, .btnCancel = cancel, .icon = icon, .win = this});
+    return Fncts::MyDialogBox({.message = message,
+                               .explanation = explanation,
+                               .btnAction = Btn_Cont(),
+                               .btnCancel = Btn_Arreter(),
+                               .win = this}) == 1;
 }
 
-void WinSpecA::Tell(StringView message, DialogIcon icon)
+bool WinSpecA::AsksToLose(StringView message, StringView keep, StringView lose)
+{
+    constexpr Int16 loses = 3;
+    return Fncts::MyDialogBox({.message = message, .btnAction = keep, .btnAlternate = lose, .win = this}) == loses;
+}
+
+void WinSpecA::Tell(StringView message, DialogIcon icon, StringView explanation)
 {
     Fncts::BeepNbT(1);
-    Ask(message, Btn_Ok(), {}, icon);
+    Fncts::MyDialogBox(
+        {.message = message, .explanation = explanation, .btnAction = Btn_Ok(), .icon = icon, .win = this});
 }
 
 void WinSpecA::PushButtTrait_Pressed()
 {
+    if (treats_) {
+        stops_ = true;
+        return;
+    }
     CanvFocus.SetFocus();
     if (!FairePath()) return Tell(Txt_FichOrgNonDef());
     const AtEnd idleAgain([] { App::Current().EnableMenuBoutons(true); });
@@ -51,70 +100,90 @@ void WinSpecA::PushButtTrait_Pressed()
 void WinSpecA::TreatOriginal()
 {
     const Fncts::Reading reading = Fncts::LireFichier(FichOrg);
-    const String& original = reading.text;
+    if (!reading.failure.empty())
+        return Tell(Txt_LectureImp(), DialogIcon::Warning, FichOrg->NativePath() + U'\n' + reading.failure);
     if (reading.cleanedLines > 0) {
         Fncts::BeepNbT(1);
         const String lost = Fncts::CleaningReport(reading, FichOrg->NativePath());
-        if (Fncts::MyDialogBox(
-                {.message = lost, .btnAction = Btn_Annuler(), .btnAlternate = Btn_Cont(), .win = this}) != 3)
-            return;
+        if (!AsksToLose(lost, Btn_Annuler(), Btn_Cont())) return;
     }
     FaireTab();
-    const Treatment treated = TreatVisibly(original);
-    if (Ask(Txt_NbTrouv() + treated.report, Btn_Cont(), Btn_Arreter()) != 1) return;
-    WriteDestination(App::Current().TabSpecAdest1.front(), treated.dest1, original);
-    WriteDestination(App::Current().TabSpecAdest2.front(), treated.dest2, original);
+    const std::optional<Treatment> treated = TreatVisibly(reading.text);
+    if (!treated) return Fncts::Dire(Dit_TraitArrete());
+    if (!GoesOn(Txt_NbTrouv(), Middle(treated->report, 1))) return Fncts::Dire(Dit_RienEcrit());
+    const App& app = App::Current();
+    std::vector<StringView> written;
+    for (const auto& [name, text] :
+         {std::pair(&app.TabSpecAdest1.front(), &treated->dest1), {&app.TabSpecAdest2.front(), &treated->dest2}})
+        if (WriteDestination(*name, *text, reading.text)) written.emplace_back(*name);
+    Fncts::Dire(written.empty()
+                    ? Dit_RienEcrit()
+                    : Fncts::Filled(Dit_EcritDans(), {Join(written, U", "), FichOrg->Parent()->NativePath()}));
 }
 
-Treatment WinSpecA::TreatVisibly(StringView original)
+std::optional<Treatment> WinSpecA::TreatVisibly(StringView original)
 {
     const App& app = App::Current();
     std::vector<ReplacementRow> rows;
     for (std::size_t i = 1; i < app.TabSpecAorg.size(); ++i)
         rows.push_back({app.TabSpecAorg[i], app.TabSpecAdest1[i], app.TabSpecAdest2[i]});
 
-    const AtEnd gone([this] { ProgressTrait.SetVisible(false); });
     constexpr Int64 ticksUnseen = 30, ticksBetween = 3;
     const Int64 start = System::Ticks();
     Int64 last = start;
+    treats_ = true;
+    stops_ = false;
+    const AtEnd ended([this] {
+        treats_ = false;
+        ProgressTrait.SetVisible(false);
+        PushButtTrait.SetCaption(Btn_Trait());
+        PushButtTrait.SetEnabled(false);
+    });
     return Treat(original, rows, [&](Int64 done, Int64 total) {
         const Int64 now = System::Ticks();
-        if (now - last < ticksBetween) return;
+        if (now - last < ticksBetween) return true;
         last = now;
-        ProgressTrait.SetVisible(now - start >= ticksUnseen);
+        if (now - start >= ticksUnseen && !ProgressTrait.Visible()) {
+            ProgressTrait.SetVisible(true);
+            PushButtTrait.SetCaption(Btn_Arreter());
+            PushButtTrait.SetEnabled(true);
+        }
         ProgressTrait.SetValue(static_cast<int>(100 * done / total));
-        DesktopApplication::YieldToPlatform();
+        DesktopApplication::YieldToUser();
+        return !stops_ && !DesktopApplication::EndRequested();
     });
 }
 
-void WinSpecA::WriteDestination(StringView name, const std::optional<String>& text, StringView original)
+bool WinSpecA::WriteDestination(StringView name, const std::optional<String>& text, StringView original)
 {
-    if (name.empty()) return;
-    if (!text) return Tell(Txt_ErreurEcritFich(), DialogIcon::Warning);
+    if (name.empty()) return false;
+    if (!text) {
+        Tell(Fncts::Filled(Txt_TropGrand(), {name}), DialogIcon::Warning);
+        return false;
+    }
     if (SameText(*text, original)) {
         Fncts::BeepNbT(1);
-        if (Ask(Txt_FichPasModif(), Btn_Cont(), Btn_Arreter()) != 1) return;
+        if (!GoesOn(Txt_FichPasModif())) return false;
     }
-    const std::optional<FolderItem> target = FreeTarget(name);
-    if (!target) return;
-    if (!Fncts::SauvFichier(*target, *text)) return Tell(Txt_ErreurEcritFich(), DialogIcon::Warning);
-    Fncts::PlayT(Fncts::_x_Msg::Msg());
+    const std::optional<FolderItem> target = FichOrg->Parent()->Child(name, false);
+    if (target && !MayReplace(*target)) return false;
+    // A name that no file can have, or that would lead out of the folder, has no item.
+    const Fncts::Outcome written = target ? PutInPlace(*target, *text) : Fncts::Outcome{String(name)};
+    if (!written)
+        Tell(Txt_ErreurEcritFich(), DialogIcon::Warning, written.failure);
+    else
+        Fncts::PlayT(Fncts::_x_Msg::Msg());
+    return static_cast<bool>(written);
 }
 
-std::optional<FolderItem> WinSpecA::FreeTarget(StringView name)
+bool WinSpecA::MayReplace(const FolderItem& target)
 {
-    const std::optional<FolderItem> folder = FichOrg->Parent();
-    std::optional<FolderItem> target = folder ? folder->Child(name, false) : std::nullopt;
-    if (!target) {
-        // A name that no file can have, or that would lead out of the folder.
-        Tell(Txt_ErreurEcritFich(), DialogIcon::Warning);
-        return {};
-    }
-    if (!target->Exists()) return target;
-    const String question = Txt_NomExiste();
-    const String named = Fncts::FracTexte(question, 1) + String(name) + Fncts::FracTexte(question, 2);
-    if (Ask(named, Btn_Remplacer(), Btn_NePasRempl()) != 1) return {};
-    if (!Fncts::RemoveFileOrFolder(*target, false)) return target;
-    Tell(Txt_Rempl_Imposs(), DialogIcon::Warning);
-    return {};
+    if (!target.Exists()) return true;
+    const auto replaces = [this](const String& question) {
+        return AsksToLose(question, Btn_NePasRempl(), Btn_Remplacer());
+    };
+    if (!replaces(Fncts::Filled(Txt_NomExiste(), {target.Name()}))) return false;
+    if (target.Path() == FichOrg->Path()) return replaces(Fncts::Filled(Txt_RemplOriginal(), {target.Name()}));
+    const Int64 items = target.IsFolder() ? std::ssize(target.Children()) : 0;
+    return items == 0 || replaces(Fncts::Filled(Txt_DossierPlein(), {target.Name(), ToText(items)}));
 }

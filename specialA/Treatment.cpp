@@ -51,11 +51,24 @@ void AppendVariant(StringView piece, std::span<const Step> steps, String Replace
     if (destination) destination->append(variant.Text());
 }
 
+String ReportOf(std::span<const Step> steps)
+{
+    String missing, found;
+    for (const Step& step : steps)
+        (step.count == 0 ? missing : found)
+            .append(EndOfLine::Native)
+            .append(U" • " + ToText(step.count) + U" x “" + step.row.searched + U"”");
+    return missing + found;
+}
+
+/// What ends a treatment that doesn't go on.
+struct Stopped {};
+
 } // namespace
 
-Treatment Treat(StringView original, std::span<const ReplacementRow> rows,
-                const std::function<void(Int64 done, Int64 total)>& progress)
-{
+std::optional<Treatment> Treat(StringView original, std::span<const ReplacementRow> rows,
+                               const std::function<bool(Int64 done, Int64 total)>& goesOn)
+try {
     std::vector<Step> steps;
     std::unordered_set<char32_t> searched;
     for (const ReplacementRow& row : rows) {
@@ -75,15 +88,15 @@ Treatment Treat(StringView original, std::span<const ReplacementRow> rows,
         const StringView piece = FirstPiece(rest, searched);
         const auto stepDone = [&] {
             done += std::ssize(piece);
-            if (progress) progress(done, total);
+            if (goesOn && !goesOn(done, total)) throw Stopped();
         };
         CountIn(piece, steps, stepDone);
         AppendVariant(piece, steps, &ReplacementRow::replacement1, most, treatment.dest1, stepDone);
         AppendVariant(piece, steps, &ReplacementRow::replacement2, most, treatment.dest2, stepDone);
         rest.remove_prefix(piece.size());
     }
-    for (const Step& step : steps)
-        treatment.report.append(EndOfLine::Native)
-            .append(U" • " + ToText(step.count) + U" x “" + step.row.searched + U"”");
+    treatment.report = ReportOf(steps);
     return treatment;
+} catch (const Stopped&) {
+    return {};
 }

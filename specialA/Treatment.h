@@ -11,7 +11,8 @@ struct ReplacementRow {
 };
 
 struct Treatment {
-    /// A line for each row that searches for anything: a line end, then " • 3 x “text”".
+    /// A line for each row that searches for anything: a line end, then " • 3 x “text”". Those of texts that are not
+    /// there come first.
     String report;
     /// Nothing for a variant that would grow too long.
     std::optional<String> dest1, dest2;
@@ -24,6 +25,6 @@ struct Treatment {
 /// is replaced doesn't overlap, and an empty replacement deletes. The report counts in the original alone, where
 /// matches may overlap: "aa" is found twice in "aaa". A row that searches for nothing is passed over.
 ///
-/// `progress` is told often, in any unit, how much of the work is done.
-Treatment Treat(StringView original, std::span<const ReplacementRow> rows,
-                const std::function<void(Int64 done, Int64 total)>& progress = {});
+/// `goesOn` is told often, in any unit, how much of the work is done; nothing comes back when it answers false.
+std::optional<Treatment> Treat(StringView original, std::span<const ReplacementRow> rows,
+                               const std::function<bool(Int64 done, Int64 total)>& goesOn = {});

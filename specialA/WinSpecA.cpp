@@ -4,7 +4,7 @@
 #include "localisation/Localisation.h"
 #include "support/Fncts.h"
 #include "support/PathForm.h"
-#include "support/Sounds.h"
+#include "support/Status.h"
 #include "toolkit/Desktop.h"
 
 using namespace Localisation;
@@ -123,7 +123,6 @@ void WinSpecA::Event_Opening()
         SetHeight(app.WspecAheight);
     segButtSpecA_.SetSelected(0, true);
     ShowTable();
-    FichOrg = Fncts::GetFitemAbsPath(app.PathSpecA, true);
     FairePath();
 }
 
@@ -135,7 +134,7 @@ bool WinSpecA::Event_CancelClosing(bool appQuitting)
         return true;
     }
     if (!appQuitting && !Fncts::DrapMenu) {
-        Fncts::BeepNbT(1);
+        Fncts::Refuser(Dit_Occupe());
         return true;
     }
     segButtSpecA_.SetSelected(0, false);

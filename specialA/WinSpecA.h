@@ -39,6 +39,7 @@ public:
     DesktopProgressBar ProgressTrait;
 
     // Treat.cpp
+    /// Begins a treatment, or stops the present one.
     void PushButtTrait_Pressed();
     /// While the program is busy nothing here can be changed.
     void EnableControls(bool idle);
@@ -70,7 +71,8 @@ private:
     void FermFenetr();
 
     // Source.cpp
-    /// Brings path, label and field in line with `FichOrg`; true when that can be treated.
+    /// Brings path, label and field in line with `FichOrg`; true when that can be treated. What can't be reached now
+    /// keeps its path and name.
     bool FairePath();
     /// Darkens that place, or nothing with a width below 0.
     void AffCanvDrag(int left, int top, int width, int height);
@@ -83,22 +85,26 @@ private:
     Int16 FaireTab();
 
     // Treat.cpp
-    Int16 Ask(StringView message, StringView action, StringView cancel,
-              Fncts::DialogIcon icon = Fncts::DialogIcon::Note);
+    bool GoesOn(StringView message, StringView explanation = {});
+    /// Asks about what can't be had back; the default is to keep it.
+    bool AsksToLose(StringView message, StringView keep, StringView lose);
     /// After a beep.
-    void Tell(StringView message, Fncts::DialogIcon icon = Fncts::DialogIcon::Note);
+    void Tell(StringView message, Fncts::DialogIcon icon = Fncts::DialogIcon::Note, StringView explanation = {});
     /// Treats the original and writes what comes of it, after all questions.
     void TreatOriginal();
-    /// The treatment of a text, during which the window stays alive.
-    Treatment TreatVisibly(StringView original);
-    /// Writes one variant under that name beside the original; nothing is a variant that couldn't be made.
-    void WriteDestination(StringView name, const std::optional<String>& text, StringView original);
-    /// The item of that name beside the original, free to be written to; nothing when it isn't, which was told.
-    std::optional<FolderItem> FreeTarget(StringView name);
+    /// The treatment of a text, during which the window stays alive; nothing if it was stopped.
+    std::optional<Treatment> TreatVisibly(StringView original);
+    /// Writes one variant under that name beside the original; nothing is a variant that would grow too long. Whether
+    /// it is written; if not, the user knows.
+    bool WriteDestination(StringView name, const std::optional<String>& text, StringView original);
+    /// Whether the user gives up what is there, if anything.
+    bool MayReplace(const FolderItem& target);
 
     const DesktopWindow& winMain_;
     DesktopSegmentedButton& segButtSpecA_;
     Timer& timerQuit_;
     /// The original file, nothing until one was chosen.
     std::optional<FolderItem> FichOrg;
+    /// A treatment is under way; the user has stopped it.
+    bool treats_ = false, stops_ = false;
 };

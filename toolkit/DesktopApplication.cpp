@@ -146,6 +146,8 @@ void DesktopApplication::WindowClosed()
     if (!HasVisibleWindow()) QApplication::exit(0);
 }
 
+void DesktopApplication::YieldToUser() { QApplication::processEvents(); }
+
 void DesktopApplication::YieldToPlatform()
 {
     if (!QApplication::instance()) return;

@@ -47,6 +47,8 @@ public:
     /// Lets the platform repaint and timers fire. Mouse, keyboard, the closing of windows and answers from the network
     /// wait until the program is idle again; what a screen reader presses meanwhile is dropped.
     static void YieldToPlatform();
+    /// Lets everything happen, for work that the user can stop; what may not happen meanwhile must be disabled.
+    static void YieldToUser();
 
 private:
     friend class DesktopWindow;

@@ -36,7 +36,7 @@ int main(int argc, char** argv)
     const String original = Encodings::UTF8.Decode(Contents(argv[1]));
     const std::vector<ReplacementRow> rows = Table(argv[2]);
     const auto start = std::chrono::steady_clock::now();
-    const Treatment treated = Treat(original, rows);
+    const Treatment treated = *Treat(original, rows);
     const std::chrono::duration<double> took = std::chrono::steady_clock::now() - start;
     rusage usage{};
     getrusage(RUSAGE_SELF, &usage);

@@ -625,17 +625,53 @@ Rückgabewert: 0 alles stimmt überein, 1 etwas wurde gemeldet,
         <source>Nombre de fois où les textes cherchés ont été trouvés :</source>
         <translation>So oft wurden die gesuchten Texte gefunden:</translation>
     </message>
-    <message id="Localisation.Txt_TropLignes">
+    <message id="Localisation.Dit_TropLignes">
         <source>Le tableau ne peut pas avoir plus de 1 000 lignes.</source>
         <translation>Die Tabelle kann nicht mehr als 1.000 Zeilen haben.</translation>
     </message>
-    <message id="Localisation.Txt_TropLong">
+    <message id="Localisation.Dit_TropLong">
         <source>Trop long : une colonne du tableau peut avoir 2 000 000 de caractères.</source>
         <translation>Zu lang: Eine Spalte der Tabelle kann 2.000.000 Zeichen haben.</translation>
     </message>
-    <message id="Localisation.Txt_TropColonnes">
+    <message id="Localisation.Dit_TropColonnes">
         <source>Les cellules au-delà de la troisième colonne ont été laissées de côté.</source>
         <translation>Die Zellen hinter der dritten Spalte wurden ausgelassen.</translation>
+    </message>
+    <message id="Localisation.Dit_RienEnlever">
+        <source>Aucune ligne n'est sélectionnée, et la dernière n'est pas vide.</source>
+        <translation>Keine Zeile ist ausgewählt, und die letzte ist nicht leer.</translation>
+    </message>
+    <message id="Localisation.Txt_LectureImp">
+        <source>Le fichier original ne peut pas être lu.</source>
+        <translation>Die Originaldatei kann nicht gelesen werden.</translation>
+    </message>
+    <message id="Localisation.Txt_TropGrand">
+        <source>“¿%” deviendrait trop long et n'est pas écrit.</source>
+        <extracomment>The placeholder: the name of a file.</extracomment>
+        <translation>„¿%“ würde zu lang und wird nicht geschrieben.</translation>
+    </message>
+    <message id="Localisation.Txt_DossierPlein">
+        <source>“¿%” est un dossier. Ce qu'il contient sera supprimé avec lui. Nombre d'éléments : ¿%.</source>
+        <extracomment>The placeholders: the name of a folder, and how many items are in it.</extracomment>
+        <translation>„¿%“ ist ein Ordner. Was darin ist, wird mit ihm gelöscht. Anzahl der Objekte: ¿%.</translation>
+    </message>
+    <message id="Localisation.Txt_RemplOriginal">
+        <source>“¿%” est le fichier original lui-même. Son texte d'avant sera perdu.</source>
+        <extracomment>The placeholder: the name of a file.</extracomment>
+        <translation>„¿%“ ist die Originaldatei selbst. Ihr alter Text geht verloren.</translation>
+    </message>
+    <message id="Localisation.Dit_TraitArrete">
+        <source>Traitement arrêté, rien n'a été écrit.</source>
+        <translation>Verarbeitung angehalten, nichts wurde geschrieben.</translation>
+    </message>
+    <message id="Localisation.Dit_RienEcrit">
+        <source>Rien n'a été écrit.</source>
+        <translation>Nichts wurde geschrieben.</translation>
+    </message>
+    <message id="Localisation.Dit_EcritDans">
+        <source>Écrit : ¿%, dans ¿%.</source>
+        <extracomment>The placeholders: names of files, and the path of their folder.</extracomment>
+        <translation>Geschrieben: ¿%, in ¿%.</translation>
     </message>
     <message id="Localisation.Btn_CopiList_HT">
         <source>Copier la liste dans le presse-papiers</source>

@@ -625,17 +625,53 @@ Exit status: 0 all agrees, 1 something was reported,
         <source>Nombre de fois où les textes cherchés ont été trouvés :</source>
         <translation>Number of times that the searched texts were found:</translation>
     </message>
-    <message id="Localisation.Txt_TropLignes">
+    <message id="Localisation.Dit_TropLignes">
         <source>Le tableau ne peut pas avoir plus de 1 000 lignes.</source>
         <translation>The table can't have more than 1,000 rows.</translation>
     </message>
-    <message id="Localisation.Txt_TropLong">
+    <message id="Localisation.Dit_TropLong">
         <source>Trop long : une colonne du tableau peut avoir 2 000 000 de caractères.</source>
         <translation>Too long: a column of the table can have 2,000,000 characters.</translation>
     </message>
-    <message id="Localisation.Txt_TropColonnes">
+    <message id="Localisation.Dit_TropColonnes">
         <source>Les cellules au-delà de la troisième colonne ont été laissées de côté.</source>
         <translation>The cells beyond the third column were left out.</translation>
+    </message>
+    <message id="Localisation.Dit_RienEnlever">
+        <source>Aucune ligne n'est sélectionnée, et la dernière n'est pas vide.</source>
+        <translation>No row is selected, and the last one isn't empty.</translation>
+    </message>
+    <message id="Localisation.Txt_LectureImp">
+        <source>Le fichier original ne peut pas être lu.</source>
+        <translation>The original file can't be read.</translation>
+    </message>
+    <message id="Localisation.Txt_TropGrand">
+        <source>“¿%” deviendrait trop long et n'est pas écrit.</source>
+        <extracomment>The placeholder: the name of a file.</extracomment>
+        <translation>“¿%” would grow too long and is not written.</translation>
+    </message>
+    <message id="Localisation.Txt_DossierPlein">
+        <source>“¿%” est un dossier. Ce qu'il contient sera supprimé avec lui. Nombre d'éléments : ¿%.</source>
+        <extracomment>The placeholders: the name of a folder, and how many items are in it.</extracomment>
+        <translation>“¿%” is a folder. What is in it will be deleted with it. Number of items: ¿%.</translation>
+    </message>
+    <message id="Localisation.Txt_RemplOriginal">
+        <source>“¿%” est le fichier original lui-même. Son texte d'avant sera perdu.</source>
+        <extracomment>The placeholder: the name of a file.</extracomment>
+        <translation>“¿%” is the original file itself. Its old text will be lost.</translation>
+    </message>
+    <message id="Localisation.Dit_TraitArrete">
+        <source>Traitement arrêté, rien n'a été écrit.</source>
+        <translation>Processing stopped, nothing was written.</translation>
+    </message>
+    <message id="Localisation.Dit_RienEcrit">
+        <source>Rien n'a été écrit.</source>
+        <translation>Nothing was written.</translation>
+    </message>
+    <message id="Localisation.Dit_EcritDans">
+        <source>Écrit : ¿%, dans ¿%.</source>
+        <extracomment>The placeholders: names of files, and the path of their folder.</extracomment>
+        <translation>Written: ¿%, in ¿%.</translation>
     </message>
     <message id="Localisation.Btn_CopiList_HT">
         <source>Copier la liste dans le presse-papiers</source>

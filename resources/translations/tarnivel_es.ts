@@ -625,17 +625,53 @@ Estado de salida: 0 todo concuerda, 1 se ha señalado algo,
         <source>Nombre de fois où les textes cherchés ont été trouvés :</source>
         <translation>Número de veces que se han encontrado los textos buscados:</translation>
     </message>
-    <message id="Localisation.Txt_TropLignes">
+    <message id="Localisation.Dit_TropLignes">
         <source>Le tableau ne peut pas avoir plus de 1 000 lignes.</source>
         <translation>La tabla no puede tener más de 1000 filas.</translation>
     </message>
-    <message id="Localisation.Txt_TropLong">
+    <message id="Localisation.Dit_TropLong">
         <source>Trop long : une colonne du tableau peut avoir 2 000 000 de caractères.</source>
         <translation>Demasiado largo: una columna de la tabla puede tener 2 000 000 de caracteres.</translation>
     </message>
-    <message id="Localisation.Txt_TropColonnes">
+    <message id="Localisation.Dit_TropColonnes">
         <source>Les cellules au-delà de la troisième colonne ont été laissées de côté.</source>
         <translation>Se han omitido las celdas más allá de la tercera columna.</translation>
+    </message>
+    <message id="Localisation.Dit_RienEnlever">
+        <source>Aucune ligne n'est sélectionnée, et la dernière n'est pas vide.</source>
+        <translation>No hay ninguna fila seleccionada y la última no está vacía.</translation>
+    </message>
+    <message id="Localisation.Txt_LectureImp">
+        <source>Le fichier original ne peut pas être lu.</source>
+        <translation>No se puede leer el archivo original.</translation>
+    </message>
+    <message id="Localisation.Txt_TropGrand">
+        <source>“¿%” deviendrait trop long et n'est pas écrit.</source>
+        <extracomment>The placeholder: the name of a file.</extracomment>
+        <translation>“¿%” sería demasiado largo y no se escribe.</translation>
+    </message>
+    <message id="Localisation.Txt_DossierPlein">
+        <source>“¿%” est un dossier. Ce qu'il contient sera supprimé avec lui. Nombre d'éléments : ¿%.</source>
+        <extracomment>The placeholders: the name of a folder, and how many items are in it.</extracomment>
+        <translation>“¿%” es una carpeta. Su contenido se eliminará con ella. Número de elementos: ¿%.</translation>
+    </message>
+    <message id="Localisation.Txt_RemplOriginal">
+        <source>“¿%” est le fichier original lui-même. Son texte d'avant sera perdu.</source>
+        <extracomment>The placeholder: the name of a file.</extracomment>
+        <translation>“¿%” es el propio archivo original. Su texto anterior se perderá.</translation>
+    </message>
+    <message id="Localisation.Dit_TraitArrete">
+        <source>Traitement arrêté, rien n'a été écrit.</source>
+        <translation>Tratamiento detenido, no se ha escrito nada.</translation>
+    </message>
+    <message id="Localisation.Dit_RienEcrit">
+        <source>Rien n'a été écrit.</source>
+        <translation>No se ha escrito nada.</translation>
+    </message>
+    <message id="Localisation.Dit_EcritDans">
+        <source>Écrit : ¿%, dans ¿%.</source>
+        <extracomment>The placeholders: names of files, and the path of their folder.</extracomment>
+        <translation>Escrito: ¿%, en ¿%.</translation>
     </message>
     <message id="Localisation.Btn_CopiList_HT">
         <source>Copier la liste dans le presse-papiers</source>

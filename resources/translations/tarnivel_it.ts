@@ -625,17 +625,53 @@ Stato di uscita: 0 tutto concorda, 1 qualcosa è stato segnalato,
         <source>Nombre de fois où les textes cherchés ont été trouvés :</source>
         <translation>Numero di volte in cui i testi cercati sono stati trovati:</translation>
     </message>
-    <message id="Localisation.Txt_TropLignes">
+    <message id="Localisation.Dit_TropLignes">
         <source>Le tableau ne peut pas avoir plus de 1 000 lignes.</source>
         <translation>La tabella non può avere più di 1.000 righe.</translation>
     </message>
-    <message id="Localisation.Txt_TropLong">
+    <message id="Localisation.Dit_TropLong">
         <source>Trop long : une colonne du tableau peut avoir 2 000 000 de caractères.</source>
         <translation>Troppo lungo: una colonna della tabella può avere 2.000.000 di caratteri.</translation>
     </message>
-    <message id="Localisation.Txt_TropColonnes">
+    <message id="Localisation.Dit_TropColonnes">
         <source>Les cellules au-delà de la troisième colonne ont été laissées de côté.</source>
         <translation>Le celle oltre la terza colonna sono state tralasciate.</translation>
+    </message>
+    <message id="Localisation.Dit_RienEnlever">
+        <source>Aucune ligne n'est sélectionnée, et la dernière n'est pas vide.</source>
+        <translation>Nessuna riga è selezionata e l'ultima non è vuota.</translation>
+    </message>
+    <message id="Localisation.Txt_LectureImp">
+        <source>Le fichier original ne peut pas être lu.</source>
+        <translation>Il file originale non può essere letto.</translation>
+    </message>
+    <message id="Localisation.Txt_TropGrand">
+        <source>“¿%” deviendrait trop long et n'est pas écrit.</source>
+        <extracomment>The placeholder: the name of a file.</extracomment>
+        <translation>“¿%” diventerebbe troppo lungo e non viene scritto.</translation>
+    </message>
+    <message id="Localisation.Txt_DossierPlein">
+        <source>“¿%” est un dossier. Ce qu'il contient sera supprimé avec lui. Nombre d'éléments : ¿%.</source>
+        <extracomment>The placeholders: the name of a folder, and how many items are in it.</extracomment>
+        <translation>“¿%” è una cartella. Il suo contenuto verrà eliminato con essa. Numero di elementi: ¿%.</translation>
+    </message>
+    <message id="Localisation.Txt_RemplOriginal">
+        <source>“¿%” est le fichier original lui-même. Son texte d'avant sera perdu.</source>
+        <extracomment>The placeholder: the name of a file.</extracomment>
+        <translation>“¿%” è il file originale stesso. Il suo testo precedente andrà perso.</translation>
+    </message>
+    <message id="Localisation.Dit_TraitArrete">
+        <source>Traitement arrêté, rien n'a été écrit.</source>
+        <translation>Elaborazione interrotta, non è stato scritto nulla.</translation>
+    </message>
+    <message id="Localisation.Dit_RienEcrit">
+        <source>Rien n'a été écrit.</source>
+        <translation>Non è stato scritto nulla.</translation>
+    </message>
+    <message id="Localisation.Dit_EcritDans">
+        <source>Écrit : ¿%, dans ¿%.</source>
+        <extracomment>The placeholders: names of files, and the path of their folder.</extracomment>
+        <translation>Scritto: ¿%, in ¿%.</translation>
     </message>
     <message id="Localisation.Btn_CopiList_HT">
         <source>Copier la liste dans le presse-papiers</source>

@@ -625,17 +625,53 @@ Afsluitstatus: 0 alles stemt overeen, 1 er is iets gemeld,
         <source>Nombre de fois où les textes cherchés ont été trouvés :</source>
         <translation>Zo vaak zijn de gezochte teksten gevonden:</translation>
     </message>
-    <message id="Localisation.Txt_TropLignes">
+    <message id="Localisation.Dit_TropLignes">
         <source>Le tableau ne peut pas avoir plus de 1 000 lignes.</source>
         <translation>De tabel kan niet meer dan 1.000 rijen hebben.</translation>
     </message>
-    <message id="Localisation.Txt_TropLong">
+    <message id="Localisation.Dit_TropLong">
         <source>Trop long : une colonne du tableau peut avoir 2 000 000 de caractères.</source>
         <translation>Te lang: een kolom van de tabel kan 2.000.000 tekens hebben.</translation>
     </message>
-    <message id="Localisation.Txt_TropColonnes">
+    <message id="Localisation.Dit_TropColonnes">
         <source>Les cellules au-delà de la troisième colonne ont été laissées de côté.</source>
         <translation>De cellen voorbij de derde kolom zijn weggelaten.</translation>
+    </message>
+    <message id="Localisation.Dit_RienEnlever">
+        <source>Aucune ligne n'est sélectionnée, et la dernière n'est pas vide.</source>
+        <translation>Er is geen rij geselecteerd en de laatste is niet leeg.</translation>
+    </message>
+    <message id="Localisation.Txt_LectureImp">
+        <source>Le fichier original ne peut pas être lu.</source>
+        <translation>Het originele bestand kan niet gelezen worden.</translation>
+    </message>
+    <message id="Localisation.Txt_TropGrand">
+        <source>“¿%” deviendrait trop long et n'est pas écrit.</source>
+        <extracomment>The placeholder: the name of a file.</extracomment>
+        <translation>“¿%” zou te lang worden en wordt niet geschreven.</translation>
+    </message>
+    <message id="Localisation.Txt_DossierPlein">
+        <source>“¿%” est un dossier. Ce qu'il contient sera supprimé avec lui. Nombre d'éléments : ¿%.</source>
+        <extracomment>The placeholders: the name of a folder, and how many items are in it.</extracomment>
+        <translation>“¿%” is een map. Wat erin zit, wordt samen met de map verwijderd. Aantal onderdelen: ¿%.</translation>
+    </message>
+    <message id="Localisation.Txt_RemplOriginal">
+        <source>“¿%” est le fichier original lui-même. Son texte d'avant sera perdu.</source>
+        <extracomment>The placeholder: the name of a file.</extracomment>
+        <translation>“¿%” is het originele bestand zelf. De oude tekst gaat verloren.</translation>
+    </message>
+    <message id="Localisation.Dit_TraitArrete">
+        <source>Traitement arrêté, rien n'a été écrit.</source>
+        <translation>Verwerking gestopt, er is niets geschreven.</translation>
+    </message>
+    <message id="Localisation.Dit_RienEcrit">
+        <source>Rien n'a été écrit.</source>
+        <translation>Er is niets geschreven.</translation>
+    </message>
+    <message id="Localisation.Dit_EcritDans">
+        <source>Écrit : ¿%, dans ¿%.</source>
+        <extracomment>The placeholders: names of files, and the path of their folder.</extracomment>
+        <translation>Geschreven: ¿%, in ¿%.</translation>
     </message>
     <message id="Localisation.Btn_CopiList_HT">
         <source>Copier la liste dans le presse-papiers</source>

@@ -1,3 +1,4 @@
+#include "specialA/WinSpecA.h"
 #include "tests/faults/FaultTest.h"
 
 #include <csignal>
@@ -12,18 +13,16 @@ using Seconds = std::chrono::duration<double>;
 
 class Kills : public FaultTest {
 protected:
-    /// Saves and quits as the program does, in a process of its own that dies in place of a call (0: of none) or after
-    /// some time, and checks what is on disk then. The result is whether it came to its end.
-    bool SaveAndQuit(int call, std::optional<Seconds> time)
+    /// Acts in a process of its own, with a window, that dies in place of a call (0: of none) or after some time. The
+    /// result is whether it came to its end.
+    bool InProcess(const std::function<int()>& act, int call, std::optional<Seconds> time = {})
     {
         const pid_t process = fork();
         if (process == 0) {
             OpenAndFill();
             const FileFaults faults(folder.Path(), {call, 0});
             std::raise(SIGSTOP);
-            window->BtnSave_Pressed();
-            window->Close();
-            _exit(app->Run());
+            _exit(act());
         }
         int status = 0;
         EXPECT_TRUE(waitpid(process, &status, WUNTRACED) == process && WIFSTOPPED(status)) << status;
@@ -34,8 +33,20 @@ protected:
         }
         EXPECT_EQ(waitpid(process, &status, 0), process);
         EXPECT_TRUE(WIFEXITED(status) ? WEXITSTATUS(status) == 0 : WTERMSIG(status) == SIGKILL) << status;
-        CheckFiles(WIFEXITED(status));
         return WIFEXITED(status);
+    }
+
+    /// Saves and quits as the program does, and checks what is on disk then.
+    bool SaveAndQuit(int call, std::optional<Seconds> time)
+    {
+        const auto act = [this] {
+            window->BtnSave_Pressed();
+            window->Close();
+            return app->Run();
+        };
+        const bool ended = InProcess(act, call, time);
+        CheckFiles(ended);
+        return ended;
     }
 
     void CheckFiles(bool ended)
@@ -72,6 +83,34 @@ TEST_F(Kills, AtRandomMomentsLeaveTheOldOrTheNew)
         SaveAndQuit(0, middle * part(random));
         // Half of them early, half of them late, however fast the machine is.
         middle *= reached["old"] > early ? 1.1 : 0.9;
+    }
+}
+
+TEST_F(Kills, OfATreatmentLeaveTheOldOrTheNew)
+{
+    const auto in = folder.Path() / "in";
+    before = {{in / "original.txt", Lines('x')}, {in / "one", "old"}, {in / "two/inner", "old"}};
+    const auto act = [&] {
+        app->TabSpecAorg = {U"", U"x"};
+        app->TabSpecAdest1 = {U"one", U"1"};
+        app->TabSpecAdest2 = {U"two", U"2"};
+        app->PathSpecA = Fncts::AbsPath_f(FolderItem(in / "original.txt"), true);
+        WinSpecA special(*window, window->SegButtSpecA, window->TimerQuit);
+        special.Show();
+        probe.Answers = {1, 3, 3, 3};
+        special.PushButtTrait_Pressed();
+        return 0;
+    };
+    bool ended = false;
+    for (int call = 1; !ended && !HasFailure(); ++call) {
+        ended = InProcess(act, call);
+        const std::string one = folder.Content(in / "one");
+        EXPECT_TRUE(one == Lines('1') || (one == "old" && !ended));
+        const bool two = std::filesystem::is_regular_file(in / "two") && folder.Content(in / "two") == Lines('2');
+        // Between the old folder and the new file there is the complete new one under another name.
+        EXPECT_TRUE(two || (!ended && (folder.Content(in / "two/inner") == "old" ||
+                                       folder.Content(in / ".tarnivel-1") == Lines('2'))));
+        EXPECT_EQ(folder.Content(in / "original.txt"), Lines('x'));
     }
 }
 

@@ -4,7 +4,9 @@
 #include "support/PathForm.h"
 #include "tests/TemporaryFolder.h"
 #include "toolkit/Probe.h"
+#include "toolkit/core/Exceptions.h"
 
+#include <cerrno>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
@@ -14,8 +16,13 @@ const String found = U"Nombre de fois où les textes cherchés ont été trouvé
 
 String Exists(StringView name)
 {
-    return U"Un fichier nommé “" + String(name) + U"” existe déjà.[Remplacer][Ne pas remplacer]";
+    return U"Un fichier nommé “" + String(name) + U"” existe déjà.[Ne pas remplacer][Remplacer]";
 }
+
+const String lost = U"“original.txt” est le fichier original lui-même. Son texte d'avant sera perdu.[Ne pas remplacer]"
+                    U"[Remplacer]",
+             full = U"“full” est un dossier. Ce qu'il contient sera supprimé avec lui. Nombre d'éléments : 1."
+                    U"[Ne pas remplacer][Remplacer]";
 
 class SpecialA : public testing::Test {
 protected:
@@ -58,7 +65,7 @@ protected:
 
 TEST_F(SpecialA, WritesWhatTheAnswersAllow)
 {
-    const String failed = U"Il y a eu une erreur pendant l'écriture du fichier.[Ok]",
+    const String failed = U"Il y a eu une erreur pendant l'écriture du fichier.\n",
                  unchanged = U"Le fichier n'a pas été modifié, souhaitez-vous l'enregistrer tout de même ?"
                              U"[Continuer][Arrêter]";
     using Answers = std::deque<Probe::Answer>;
@@ -72,15 +79,19 @@ TEST_F(SpecialA, WritesWhatTheAnswersAllow)
         StringView replacement1 = U"1";
     };
     const Row rows[] = {
+        // clang-format off
         {"both are written", U"one", U"two", {}, "x 1|x 2|x A", {}, 2},
         {"nothing after the second button", U"one", U"two", {2}, "||x A", {}, 0},
         {"without names nothing is written", U"", U"", {}, "||x A", {}, 0},
-        {"one is refused, the other written", U"taken", U"two", {1, 2}, "|x 2|x A", {Exists(U"taken")}, 1},
-        {"of the same name twice the second stays", U"one", U"one", {}, "x 2||x A", {Exists(U"one")}, 2},
-        {"the original when so wanted", U"original.txt", U"", {}, "||x 1", {Exists(U"original.txt")}, 1},
-        {"a full folder is kept when so wanted", U"full", U"two", {1, 2}, "|x 2|x A", {Exists(U"full")}, 1},
-        {"no name leads out of the folder", U"../two", U"..", {}, "||x A", {failed, failed}, 0},
+        {"one is refused, the other written", U"taken", U"two", {1, 1}, "|x 2|x A", {Exists(U"taken")}, 1},
+        {"of the same name twice the second stays", U"one", U"one", {1, 3}, "x 2||x A", {Exists(U"one")}, 2},
+        {"the original when so wanted", U"original.txt", U"", {1, 3, 3}, "||x 1", {Exists(U"original.txt"), lost}, 1},
+        {"the original is kept when so wanted", U"original.txt", U"", {1, 3}, "||x A", {Exists(U"original.txt"), lost}, 0},
+        {"a full folder is kept when so wanted", U"full", U"", {1, 3}, "||x A", {Exists(U"full"), full}, 0},
+        {"an empty one gives way", U"empty", U"", {1, 3}, "||x A", {Exists(U"empty")}, 1},
+        {"no name leads out of the folder", U"../two", U"..", {}, "||x A", {failed + U"../two[Ok]", failed + U"..[Ok]"}, 0},
         {"another case alone is no change", U"one", U"two", {1, 2}, "|x 2|x A", {unchanged}, 1, U"a"},
+        // clang-format on
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
@@ -89,6 +100,7 @@ TEST_F(SpecialA, WritesWhatTheAnswersAllow)
         folder.File("in/taken", "old");
         folder.File("two", "outside");
         folder.File("in/full/inner", "kept");
+        folder.Folder("in/empty");
         app.TabSpecAdest1 = {U"", String(row.replacement1)};
         Open(original);
         window->TextFieldDest1.SetText(row.dest1);
@@ -109,11 +121,18 @@ TEST_F(SpecialA, WritesWhatTheAnswersAllow)
 
 TEST_F(SpecialA, AFullFolderGivesWayWhenTheUserSaysSo)
 {
-    folder.File("one/inner", "given up");
+    folder.File("full/inner", "given up");
+    folder.File("behind", "kept");
+    std::filesystem::create_symlink("behind", folder.Path() / "alias");
+    app.TabSpecAdest1[0] = U"full";
+    app.TabSpecAdest2[0] = U"alias";
     Open(folder.File("original.txt", "x A"));
+    probe.Answers = {1, 3, 3, 3};
     window->PushButtTrait_Pressed();
-    EXPECT_EQ(Asked(), (std::vector{found, Exists(U"one")}));
-    EXPECT_EQ(folder.Content("one"), "x 1");
+    EXPECT_EQ(Asked(), (std::vector{found, Exists(U"full"), full, Exists(U"alias")}));
+    EXPECT_EQ(folder.Content("full") + folder.Content("alias") + folder.Content("behind"), "x 1x 2kept");
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.Path()), {}), 4) << "nothing is left over";
+    EXPECT_EQ(Said(), U"Écrit : full, alias, dans " + FolderItem(folder.Path()).NativePath() + U".");
 }
 
 TEST_F(SpecialA, StaysAliveInALongTreatment)
@@ -140,6 +159,17 @@ TEST_F(SpecialA, StaysAliveInALongTreatment)
     EXPECT_FALSE(window->ProgressTrait.Visible());
     EXPECT_TRUE(window->Visible()) << "no close in the middle";
     EXPECT_GE(probe.Beeps, ticks);
+
+    Asked();
+    watch.Action = [&] {
+        if (window->PushButtTrait.Caption() == U"Arrêter") window->PushButtTrait_Pressed();
+        watch.SetRunMode(Timer::RunModes::Single);
+    };
+    watch.SetRunMode(Timer::RunModes::Single);
+    window->PushButtTrait_Pressed();
+    EXPECT_EQ(Asked(), std::vector<String>());
+    EXPECT_EQ(Said(), U"Traitement arrêté, rien n'a été écrit.");
+    EXPECT_EQ(window->PushButtTrait.Caption(), U"Traiter");
 }
 
 TEST_F(SpecialA, HasNoUseForWhatIsNoFile)
@@ -155,7 +185,15 @@ TEST_F(SpecialA, HasNoUseForWhatIsNoFile)
     std::filesystem::remove(gone);
     window->PushButtTrait_Pressed();
     EXPECT_EQ(Asked(), std::vector{missing});
-    EXPECT_EQ(window->TextFieldOrg.Text(), U"…");
+    EXPECT_EQ(window->TextFieldOrg.Text(), U"gone.txt");
+    window->Close();
+    EXPECT_EQ(app.PathSpecA, Fncts::AbsPath_f(FolderItem(gone), true)) << "it may be away for a while";
+    Open();
+    EXPECT_EQ(window->TextFieldOrg.Text(), U"gone.txt");
+    folder.File("gone.txt", "a");
+    window->PushButtTrait_Pressed();
+    EXPECT_EQ(Asked().front(), found) << "it is there again";
+    std::filesystem::remove(gone);
 
     std::filesystem::create_symlink(folder.File("text"), gone);
     window->PushButtTrait_Pressed();
@@ -165,9 +203,9 @@ TEST_F(SpecialA, HasNoUseForWhatIsNoFile)
     ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
     Open(pipe);
     window->PushButtTrait_Pressed();
-    EXPECT_EQ(Asked().front(),
-              U"Nombre de fois où les textes cherchés ont été trouvés :\n • 0 x “a”[Continuer][Arrêter]")
-        << "it can't be read, and doesn't wait";
+    EXPECT_EQ(Asked(), std::vector{U"Le fichier original ne peut pas être lu.\n" + FolderItem(pipe).NativePath() +
+                                   U"\n" + SystemError(EINVAL).Message + U"[Ok]"})
+        << "it doesn't wait";
 }
 
 TEST_F(SpecialA, TakesDroppedTextFilesOnly)
