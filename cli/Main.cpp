@@ -44,9 +44,7 @@ String Read(std::string_view name)
     const String raw = Encodings::UTF8.Decode(bytes);
     const Acceptance acceptance = AcceptSceneryText(raw);
     if (acceptance.accepted) return acceptance.text;
-    if (raw.empty()) throw Refusal{Dit_Vide()};
-    if (raw.starts_with(U'\uFEFF')) throw Refusal{Dit_Bom()};
-    throw Refusal{AcceptSceneryText(ReplaceLineEndings(raw, TxtEoF)).accepted ? Dit_FinsWindows() : Dit_SansEntete()};
+    throw Refusal{ReasonOfRefusal(raw)};
 }
 
 /// The text, or nothing once the user has been told why there is none.

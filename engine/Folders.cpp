@@ -107,7 +107,7 @@ String UnlistedLines(StringView text, const FolderItem& dossier)
 {
     String lines;
     for (const String& folder : CompareFolders(LinesOf(text), dossier).unlisted) {
-        if (folder.find(U'/') != String::npos) continue;
+        if (folder.find_first_of(U"/\n\r\uFFFD") != String::npos) continue;
         lines.append(EnabledPrefix).append(CustomScenery).append(folder).append(U"/").append(TxtEoF);
     }
     return lines;

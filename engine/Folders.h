@@ -36,8 +36,8 @@ struct FolderFindings {
 FolderFindings CompareFolders(std::span<const SceneryLine> lines, const FolderItem& dossier);
 
 /// The lines that would list, enabled and by name, the folders in `dossier` that `text` doesn't, each with its line
-/// end.
-/// "" when there are none. A folder with ":" in its name on disk is left out: no line can name it.
+/// end; "" when there are none. A folder is left out whose name no line can hold: one with ":" or a line end on disk,
+/// or with bytes that are no UTF-8.
 String UnlistedLines(StringView text, const FolderItem& dossier);
 
 /// The offset behind the header and the blank line there: where `UnlistedLines` belong. A text that ends with its

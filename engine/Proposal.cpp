@@ -55,7 +55,11 @@ Proposal ProposeModel(StringView text, std::span<const Pack> packs)
     std::array<std::vector<String>, titles.size()> names;
     std::set<String> met;
     for (const Pack& pack : packs) {
-        const Kind kind = met.insert(FoldCase(NameOf(pack))).second ? KindOf(pack) : Repeated;
+        // No name holds a "/": a path is never taken for a scenery of the same name.
+        const bool isScenery = !RetScenLigne(pack.line).empty();
+        const Kind kind = met.insert(FoldCase(isScenery ? String(NameOf(pack)) : U"/" + String(NameOf(pack)))).second
+                              ? KindOf(pack)
+                              : Repeated;
         lines[kind].append(pack.line).append(TxtEoF);
         names[kind].emplace_back(NameOf(pack));
         if (kind == Unknown) names[kind].back().append(U" (").append(pack.facts.doubt).append(U")");

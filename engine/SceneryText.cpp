@@ -1,5 +1,7 @@
 #include "engine/SceneryText.h"
 
+#include "localisation/Localisation.h"
+
 namespace {
 
 constexpr std::size_t starsOfError = 89;
@@ -36,6 +38,15 @@ Acceptance AcceptSceneryText(StringView raw)
     if (raw.empty()) return {String(ErrorMarker) + U"  empty", false};
     if (!BeginsWith(raw, TxtDebSpack)) return {MissingHeader(raw), false};
     return {ReplaceLineEndings(raw, TxtEoF), true};
+}
+
+String ReasonOfRefusal(StringView raw)
+{
+    if (raw.empty()) return Localisation::Dit_Vide();
+    if (raw.starts_with(U'\uFEFF')) return Localisation::Dit_Bom();
+    if (BeginsWith(raw, ErrorMarker)) return String(NthField(Middle(raw, std::ssize(ErrorMarker)), U"\n", 1));
+    const bool differsInLineEnds = BeginsWith(ReplaceAll(Left(raw, 2 * LgTxtDebSpack), U"\r\n", U"\n"), TxtDebSpack);
+    return differsInLineEnds ? Localisation::Dit_FinsWindows() : Localisation::Dit_SansEntete();
 }
 
 StringView RetScenLigne(StringView ligne)

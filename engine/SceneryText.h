@@ -33,6 +33,10 @@ struct Acceptance {
 /// ends with the whole of it as it came.
 Acceptance AcceptSceneryText(StringView raw);
 
+/// Why a text as it came is no scenery text: its line ends, a byte-order mark, nothing in it, the error of the
+/// connection, or another beginning.
+String ReasonOfRefusal(StringView raw);
+
 /// The folder's name in a line of a custom pack, or "": "SCENERY_PACK Custom Scenery/Alpes/Sud/" gives "Alpes".
 ///
 /// The keyword may stand anywhere in the line, and the first one counts. A name without "/" behind it is none. The name

@@ -2,14 +2,14 @@
 #include "localisation/Localisation.h"
 #include "mainwindow/WinMain.h"
 #include "packs/LookAtPack.h"
+#include "support/AtEnd.h"
 #include "support/DialogHelpers.h"
 #include "support/PathForm.h"
 #include "support/Status.h"
 #include "support/TextFiles.h"
+#include "support/TextHelpers.h"
 #include "toolkit/DesktopApplication.h"
 #include "toolkit/core/System.h"
-
-#include <utility>
 
 using namespace Localisation;
 
@@ -19,7 +19,7 @@ void WinMain::TexteProposer_Action()
     const Fncts::Reading reading = Fncts::LireFichier(spack);
     if (reading.cleanedLines > 0) Tell(Fncts::CleaningReport(reading, TextFieldSpack.Text()));
     const Acceptance source = AcceptSceneryText(reading.text);
-    if (!source.accepted) return Fncts::Refuser(ReplaceAll(Dit_SpackRefuse(), U"¿%", Dit_Vide()));
+    if (!source.accepted) return Fncts::Refuser(Fncts::Filled(Dit_SpackRefuse(), {ReasonOfRefusal(reading.text)}));
     const std::optional<FolderItem> file = Fncts::MyDialogSave(U"modele.ini", Txt_ChoisirModele(), this);
     if (!file) return;
     const std::optional<std::vector<Pack>> packs = LookAtPacks(LinesToPropose(source.text, *spack->Parent()), *spack);
@@ -33,7 +33,6 @@ void WinMain::TexteProposer_Action()
     PopMenuAff.SetSelectedRowIndex(rowModel);
     AffArea();
     TextAreaAff.SetFocus();
-    Fncts::Dire(Txt_PropFait());
     Fncts::MyDialogBox({.message = Txt_PropFait(), .explanation = proposal.report, .btnAction = Btn_Ok(), .win = this});
 }
 
@@ -43,6 +42,11 @@ std::optional<std::vector<Pack>> WinMain::LookAtPacks(std::span<const String> li
     constexpr Int64 ticksUnseen = 30, ticksBetween = 3;
     App::Current().EnableMenuBoutons(false);
     DrapProposer = true;
+    const AtEnd idle([this] {
+        DrapProposer = false;
+        ProgressProposer.SetVisible(false);
+        App::Current().EnableMenuBoutons(true);
+    });
     std::vector<Pack> packs;
     const Int64 start = System::Ticks();
     Int64 last = start;
@@ -53,10 +57,8 @@ std::optional<std::vector<Pack>> WinMain::LookAtPacks(std::span<const String> li
         last = now;
         ProgressProposer.SetVisible(now - start >= ticksUnseen);
         ProgressProposer.SetValue(static_cast<int>(100 * packs.size() / lines.size()));
-        DesktopApplication::YieldToPlatform();
-        if (!DrapProposer) break;
+        DesktopApplication::YieldToUser();
+        if (!DrapProposer || DesktopApplication::EndRequested()) return {};
     }
-    ProgressProposer.SetVisible(false);
-    App::Current().EnableMenuBoutons(true);
-    return std::exchange(DrapProposer, false) ? std::optional(packs) : std::nullopt;
+    return packs;
 }

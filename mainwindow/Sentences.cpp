@@ -1,6 +1,5 @@
 #include "mainwindow/Sentences.h"
 
-#include "engine/SceneryText.h"
 #include "localisation/Localisation.h"
 #include "support/TextHelpers.h"
 
@@ -17,13 +16,4 @@ String StatusSentence(Int64 line, const LineCounts& counts)
            Join({{Counted(counts.lines, Nb_Lignes()), Counted(counts.enabled, Nb_Activees()),
                   Counted(counts.disabled, Nb_Desactivees()), Counted(counts.marked, Nb_SansEquiv())}},
                 U", ");
-}
-
-String ReasonOfRefusal(StringView raw)
-{
-    if (raw.empty()) return Dit_Vide();
-    if (raw.starts_with(U'\uFEFF')) return Dit_Bom();
-    if (BeginsWith(raw, ErrorMarker)) return String(NthField(Middle(raw, std::ssize(ErrorMarker)), U"\n", 1));
-    const bool differsInLineEnds = BeginsWith(ReplaceAll(Left(raw, 2 * LgTxtDebSpack), U"\r\n", U"\n"), TxtDebSpack);
-    return differsInLineEnds ? Dit_FinsWindows() : Dit_SansEntete();
 }

@@ -13,7 +13,3 @@ String Counted(Int64 number, StringView forms);
 
 /// "Line 3 · 12 lines, 7 enabled, 2 disabled, 1 unmatched".
 String StatusSentence(Int64 line, const LineCounts& counts);
-
-/// Why a text as it came is no scenery text: its line ends, a byte-order mark, nothing in it, the error of the
-/// connection, or another beginning.
-String ReasonOfRefusal(StringView raw);

@@ -49,10 +49,15 @@ void PlaySound(const QUrl& file, float volume, const std::shared_ptr<std::atomic
         const QAudioDevice device = Device();
         if (device.isNull()) return void(*isPlaying = false);
         auto* const effect = new QSoundEffect(device, stage);
-        QObject::connect(effect, &QSoundEffect::playingChanged, effect, [effect, isPlaying] {
-            if (effect->isPlaying()) return;
+        const auto end = [effect, isPlaying] {
             *isPlaying = false;
             effect->deleteLater();
+        };
+        QObject::connect(effect, &QSoundEffect::playingChanged, effect, [effect, end] {
+            if (!effect->isPlaying()) end();
+        });
+        QObject::connect(effect, &QSoundEffect::statusChanged, effect, [effect, end] {
+            if (effect->status() == QSoundEffect::Error) end();
         });
         effect->setVolume(volume);
         effect->setSource(file);
