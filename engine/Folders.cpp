@@ -67,6 +67,7 @@ void AddListings(FolderFindings& findings, std::span<const String> folders, std:
         const std::size_t name = pairs.ofListing[doubtful[place]];
         if (++met[name] > pairs.folders[name]) {
             findings.missing.push_back(listing);
+            if (pairs.folders[name] == 0) findings.homeless.push_back(listing);
         } else if (!isSpelledSo(listing)) {
             const auto folder = std::ranges::find(pairs.ofFolder, name) - pairs.ofFolder.begin();
             findings.misspelled.push_back({listing, folders[static_cast<std::size_t>(folder)]});
@@ -123,7 +124,7 @@ Int64 FirstPlace(StringView text)
 std::vector<Int64> EnabledWithoutFolder(StringView text, const FolderItem& dossier)
 {
     std::vector<Int64> starts;
-    for (const Listing& listing : CompareFolders(LinesOf(text), dossier).missing)
+    for (const Listing& listing : CompareFolders(LinesOf(text), dossier).homeless)
         if (listing.line.state == LineState::Enabled) starts.push_back(listing.line.text.data() - text.data());
     std::ranges::sort(starts);
     return starts;

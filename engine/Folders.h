@@ -23,8 +23,10 @@ struct Misspelling {
 struct FolderFindings {
     /// The folders that no line names, by name.
     std::vector<String> unlisted;
-    /// The listings without a folder, by their lines when sorted.
+    /// The listings without a folder of their own, by their lines when sorted.
     std::vector<Listing> missing;
+    /// Of those the ones whose name has no folder at all.
+    std::vector<Listing> homeless;
     /// By their lines when sorted.
     std::vector<Misspelling> misspelled;
 };

@@ -29,19 +29,21 @@ void WinMain::AffArea()
 void WinMain::ShowStatus()
 {
     const TextDocument& shown = Document(PopMenuAff.SelectedRowIndex());
-    SetStatus(StatusSentence(TextAreaAff.CaretLine() + 1, {.lines = shown.LineCount(),
-                                                           .enabled = shown.LinesIn(Colouring::EnabledKeyword),
-                                                           .disabled = shown.LinesIn(Colouring::DisabledKeyword),
-                                                           .marked = shown.MarkedLines()}));
+    const Int64 line = std::min(TextAreaAff.CaretLine() + 1, std::max(shown.LineCount(), Int64{1}));
+    SetStatus(StatusSentence(line, {.lines = shown.LineCount(),
+                                    .enabled = shown.LinesIn(Colouring::EnabledKeyword),
+                                    .disabled = shown.LinesIn(Colouring::DisabledKeyword),
+                                    .marked = shown.MarkedLines()}));
 }
 
-void WinMain::ShowRun(const SceneryTexts& texts)
+void WinMain::ShowRun(const SceneryTexts& texts, std::initializer_list<int> rows)
 {
-    Document(rowModel).ReplaceText(texts.TextModel, texts.CoulModSpack);
-    Document(rowSource).ReplaceText(texts.TextSrcSpack);
-    Document(rowDest).ReplaceText(texts.TextDestSpack, texts.CoulDestSpack);
-    for (TextDocument& document : documents_)
-        document.SetUnmodified();
+    const std::pair<StringView, std::span<const Int64>> shown[] = {
+        {texts.TextModel, texts.CoulModSpack}, {texts.TextSrcSpack, {}}, {texts.TextDestSpack, texts.CoulDestSpack}};
+    for (const int row : rows) {
+        Document(row).ReplaceText(shown[row].first, shown[row].second);
+        Document(row).SetUnmodified();
+    }
 }
 
 bool WinMain::Forget(std::initializer_list<int> rows)

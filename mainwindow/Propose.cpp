@@ -22,6 +22,7 @@ void WinMain::TexteProposer_Action()
     if (!source.accepted) return Fncts::Refuser(Fncts::Filled(Dit_SpackRefuse(), {ReasonOfRefusal(reading.text)}));
     const std::optional<FolderItem> file = Fncts::MyDialogSave(U"modele.ini", Txt_ChoisirModele(), this);
     if (!file) return;
+    if (!Fncts::ComesBack(*file)) return Fncts::Refuser(Txt_NomNonGarde());
     const std::optional<std::vector<Pack>> packs = LookAtPacks(LinesToPropose(source.text, *spack->Parent()), *spack);
     if (!packs) return Fncts::Dire(Dit_PropArretee());
 

@@ -42,23 +42,25 @@ void WinMain::BtnRun_Pressed()
         DrapProposer = false;
     } else if (Fncts::DrapMenu) {
         TextAreaAff.SetFocus();
+        run_ = RunState::Asked;
         App::Current().EnableMenuBoutons(false);
         TimerDebRun.SetRunMode(Timer::RunModes::Single);
-    } else {
+    } else if (run_ != RunState::None) {
         TimerDebRun.SetRunMode(Timer::RunModes::Off);
         URLCnctLirePage.Disconnect();
-        SceneryTexts nothing;
+        ShowRun({}, {rowModel, rowDest});
         // Stopped before it began, a run has not touched the source.
-        if (!DrapRun) nothing.TextSrcSpack = Document(rowSource).Text();
-        ShowRun(nothing);
+        if (run_ == RunState::Begun) ShowRun({}, {rowSource});
         EndRun();
         Fncts::Dire(Localisation::Dit_Arrete());
+    } else {
+        Fncts::BeepNbT(1); // The interface waits for a treatment, which has a button of its own.
     }
 }
 
 void WinMain::TimerDebRun_Action()
 {
-    DrapRun = true;
+    run_ = RunState::Begun;
     if (RadGrpSrc.SelectedIndex() == 0) return RunSuite(ReadFile(Fncts::GetFitemAbsPath(TextFieldMod1.Text(), false)));
     const String url = TextFieldMod2.Text();
     if (BeginsWith(url, U"http://") || BeginsWith(url, U"https://"))
@@ -99,14 +101,14 @@ void WinMain::RunSuite(Fncts::Reading model)
         texts.TextDestSpack = ErrorMarker;
         lastReport_ = sentence = Join(std::vector<StringView>(refusals.begin(), refusals.end()), U" ; ");
     }
-    ShowRun(texts);
+    ShowRun(texts, {rowModel, rowSource, rowDest});
     EndRun();
     Fncts::Dire(sentence + FormsOf({{field.Text(), model.form}, {TextFieldSpack.Text(), source.form}}));
 }
 
 void WinMain::EndRun()
 {
-    DrapRun = false;
+    run_ = RunState::None;
     App::Current().EnableMenuBoutons(true);
     // A disabled text area has lost the focus that it got when the run began.
     TextAreaAff.SetFocus();
@@ -130,10 +132,12 @@ String WinMain::Reorder(SceneryTexts& texts, const FolderItem& dossier)
                [&reports](const String& message, const String& explanation) { reports.Add(message, explanation); });
     reports.Finish();
     lastReport_ = reports.All();
-    if (BeginsWith(texts.TextDestSpack, ErrorMarker)) return Dit_Arrete();
+    if (BeginsWith(texts.TextDestSpack, ErrorMarker))
+        return Fncts::Filled(Dit_ModeleRefuse(), {NthField(lastReport_, EndOfLine::Native, 1)});
     const auto lines = CountFields(texts.TextDestSpack, TxtEoF) - (texts.TextDestSpack.ends_with(TxtEoF) ? 1 : 0);
     const auto marked = std::ssize(texts.CoulDestSpack);
     return Fncts::Filled(Dit_Reordonne(), {Join({{Counted(lines, Nb_Lignes()), Counted(marked, Nb_SansEquiv()),
                                                   Counted(reports.Count(), Nb_Remarques())}},
-                                                U", ")});
+                                                U", ")}) +
+           U" (" + (RadGrpSrc.SelectedIndex() == 0 ? RdButtSourceA() : RdButtSourceB()) + U")";
 }

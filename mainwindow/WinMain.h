@@ -183,8 +183,8 @@ private:
     /// What is found in the text stands a few lines below the top, so that what comes before it is seen too.
     static constexpr Int64 linesAbove = 5;
     TextDocument& Document(int row) { return documents_.at(static_cast<std::size_t>(row)); }
-    /// Hands the texts of a run over to the documents, each as one step that can be taken back.
-    void ShowRun(const SceneryTexts& texts);
+    /// Hands the texts of a run over to the documents in these rows, each as one step that can be taken back.
+    void ShowRun(const SceneryTexts& texts, std::initializer_list<int> rows);
     /// Empties documents for good, unless the user wants to keep what was edited there.
     bool Forget(std::initializer_list<int> rows);
     /// Whether the edits in these documents may go; asks only when there are any.
@@ -205,8 +205,8 @@ private:
     std::unique_ptr<WinSpecA> winSpecA_;
     /// What the last run reported, or why there was none.
     String lastReport_;
-    /// A run has begun: the timer behind the press has fired.
-    bool DrapRun = false;
+    /// What a press of the button stops: nothing, a run whose timer hasn't fired yet, or one that has begun.
+    enum class RunState : std::uint8_t { None, Asked, Begun } run_ = RunState::None;
     /// Packs are being looked at; false stops it.
     bool DrapProposer = false;
 };

@@ -130,7 +130,7 @@ TEST(Folders, EnabledWithoutFolder)
     String found;
     for (const Int64 start : starts)
         found += NthField(Middle(text, start), U"/", 2);
-    EXPECT_EQ(found, U"zAm") << "the first of two lines of a name has the folder";
+    EXPECT_EQ(found, U"zm") << "of two lines of a name neither lacks its folder";
 }
 
 TEST(Checks, Naff)

@@ -192,6 +192,10 @@ TEST_F(MainWindow, ASecondPressAtOnceStopsTheRunBeforeItBegins)
     window->BtnRun_Pressed();
     window->BtnRun_Pressed();
     EXPECT_EQ(View(1), U"I\n1000 version\nSCENERY\n");
+    App::Current().EnableMenuBoutons(false);
+    window->BtnRun_Pressed();
+    EXPECT_EQ(View(1), U"I\n1000 version\nSCENERY\n") << "where no run is under way, none is stopped";
+    App::Current().EnableMenuBoutons(true);
     EXPECT_EQ(View(2), U"");
     const auto later = std::chrono::steady_clock::now() + std::chrono::milliseconds(50);
     while (std::chrono::steady_clock::now() < later)
