@@ -51,7 +51,7 @@ void WinMain::ActSaveFile()
     if (const Fncts::Outcome written = Fncts::SauvFichier(*target, text); !written)
         return Tell(Txt_ErreurEcrNouvScen(), target->NativePath() + U"\n" + written.failure);
     asRead_[target->Path()] = Fncts::TextOfBytes(Fncts::DefAppEncod.Encode(text)).fingerprint;
-    Document(PopMenuAff.SelectedRowIndex()).SetUnmodified();
+    Document(PopMenuAff.SelectedRowIndex()).SetSaved();
     Fncts::PlayT(Fncts::_x_Msg::Msg());
     String sentence = Fncts::Filled(Dit_Enregistre(), {Fncts::AbsPath_f(*target, true)});
     if (archived) sentence += U" ; " + Fncts::Filled(Dit_Archive(), {*archived});

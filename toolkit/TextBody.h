@@ -56,10 +56,15 @@ public:
     /// The anchor and the caret of a selection.
     using Range = std::pair<int, int>;
     /// Undoing or redoing that leads to a state, a number of undo steps, brings the selection back.
-    void Keep(int state, Range selection) { states_[state].selection = selection; }
+    void Keep(int state, Range selection)
+    {
+        states_[state].selection = selection;
+        states_[state].top.reset();
+    }
     /// One step back or forth; moves the cursor. True if caret and top are to be taken anew.
     bool Travel(QTextCursor& cursor, bool forth);
     void SetUnmodified();
+    void SetSaved();
 
     void Wrap(QTextOption::WrapMode mode);
 
@@ -92,7 +97,7 @@ private:
     };
     /// A state of the history.
     struct State {
-        bool unmodified = false;
+        bool unmodified = false, saved = false;
         std::optional<Range> selection;
         /// The first character on screen, where that is to come back too.
         std::optional<int> top;
@@ -116,6 +121,7 @@ private:
     }
     [[nodiscard]] std::optional<ColorGroup> WholeColor(StringView text) const;
     static void Paint(QTextCursor& cursor, std::vector<Repaint>& repaints);
+    void Collect(int from, int to, std::vector<Repaint>& repaints);
     void Collect(const QTextBlock& block, std::vector<Repaint>& repaints);
     void ForgetStatesToCome() { states_.erase(states_.upper_bound(state_), states_.end()); }
 

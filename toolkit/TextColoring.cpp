@@ -120,9 +120,9 @@ void TextDocument::Body::Change(QTextCursor& cursor, std::span<const TextChange>
     const std::vector<int> positions = Positions(offsets);
     std::vector<Repaint> repaints;
     for (std::size_t i = changes.size(); i-- > 0;) {
-        // The format is that of the first character that goes: the one behind the position.
+        // The format is that of the first character that goes, if any: the one behind the position.
         cursor.setPosition(std::min(positions[2 * i] + 1, End()));
-        const bool marked = IsMarked(cursor.charFormat());
+        const bool marked = changes[i].length > 0 && IsMarked(cursor.charFormat());
         cursor.setPosition(positions[2 * i]);
         cursor.setPosition(positions[2 * i + 1], QTextCursor::KeepAnchor);
         const std::optional<ColorGroup> color = WholeColor(changes[i].text);
@@ -130,7 +130,7 @@ void TextDocument::Body::Change(QTextCursor& cursor, std::span<const TextChange>
         pairs_ = pairs_ || std::ranges::any_of(changes[i].text, [](char32_t c) { return c > 0xFFFF; });
         cursor.insertText(ToDocument(changes[i].text), Format(marked, color));
         // A keyword in the place of another leaves the rest of its line as it is.
-        if (!wasWhole) Collect(cursor.block(), repaints);
+        if (!wasWhole) Collect(positions[2 * i], cursor.position(), repaints);
         Paint(cursor, repaints);
     }
 }
@@ -140,9 +140,7 @@ void TextDocument::Body::Recolor()
 {
     const ProgramEdit edit(*this);
     std::vector<Repaint> repaints;
-    for (QTextBlock block = findBlock(touchedFrom_); block.isValid() && block.position() <= touchedTo_;
-         block = block.next())
-        Collect(block, repaints);
+    Collect(touchedFrom_, touchedTo_, repaints);
     touchedFrom_ = -1;
     typedFrom_ = typedTo_ = 0;
     if (repaints.empty()) return;
@@ -160,6 +158,12 @@ void TextDocument::Body::Paint(QTextCursor& cursor, std::vector<Repaint>& repain
         cursor.setCharFormat(repaint.format);
     }
     repaints.clear();
+}
+
+void TextDocument::Body::Collect(int from, int to, std::vector<Repaint>& repaints)
+{
+    for (QTextBlock block = findBlock(from); block.isValid() && block.position() <= to; block = block.next())
+        Collect(block, repaints);
 }
 
 /// Which characters of a line have another colour than they should have.

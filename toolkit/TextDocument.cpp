@@ -61,6 +61,8 @@ bool TextDocument::Modified() const { return body_->isModified(); }
 
 void TextDocument::SetUnmodified() { body_->SetUnmodified(); }
 
+void TextDocument::SetSaved() { body_->SetSaved(); }
+
 TextDocument::Body::Body(TextColors colors)
     : caret(this)
     , top(this)
@@ -73,6 +75,11 @@ TextDocument::Body::Body(TextColors colors)
             [this](int position, int /*removed*/, int added) { Count(position, position + added); });
     connect(this, &QTextDocument::contentsChanged, this, [this] {
         if (programEdits_ > 0 || touchedFrom_ < 0) return;
+        // The way back to the state before is this edit now: there the view stays where it is.
+        if (const auto before = states_.find(state_); before != states_.end()) {
+            before->second.selection.reset();
+            before->second.top.reset();
+        }
         Recolor();
         // What was known of it was another text: the history can have joined this one to its last step.
         states_.erase(states_.lower_bound(state_), states_.end());
@@ -192,7 +199,7 @@ bool TextDocument::Body::Travel(QTextCursor& cursor, bool forth)
     const auto state = states_.find(availableUndoSteps());
     if (state == states_.end()) return false;
     // Told so, Qt doesn't join what is typed next to what was typed before this state.
-    if (state->second.unmodified) setModified(false);
+    if (state->second.unmodified || state->second.saved) setModified(false);
     if (const auto& selection = state->second.selection) {
         cursor.setPosition(selection->first);
         cursor.setPosition(selection->second, QTextCursor::KeepAnchor);
@@ -206,6 +213,14 @@ bool TextDocument::Body::Travel(QTextCursor& cursor, bool forth)
 void TextDocument::Body::SetUnmodified()
 {
     states_[availableUndoSteps()].unmodified = true;
+    setModified(false);
+}
+
+void TextDocument::Body::SetSaved()
+{
+    for (auto& [steps, state] : states_)
+        state.saved = false;
+    states_[availableUndoSteps()].saved = true;
     setModified(false);
 }
 

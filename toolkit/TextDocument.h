@@ -53,9 +53,11 @@ public:
     /// the last that differ are replaced. What was there before goes from the history when it has become too long.
     void ReplaceText(StringView text, std::span<const Int64> marks = {});
 
-    /// Whether the text is another than at each `SetUnmodified` that the history leads to. `SetText` is one.
+    /// Whether the text is another than at each `SetUnmodified` that the history leads to, and at the last `SetSaved`.
+    /// `SetText` is a `SetUnmodified`.
     [[nodiscard]] bool Modified() const;
     void SetUnmodified();
+    void SetSaved();
     std::function<void()> ModifiedChanged;
 
     /// Qt's side of it, for the sources of this folder.

@@ -68,6 +68,7 @@ void TextEditor::Show(TextDocument::Body& body)
 {
     Leave();
     body_ = &body;
+    struck_ = {};
     body_->wrapChanged = [this] { setWordWrapMode(body_->wrapMode); };
     body_->keepPlace = [this] { KeepPlace(); };
     body_->takePlace = [this] { TakePlace(); };
@@ -124,6 +125,7 @@ bool TextEditor::Edit(const std::function<Range(QTextCursor& cursor)>& edit)
 void TextEditor::Travel(bool forth)
 {
     KeepPlace();
+    struck_ = {};
     QTextCursor cursor = textCursor();
     const bool placed = body_->Travel(cursor, forth);
     body_->caret = cursor;

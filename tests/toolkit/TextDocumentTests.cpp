@@ -25,6 +25,16 @@ TEST_F(Documents, EachKeepsItsHistoryCaretAndPlace)
     EXPECT_EQ(second.Text(), U"yother\n");
     area.SetDocument(document);
     EXPECT_EQ(Top(), top);
+    area.SetDocument(second);
+    Press(Qt::Key_Z);
+    Undo();
+    EXPECT_EQ(second.Text(), U"yother\n") << "another document was shown between the strokes";
+    Redo();
+    Press(Qt::Key_Z);
+    Undo();
+    EXPECT_EQ(second.Text(), U"yzother\n") << "what was brought back is a step of its own";
+    Undo();
+    area.SetDocument(document);
     EXPECT_TRUE(editor->viewport()->rect().contains(editor->cursorRect()));
     Undo();
     EXPECT_EQ(document.Text(), Numbered(300));
@@ -75,6 +85,13 @@ TEST_F(Documents, ModifiedIsWhatAHandHasMade)
     Press(Qt::Key_Y);
     EXPECT_TRUE(shown && document.Modified()) << "nothing was joined to the state that counts as unmodified";
     EXPECT_EQ(document.Text(), U"ytwo");
+    document.SetSaved();
+    Press(Qt::Key_Z);
+    document.SetSaved();
+    Undo();
+    EXPECT_TRUE(document.Modified()) << "the file holds what was saved last";
+    Redo();
+    EXPECT_FALSE(document.Modified());
 }
 
 TEST_F(Documents, AnEditOfTheProgramStaysWhereItIsSeen)
@@ -98,6 +115,34 @@ TEST_F(Documents, AnEditOfTheProgramStaysWhereItIsSeen)
     area.Change({}, start, 0);
     Undo();
     EXPECT_NE(Top(), U"ab 0") << "what is undone out of sight is shown; a change of nothing was no step";
+}
+
+TEST_F(Documents, AfterARunTheViewStaysAtWhatIsEdited)
+{
+    for (const bool typed : {false, true}) {
+        document.SetText(U"before");
+        document.ReplaceText(Numbered(300));
+        const Int64 place = IndexOf(document.Text(), U"ab 200");
+        area.ScrollTo(place, 3);
+        area.Select(place, 0);
+        const String top = Top();
+        const TextChange change{place, 2, U"longer"};
+        typed ? Press(Qt::Key_X) : area.Change({&change, 1}, place, 0);
+        Undo();
+        EXPECT_EQ(document.Text(), Numbered(300));
+        EXPECT_EQ(Top(), top) << typed;
+    }
+}
+
+TEST_F(Documents, LinesPutInHaveTheirOwnColours)
+{
+    for (const bool marked : {false, true}) {
+        const Int64 mark[] = {4};
+        document.SetText(U"one\nmark", std::span(mark).first(marked ? 1 : 0));
+        const TextChange change{4, 0, U"ab x\ny ab\n"};
+        area.Change({&change, 1}, 0, 0);
+        EXPECT_EQ(Colours(*editor->document()), marked ? "...\nrr..\n..rr\noooo" : "...\nrr..\n..rr\n....");
+    }
 }
 
 TEST_F(Documents, MarksAreGoneToAndFixedLinesStay)
