@@ -58,6 +58,7 @@ protected:
         window->SegButtSpecA.SetSelected(0, false);
         window->SegButtSpecA.Pressed(0);
         probe.Asked.clear();
+        probe.Said.clear();
         probe.Sounds.clear();
     }
 };
