@@ -20,7 +20,7 @@ constexpr std::size_t longestLine = 8 << 20;
 String FreeName(const FolderItem& folder)
 {
     for (Int64 number = 1;; ++number) {
-        const String name = U"Tarnivel Prefs " + ToText(number) + U".txt";
+        String name = U"Tarnivel Prefs " + ToText(number) + U".txt";
         if (!folder.Child(name, false)->Exists()) return name;
     }
 }

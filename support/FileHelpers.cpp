@@ -33,7 +33,7 @@ bool RemoveFileOrFolder(const FolderItem& item, bool watchStop)
     if (watchStop && ArretUrg) return true;
     bool failed = false;
     std::vector<FolderItem> children = item.IsFolder() ? item.Children() : std::vector<FolderItem>();
-    std::ranges::stable_partition(children, [](const FolderItem& child) { return !child.IsFolder(); });
+    std::stable_partition(children.begin(), children.end(), [](const FolderItem& child) { return !child.IsFolder(); });
     for (const FolderItem& child : children) {
         DesktopApplication::YieldToPlatform();
         if (failed && child.IsFolder()) break;
