@@ -115,6 +115,7 @@ std::vector<FolderItem> FolderItem::Children() const
         named.emplace(std::move(key), std::move(entry));
     }
     std::vector<FolderItem> children;
+    children.reserve(named.size());
     for (const auto& [key, path] : named)
         children.emplace_back(path);
     return children;
