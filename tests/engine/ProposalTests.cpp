@@ -33,6 +33,7 @@ PackFacts Facts(char32_t kind)
 std::vector<Pack> Look(const std::vector<String>& lines)
 {
     std::vector<Pack> packs;
+    packs.reserve(lines.size());
     for (const String& line : lines)
         packs.push_back({line, Facts(line.size() < 2 ? U'?' : line[line.size() - 2])});
     return packs;

@@ -10,7 +10,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-using std::string_literals::operator""s;
+using namespace std::string_literals;
 
 std::string Number(std::size_t number)
 {
