@@ -118,7 +118,8 @@ Int64 FirstPlace(StringView text)
 {
     const std::vector<SceneryLine> lines = LinesOf(text);
     const bool blank = lines.size() > HeaderLines && lines[HeaderLines].text.empty();
-    return std::min(LongTxtTab(lines, LgTxtEoF, static_cast<Int64>(HeaderLines) - (blank ? 0 : 1)), std::ssize(text));
+    const std::size_t before = std::min(HeaderLines + (blank ? 1 : 0), lines.size());
+    return std::min(LongTxtTab(lines, LgTxtEoF, static_cast<Int64>(before) - 1), std::ssize(text));
 }
 
 std::vector<Int64> EnabledWithoutFolder(StringView text, const FolderItem& dossier)

@@ -18,7 +18,9 @@ SoundPlayer* LoadPlayer()
     const QString programs = QCoreApplication::applicationDirPath();
     for (const char* const place : {"/", "/../lib/tarnivel/modules/", "/../PlugIns/"}) {
         const QString module = programs + QLatin1String(place) + QStringLiteral("libtarnivel_sound");
-        if (const auto found = QLibrary::resolve(module, "PlaySound")) return reinterpret_cast<SoundPlayer*>(found);
+        QLibrary library(module);
+        library.setLoadHints(QLibrary::PreventUnloadHint); // its thread may run to the end of the process
+        if (const auto found = library.resolve("PlaySound")) return reinterpret_cast<SoundPlayer*>(found);
     }
     return nullptr;
 }

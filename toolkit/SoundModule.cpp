@@ -14,13 +14,13 @@ namespace {
 /// An object in a thread of its own: a sound server that accepts and doesn't answer holds up whoever asks it.
 QObject* MakeStage()
 {
-    auto* const thread = new QThread; // for good: it may be held up when the program ends
+    auto* const thread = new QThread; // it may be held up when the program ends, and is left then
     auto* const stage = new QObject;
     stage->moveToThread(thread);
     QObject::connect(thread, &QThread::finished, stage, &QObject::deleteLater);
-    QObject::connect(qApp, &QCoreApplication::aboutToQuit, thread, [thread] {
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit, qApp, [thread] {
         thread->quit();
-        thread->wait(std::chrono::milliseconds(500));
+        if (thread->wait(std::chrono::milliseconds(500))) delete thread;
     });
     thread->start();
     return stage;
