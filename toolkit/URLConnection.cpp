@@ -10,23 +10,18 @@
 #include <sys/socket.h>
 #include <utility>
 
-struct URLConnection::Private {
-    QNetworkAccessManager manager;
-    QNetworkReply* reply = nullptr;
-    QTimer timer;
-};
-
 /// Breaks the connections to a server: Qt reads a head without an end in a thread that heeds nothing else.
 static void Break(const QUrl& url)
 {
-    const int port = url.port(url.scheme() == QLatin1String("https") ? 443 : 80);
-    const sockaddr none{.sa_family = AF_UNSPEC, .sa_data = {}};
+    const auto port = static_cast<in_port_t>(url.port(url.scheme() == QLatin1String("https") ? 443 : 80));
     for (int socket = 0; socket < FD_SETSIZE; ++socket) {
         sockaddr_in6 peer{}; // IPv4 has its port at the same place
         socklen_t size = sizeof peer;
-        const bool isOpen = getpeername(socket, reinterpret_cast<sockaddr*>(&peer), &size) == 0;
-        if (isOpen && peer.sin6_family != AF_UNIX && ntohs(peer.sin6_port) == port)
-            (void)connect(socket, &none, sizeof none);
+        if (getpeername(socket, reinterpret_cast<sockaddr*>(&peer), &size) != 0 || peer.sin6_family == AF_UNIX ||
+            peer.sin6_port != htons(port))
+            continue;
+        const sockaddr none{.sa_family = AF_UNSPEC, .sa_data = {}};
+        (void)connect(socket, &none, sizeof none);
     }
 }
 
@@ -36,30 +31,26 @@ URLConnection::~URLConnection() { Disconnect(); }
 void URLConnection::Send(StringView method, StringView url, int timeout)
 {
     Disconnect();
-    if (!private_) {
-        private_ = std::make_unique<Private>();
-        private_->timer.callOnTimeout([this] {
-            const Int64 seconds = private_->timer.interval() / 1000;
-            Fail(QNetworkReply::TimeoutError, U"No answer within " + ToText(seconds) + U" seconds");
-        });
-    }
-    private_->timer.start(timeout * 1000);
+    if (!manager_) manager_ = std::make_unique<QNetworkAccessManager>();
     QNetworkRequest request(QUrl(ToQt(url).trimmed()));
     request.setRawHeader("User-Agent", "Tarnivel");
-    QNetworkReply* const reply = private_->manager.sendCustomRequest(request, ToQt(method).toUpper().toLatin1());
-    private_->reply = reply;
+    QNetworkReply* const reply = reply_ = manager_->sendCustomRequest(request, ToQt(method).toUpper().toLatin1());
     reply->setReadBufferSize(2 * MaximumSize);
     if (!AllowCertificateValidation) reply->ignoreSslErrors();
-    QObject::connect(reply, &QNetworkReply::readyRead, &private_->timer, [this] { Read(); });
-    QObject::connect(reply, &QNetworkReply::finished, &private_->timer, [this] { Read(); });
+    const auto read = [this, reply] {
+        if (reply == reply_ && (reply->isFinished() || reply->bytesAvailable() > MaximumSize)) Read();
+    };
+    QObject::connect(reply, &QNetworkReply::readyRead, reply, read);
+    QObject::connect(reply, &QNetworkReply::finished, reply, read);
+    QTimer::singleShot(std::chrono::seconds(timeout), reply, [this, reply, timeout] {
+        if (reply == reply_) Fail(QNetworkReply::TimeoutError, U"No answer within " + ToText(timeout) + U" seconds");
+    });
 }
 
 void URLConnection::Disconnect()
 {
-    if (!private_ || !private_->reply) return;
-    private_->timer.stop();
-    QNetworkReply* const reply = std::exchange(private_->reply, nullptr);
-    reply->disconnect(&private_->timer);
+    if (!reply_) return;
+    QNetworkReply* const reply = std::exchange(reply_, nullptr);
     const bool isRunning = reply->isRunning();
     reply->abort();
     if (isRunning) Break(reply->url());
@@ -68,10 +59,9 @@ void URLConnection::Disconnect()
 
 void URLConnection::Read()
 {
-    QNetworkReply& reply = *private_->reply;
-    if (!reply.isFinished() && reply.bytesAvailable() <= MaximumSize) return;
+    QNetworkReply& reply = *reply_;
     const Bytes content = reply.read(MaximumSize + 1).toStdString();
-    const Int64 lines = std::ranges::count(content, '\n') + std::ranges::count(content, '\r');
+    const Int64 lines = std::max(std::ranges::count(content, '\n'), std::ranges::count(content, '\r'));
     if (std::ssize(content) > MaximumSize || lines > MaximumLines)
         return Fail(QNetworkReply::UnknownContentError, U"The answer has more than 8 MiB or 250000 lines");
     const auto status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();

@@ -7,6 +7,9 @@
 #include <functional>
 #include <memory>
 
+class QNetworkAccessManager;
+class QNetworkReply;
+
 /// One request at a time, by the system's proxy; it ends in one of two events, or in none after `Disconnect`.
 class URLConnection {
 public:
@@ -32,6 +35,6 @@ public:
 private:
     void Read();
     void Fail(int number, const String& message);
-    struct Private;
-    std::unique_ptr<Private> private_;
+    std::unique_ptr<QNetworkAccessManager> manager_; // from the first fetch on
+    QNetworkReply* reply_ = nullptr;
 };

@@ -81,7 +81,7 @@ TEST(URLConnection, GivesTheAnswerOrAnError)
         {"a page that drips for ever runs out of time", "HTTP/1.1 200 OK\r\n\r\n", GoOnForEver, Late, 0, ""},
         {"a page of the size of the limit is content", Page("200 OK", much), Wait, Fine, 200, much},
         {"a page above it is an error", Page("200 OK", much + "."), Wait, TooLong, 0, ""},
-        {"so are more lines than the limit", Page("200 OK", lines + "\r"), Wait, TooLong, 0, ""},
+        {"so are more lines than the limit", Page("200 OK", lines + "\n"), Wait, TooLong, 0, ""},
         {"but not as many", Page("200 OK", lines), Wait, Fine, 200, lines},
     };
     for (const auto& [name, answer, afterwards, error, status, content] : rows) {
