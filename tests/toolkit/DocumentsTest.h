@@ -11,7 +11,6 @@
 
 inline constexpr ColorGroup red{0xFF0000}, orange{0xFF7F00};
 
-/// "ab" is red, wherever it stands.
 inline std::vector<ColorSpan> ColourAb(StringView line)
 {
     std::vector<ColorSpan> spans;
@@ -20,18 +19,17 @@ inline std::vector<ColorSpan> ColourAb(StringView line)
     return spans;
 }
 
-/// One letter for each unit of a document, the blocks on lines: "." for black, "r" for red, "o" for orange.
+/// One letter for each character of a document: "." for black, "r" for red, "o" for orange, line ends as they are.
 inline std::string Colours(const QTextDocument& document)
 {
     std::string letters;
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        if (block.blockNumber() > 0) letters += '\n';
         for (auto at = block.begin(); !at.atEnd(); ++at) {
             const QRgb color = at.fragment().charFormat().foreground().color().rgb() & 0xFFFFFF;
-            letters.append(static_cast<std::size_t>(at.fragment().length()), color == red.rgb      ? 'r'
-                                                                             : color == orange.rgb ? 'o'
-                                                                                                   : '.');
+            const char letter = color == red.rgb ? 'r' : color == orange.rgb ? 'o' : '.';
+            letters.append(FromQt(at.fragment().text()).size(), letter);
         }
-        if (block.next().isValid()) letters += '\n';
     }
     return letters;
 }
@@ -56,6 +54,7 @@ struct Documents : ::testing::Test {
     }
     void Undo() const { Press(Qt::Key_Z, Qt::ControlModifier); }
     void Redo() const { Press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier); }
+    [[nodiscard]] std::pair<Int64, Int64> Selection() const { return {area.SelectionStart(), area.SelectionLength()}; }
     /// The first line on screen.
     [[nodiscard]] String Top() const { return FromQt(editor->cursorForPosition({0, 0}).block().text()); }
 };

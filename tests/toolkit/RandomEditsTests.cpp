@@ -1,74 +1,58 @@
 #include "tests/toolkit/DocumentsTest.h"
+#include "toolkit/core/TextEncoding.h"
 
 #include <map>
 #include <random>
 
 namespace {
 
-/// A naive document: each character with its mark.
-struct Model {
-    using Cell = std::pair<char32_t, bool>;
-    std::vector<Cell> cells;
-    bool operator==(const Model&) const = default;
+constexpr auto none = String::npos;
 
-    static Model Of(StringView text, const std::vector<Int64>& marks = {})
+/// A naive document: its characters, and for each of them "o" if it is marked, "." if not; line ends stand in both.
+struct Model {
+    String text;
+    std::string marks;
+
+    void Add(StringView more, char mark)
     {
-        Model model;
-        Int64 line = 0;
-        for (const char32_t c : text) {
-            model.cells.emplace_back(c, c != U'\n' && std::ranges::find(marks, line) != marks.end());
-            if (c == U'\n') line = std::ssize(model.cells);
-        }
-        return model;
+        text += more;
+        for (const char32_t c : more)
+            marks += c == U'\n' ? '\n' : mark;
     }
-    [[nodiscard]] String Text() const
+    [[nodiscard]] Model Part(std::size_t start, std::size_t length) const
     {
-        String text;
-        for (const Cell& cell : cells)
-            text += cell.first;
-        return text;
+        return {text.substr(start, length), marks.substr(start, length)};
     }
-    void Replace(Int64 start, Int64 length, const std::vector<Cell>& by)
+    void Replace(std::size_t start, std::size_t length, const Model& by)
     {
-        cells.erase(cells.begin() + start, cells.begin() + start + length);
-        cells.insert(cells.begin() + start, by.begin(), by.end());
-    }
-    [[nodiscard]] std::vector<Cell> Range(Int64 start, Int64 length) const
-    {
-        return {cells.begin() + start, cells.begin() + start + length};
+        text.replace(start, length, by.text);
+        marks.replace(start, length, by.marks);
     }
     [[nodiscard]] std::string Colours() const
     {
-        const String text = Text();
-        std::string letters;
-        for (std::size_t i = 0; i < cells.size(); ++i) {
-            const bool ab = text.compare(i, 2, U"ab") == 0 || (i > 0 && text.compare(i - 1, 2, U"ab") == 0);
-            const char letter = cells[i].first == U'\n' ? '\n' : ab ? 'r' : cells[i].second ? 'o' : '.';
-            letters.append(cells[i].first > 0xFFFF ? 2 : 1, letter);
-        }
+        std::string letters = marks;
+        for (std::size_t at = text.find(U"ab"); at != none; at = text.find(U"ab", at + 2))
+            letters.replace(at, 2, "rr");
         return letters;
     }
+    /// Where the lines begin that show the colour of a mark.
     [[nodiscard]] std::vector<Int64> Marks() const
     {
-        std::vector<Int64> marks;
-        const std::string colours = Model(*this).Colours();
-        Int64 line = 0;
-        std::size_t unit = 0;
-        for (std::size_t i = 0; i<cells.size(); unit += cells[i++].first> 0xFFFF ? 2 : 1) {
-            if (colours[unit] == 'o' && (marks.empty() || marks.back() != line)) marks.push_back(line);
-            if (cells[i].first == U'\n') line = static_cast<Int64>(i) + 1;
-        }
-        return marks;
+        const std::string letters = Colours();
+        std::vector<Int64> starts;
+        for (std::size_t at = letters.find('o'); at != none; at = letters.find('o', letters.find('\n', at)))
+            starts.push_back(static_cast<Int64>(letters.rfind('\n', at) + 1));
+        return starts;
     }
-    /// The first characters of the lines from `start` to `end`, and where the line behind them begins.
-    [[nodiscard]] std::pair<Int64, Int64> Lines(Int64 start, Int64 end) const
+    /// Without their ends; behind the last end there is one more.
+    [[nodiscard]] std::vector<Model> Lines() const
     {
-        const String text = Text();
-        while (start > 0 && text[static_cast<std::size_t>(start - 1)] != U'\n')
-            --start;
-        if (end > start && text[static_cast<std::size_t>(end - 1)] == U'\n') --end;
-        const std::size_t last = text.find(U'\n', static_cast<std::size_t>(end));
-        return {start, last == String::npos ? std::ssize(text) : static_cast<Int64>(last) + 1};
+        std::vector<Model> lines;
+        for (std::size_t start = 0, end = 0; end != none; start = end + 1) {
+            end = text.find(U'\n', start);
+            lines.push_back(Part(start, end - start));
+        }
+        return lines;
     }
 };
 
@@ -77,102 +61,102 @@ struct RandomEdits : Documents {
     Model model;
     /// What the document was at each number of undo steps.
     std::map<int, Model> history;
-    Int64 start = 0, length = 0;
+    std::size_t start = 0, length = 0;
 
-    Int64 UpTo(Int64 n) { return static_cast<Int64>(random() % static_cast<unsigned>(n + 1)); }
-
-    String AnyText()
+    std::size_t UpTo(std::size_t n) { return random() % (n + 1); }
+    bool Maybe() { return UpTo(1) == 0; }
+    void Select(std::size_t from, std::size_t count)
     {
-        String text;
-        for (Int64 i = UpTo(24); i > 0; --i)
-            text += U"abab.😀\n\n"[UpTo(7)];
-        return text;
+        area.Select(static_cast<Int64>(from), static_cast<Int64>(count));
     }
+
     void ReplaceAll()
     {
-        const String text = AnyText();
         std::vector<Int64> marks;
-        for (Int64 at = 0; at < std::ssize(text); ++at)
-            if ((at == 0 || text[static_cast<std::size_t>(at - 1)] == U'\n') && UpTo(1) == 0) marks.push_back(at);
-        document.ReplaceText(text, marks);
-        model = Model::Of(text, marks);
-        EXPECT_EQ(area.SelectionStart() + area.SelectionLength(), 0);
+        model = {};
+        for (std::size_t line = UpTo(4); line > 0; --line) {
+            const bool marked = Maybe();
+            if (marked) marks.push_back(std::ssize(model.text));
+            for (std::size_t i = UpTo(6); i > 0; --i)
+                model.Add(StringView(U"abab.😀").substr(UpTo(5), 1), marked ? 'o' : '.');
+            if (line > 1 || Maybe()) model.Add(U"\n", '.');
+        }
+        document.ReplaceText(model.text, marks);
+        EXPECT_EQ(Selection(), std::pair(Int64{0}, Int64{0}));
     }
-    void Type(Qt::Key key, char32_t character)
+    void Type(Qt::Key key, StringView character)
     {
         Press(key);
-        model.Replace(start, length, {{character, false}});
+        Model typed;
+        typed.Add(character, '.');
+        model.Replace(start, length, typed);
     }
-    void Erase(bool back)
+    void Erase()
     {
+        const bool back = Maybe();
         Press(back ? Qt::Key_Backspace : Qt::Key_Delete);
-        if (length == 0 && back && start > 0)
-            model.Replace(start - 1, 1, {});
-        else if (length > 0 || (!back && start < std::ssize(model.cells)))
-            model.Replace(start, std::max(length, Int64{1}), {});
+        if (length > 0)
+            model.Replace(start, length, {});
+        else if (back ? start > 0 : start < model.text.size())
+            model.Replace(back ? start - 1 : start, 1, {});
     }
     void ChangeOne()
     {
-        if (start == std::ssize(model.cells) || model.cells[static_cast<std::size_t>(start)].first == U'\n') return;
-        const String by = UpTo(1) == 0 ? U"ab" : U"a😀.";
-        const TextChange changes[] = {{start, 1, by}};
-        area.Change(changes, start, std::ssize(by));
-        std::vector<Model::Cell> cells;
-        for (const char32_t c : by)
-            cells.emplace_back(c, model.cells[static_cast<std::size_t>(start)].second);
-        model.Replace(start, 1, cells);
+        if (start == model.text.size() || model.text[start] == U'\n') return;
+        const String by = Maybe() ? U"ab" : U"a😀.";
+        const TextChange change{static_cast<Int64>(start), 1, by};
+        area.Change({&change, 1}, change.start, std::ssize(by));
+        Model changed;
+        changed.Add(by, model.marks[start]);
+        model.Replace(start, 1, changed);
         EXPECT_EQ(area.SelectedText(), by);
     }
     void CutAndPaste()
     {
         Press(Qt::Key_X, Qt::ControlModifier);
-        const std::vector<Model::Cell> cut = model.Range(start, length);
+        const Model cut = model.Part(start, length);
         model.Replace(start, length, {});
         if (length == 0) return;
         Check("cut");
-        const Int64 to = UpTo(std::ssize(model.cells));
-        area.Select(to, 0);
+        const std::size_t to = UpTo(model.text.size());
+        Select(to, 0);
         Press(Qt::Key_V, Qt::ControlModifier);
         model.Replace(to, 0, cut);
     }
     void EditLines()
     {
-        const auto [first, behind] = model.Lines(start, start + length);
-        std::vector<Model::Cell> lines = model.Range(first, behind - first);
-        if (UpTo(1) == 0) {
-            EXPECT_EQ(area.DeleteLines(), !lines.empty());
-            return model.Replace(first, behind - first, {});
+        std::vector<Model> lines = model.Lines();
+        const auto numberOf = [this](std::size_t place) {
+            return std::ranges::count(model.text.substr(0, place), U'\n');
+        };
+        const bool endsLine = length > 0 && model.text[start + length - 1] == U'\n';
+        const auto first = numberOf(start), end = numberOf(start + length) + (endsLine ? 0 : 1),
+                   count = std::ssize(lines) - (lines.back().text.empty() ? 1 : 0);
+        const auto from = lines.begin() + first, behind = lines.begin() + end;
+        const bool down = Maybe(), isLine = first < count, moves = isLine && (down ? end < count : first > 0);
+        std::pair<Int64, Int64> selection = Selection();
+        const std::size_t act = UpTo(2);
+        if (act == 0) {
+            ASSERT_EQ(area.MoveLines(down, 0), moves) << "from " << first << " to " << end << " of " << count;
+            if (moves) selection.first += down ? std::ssize(behind->text) + 1 : -std::ssize(from[-1].text) - 1;
+            if (moves) down ? std::rotate(from, behind, behind + 1) : std::rotate(from - 1, from, behind);
+        } else if (act == 1) {
+            ASSERT_EQ(area.DoubleLines(), isLine);
+            const std::vector<Model> copies(from, isLine ? behind : from);
+            lines.insert(behind, copies.begin(), copies.end());
+        } else {
+            ASSERT_EQ(area.DeleteLines(), isLine);
+            selection = Selection();
+            if (isLine && behind == lines.end()) lines.emplace_back();
+            if (isLine) lines.erase(lines.begin() + first, lines.begin() + end);
         }
-        const bool doubles = area.DoubleLines();
-        EXPECT_EQ(doubles, !lines.empty());
-        if (!doubles) return;
-        EXPECT_EQ(std::pair(area.SelectionStart(), area.SelectionLength()), std::pair(start, length));
-        if (lines.back().first != U'\n') lines.insert(lines.begin(), {U'\n', false});
-        model.Replace(behind, 0, lines);
-    }
-    void MoveLines(bool down)
-    {
-        auto [first, behind] = model.Lines(start, start + length);
-        const auto count = std::ssize(model.cells);
-        const String selected = area.SelectedText();
-        const bool can = first < behind && (down ? behind < count : first > 0);
-        EXPECT_EQ(area.MoveLines(down, 0), can) << "from " << first << " to " << behind << " of " << count;
-        EXPECT_EQ(area.SelectedText(), selected);
-        if (!can) return;
-        // Two neighbours change places: `left` goes behind `right`; the text keeps its end.
-        const auto [otherFirst, otherBehind] = down ? model.Lines(behind, behind) : model.Lines(first - 1, first - 1);
-        std::vector<Model::Cell> left =
-            model.Range(std::min(first, otherFirst), down ? behind - first : first - otherFirst);
-        std::vector<Model::Cell> right =
-            model.Range(std::max(first, otherFirst), down ? otherBehind - behind : behind - first);
-        if (right.back().first != U'\n') {
-            right.push_back(left.back());
-            left.pop_back();
+        model = {};
+        for (const Model& line : lines) {
+            if (&line != &lines.front()) model.Add(U"\n", '.');
+            model.Replace(model.text.size(), 0, line);
         }
-        const Int64 moved = down ? std::ssize(right) : otherFirst - first;
-        right.insert(right.end(), left.begin(), left.end());
-        model.Replace(std::min(first, otherFirst), std::ssize(right), right);
-        EXPECT_EQ(area.SelectionStart(), std::min(start + moved, count));
+        const Int64 place = std::min(selection.first, std::ssize(model.text));
+        EXPECT_EQ(Selection(), std::pair(place, std::min(selection.second, std::ssize(model.text) - place)));
     }
     void Travel(bool forth)
     {
@@ -183,39 +167,23 @@ struct RandomEdits : Documents {
     }
     void Check(const char* what)
     {
-        ASSERT_EQ(document.Text(), model.Text()) << what;
+        ASSERT_EQ(document.Text(), model.text) << what;
         ASSERT_EQ(Colours(*editor->document()), model.Colours()) << what;
         ASSERT_EQ(document.Marks(), model.Marks()) << what;
         history[editor->document()->availableUndoSteps()] = model;
     }
-    const char* Step()
-    {
-        switch (UpTo(11)) {
-        case 0:
-            return ReplaceAll(), "replace";
-        case 1:
-            return Type(Qt::Key_Return, U'\n'), "Return";
-        case 2:
-        case 3:
-            return Type(Qt::Key_A, U'a'), "a";
-        case 4:
-            return Type(Qt::Key_B, U'b'), "b";
-        case 5:
-            return Erase(UpTo(1) == 0), "erase";
-        case 6:
-            return ChangeOne(), "change";
-        case 7:
-            return CutAndPaste(), "cut and paste";
-        case 8:
-            return EditLines(), "lines";
-        case 9:
-            return MoveLines(UpTo(1) == 0), "move";
-        case 10:
-            return Travel(false), "undo";
-        default:
-            return Travel(true), "redo";
-        }
-    }
+    const std::pair<const char*, std::function<void()>> steps[10] = {
+        {"replace", [this] { ReplaceAll(); }},
+        {"Return", [this] { Type(Qt::Key_Return, U"\n"); }},
+        {"a", [this] { Type(Qt::Key_A, U"a"); }},
+        {"b", [this] { Type(Qt::Key_B, U"b"); }},
+        {"erase", [this] { Erase(); }},
+        {"change", [this] { ChangeOne(); }},
+        {"cut and paste", [this] { CutAndPaste(); }},
+        {"lines", [this] { EditLines(); }},
+        {"undo", [this] { Travel(false); }},
+        {"redo", [this] { Travel(true); }},
+    };
 };
 
 TEST_F(RandomEdits, KeepMarksColoursAndHistory)
@@ -229,15 +197,16 @@ TEST_F(RandomEdits, KeepMarksColoursAndHistory)
         }
         // Often where the last step left the caret, so that typing goes on.
         if (UpTo(2) == 0) {
-            const Int64 at = UpTo(std::ssize(model.cells));
-            area.Select(at, UpTo(1) * UpTo(std::ssize(model.cells) - at));
+            const std::size_t at = UpTo(model.text.size());
+            Select(at, UpTo(1) * UpTo(model.text.size() - at));
         }
-        start = area.SelectionStart();
-        length = area.SelectionLength();
+        start = static_cast<std::size_t>(area.SelectionStart());
+        length = static_cast<std::size_t>(area.SelectionLength());
         SCOPED_TRACE(testing::Message() << "round " << round << " at " << start << ", " << length << " of \""
-                                        << QString::fromUcs4(model.Text().data(), std::ssize(model.cells)).toStdString()
-                                        << '"');
-        Check(Step());
+                                        << Encodings::UTF8.Encode(model.text) << '"');
+        const auto& [what, step] = steps[UpTo(std::size(steps) - 1)];
+        step();
+        Check(what);
     }
 }
 

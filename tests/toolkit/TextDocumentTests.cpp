@@ -59,8 +59,6 @@ TEST_F(Documents, TypingIsOneStepOfALineWithItsColours)
     EXPECT_EQ(document.Text(), U"mark\n");
     Redo();
     EXPECT_EQ(Colours(*editor->document()), "oooo\n.rr.");
-    Press(Qt::Key_F, Qt::AltModifier);
-    EXPECT_EQ(document.Text(), U"mark\nxabx") << "Alt with a letter never types";
 }
 
 TEST_F(Documents, ModifiedIsWhatAHandHasMade)
@@ -108,7 +106,7 @@ TEST_F(Documents, AnEditOfTheProgramStaysWhereItIsSeen)
     for (const Int64 length : {5000, 6000}) {
         EXPECT_EQ(Top(), top);
         length == 5000 ? Undo() : Redo();
-        EXPECT_EQ(std::pair(area.SelectionStart(), area.SelectionLength()), std::pair(start, length));
+        EXPECT_EQ(Selection(), std::pair(start, length));
     }
     EXPECT_EQ(Top(), top);
     area.ScrollTo(0, 0);
@@ -158,9 +156,7 @@ TEST_F(Documents, MarksAreGoneToAndFixedLinesStay)
         EXPECT_EQ(area.GoToMark(forward, 5), jump);
         EXPECT_EQ(area.SelectionStart(), place);
         // Lines of 120 letters are wrapped.
-        if (place != marks[0]) {
-            EXPECT_EQ(editor->cursorRect().top() / editor->cursorRect().height(), 5) << place;
-        }
+        EXPECT_TRUE(place == marks[0] || editor->cursorRect().top() / editor->cursorRect().height() == 5) << place;
     }
     second.SetText(U"none\nnone");
     area.SetDocument(second);
