@@ -1,4 +1,5 @@
 #include "engine/SceneryText.h"
+#include "engine/Sections.h"
 #include "localisation/Localisation.h"
 #include "tests/engine/Outcome.h"
 #include "toolkit/core/FolderItem.h"
@@ -9,11 +10,10 @@ namespace {
 
 using Lines = std::vector<String>;
 
-Int64 Search(const Lines& lines, StringView line, Int64 start = 0)
+/// How many lines are that one, whatever their case.
+Int64 Count(const Lines& lines, StringView line)
 {
-    for (Int64 i = start; i < std::ssize(lines); ++i)
-        if (SameText(lines[static_cast<std::size_t>(i)], line)) return i;
-    return -1;
+    return std::ranges::count_if(lines, [&](StringView other) { return SameText(line, other); });
 }
 
 Lines Cut(StringView text)
@@ -46,22 +46,6 @@ Int64 OffsetOf(const Lines& lines, std::size_t index)
     return offset;
 }
 
-String CheckModel(const Lines& model)
-{
-    Lines names = Reduce(model);
-    Sort(names);
-    String list, last;
-    for (std::size_t i = 1; i < names.size(); ++i) {
-        if (!SameText(names[i - 1], names[i])) {
-            last.clear();
-        } else if (!SameText(last, names[i])) {
-            last = names[i];
-            list += U"\n - " + last;
-        }
-    }
-    return list.empty() ? list : Localisation::Txt_ScenPlusDuneFois() + list;
-}
-
 void AddSection(String& report, StringView title, const Lines& lines)
 {
     if (lines.empty()) return;
@@ -69,6 +53,18 @@ void AddSection(String& report, StringView title, const Lines& lines)
     report += title;
     for (const String& line : lines)
         report += U"\n - " + line;
+}
+
+String CheckModel(const Lines& model)
+{
+    Lines names = Reduce(model), seconds;
+    for (std::size_t i = 0; i < names.size(); ++i)
+        if (Count({names.begin(), names.begin() + static_cast<std::ptrdiff_t>(i)}, names[i]) == 1)
+            seconds.push_back(names[i]);
+    Sort(seconds);
+    String report;
+    AddSection(report, Localisation::Txt_ScenPlusDuneFois(), seconds);
+    return report;
 }
 
 String CheckFolders(const Lines& sorted, const Lines& folders)
@@ -100,13 +96,8 @@ String CheckFolders(const Lines& sorted, const Lines& folders)
 Lines MoreIn(const Lines& lines, const Lines& others)
 {
     Lines more;
-    for (const String& line : lines) {
-        const auto isSame = [&](StringView other) { return SameText(line, other); };
-        if (!line.empty() && Search(more, line) < 0 &&
-            std::ranges::count_if(lines, isSame) > std::ranges::count_if(others, isSame)) {
-            more.push_back(line);
-        }
-    }
+    for (const String& line : lines)
+        if (!line.empty() && Count(more, line) == 0 && Count(lines, line) > Count(others, line)) more.push_back(line);
     return more;
 }
 
@@ -118,10 +109,7 @@ String Explain(const Lines& source, const Lines& destination)
     const auto before = std::ranges::count(source, String()), after = std::ranges::count(destination, String());
     if (before == after) return explanation;
     if (!explanation.empty()) explanation += U"\n \n";
-    const String blanks = Localisation::Txt_LignesVides();
-    const std::size_t first = blanks.find(U"¿%"), second = blanks.rfind(U"¿%");
-    return explanation + blanks.substr(0, first) + ToText(before) + blanks.substr(first + 2, second - first - 2) +
-           ToText(after) + blanks.substr(second + 2);
+    return explanation + WithNumber(WithNumber(Localisation::Txt_LignesVides(), before), after);
 }
 
 String TwinIn(StringView line)
@@ -135,33 +123,23 @@ Lines PlaceModel(const Lines& model, const Lines& source, Outcome& outcome)
 {
     Lines destination = {U"I", U"1000 version", U"SCENERY"};
     for (std::size_t i = 3; i < model.size(); ++i) {
-        String line = model[i];
+        const String& line = model[i];
         if (line.empty()) {
             destination.emplace_back();
             continue;
         }
         const std::size_t before = outcome.reports.size();
         const String twin = TwinIn(line);
-        Int64 found = Search(source, line);
-        if (found >= 0 && Search(source, line, found + 1) >= 0)
-            outcome.reports.emplace_back(Localisation::Txt_ProbLignPresDxFois(), line);
-        if (!twin.empty()) {
-            const Int64 twinFound = Search(source, twin);
-            if (twinFound >= 0 && Search(source, twin, twinFound + 1) >= 0)
-                outcome.reports.emplace_back(Localisation::Txt_ProbLignPresDxFois(), twin);
-            if (found >= 0 && twinFound >= 0)
-                outcome.reports.emplace_back(Localisation::Txt_ProbLignEquiv(),
-                                             String(line).append(U"\n").append(twin));
-            if (found < 0) {
-                line = twin;
-                found = twinFound;
-            }
-        }
+        const Int64 count = Count(source, line), twinCount = twin.empty() ? 0 : Count(source, twin);
+        if (count > 1) outcome.reports.emplace_back(Localisation::Txt_ProbLignPresDxFois(), line);
+        if (twinCount > 1) outcome.reports.emplace_back(Localisation::Txt_ProbLignPresDxFois(), twin);
+        if (count > 0 && twinCount > 0)
+            outcome.reports.emplace_back(Localisation::Txt_ProbLignEquiv(), String(line).append(U"\n").append(twin));
         if (outcome.reports.size() > before) continue;
-        if (found < 0)
-            outcome.modelMarks.push_back(OffsetOf(model, i));
+        if (count + twinCount > 0)
+            destination.push_back(count > 0 ? line : twin);
         else
-            destination.push_back(line);
+            outcome.modelMarks.push_back(OffsetOf(model, i));
     }
     return destination;
 }
@@ -169,7 +147,7 @@ Lines PlaceModel(const Lines& model, const Lines& source, Outcome& outcome)
 void AddTheRest(Lines& destination, const Lines& source, Outcome& outcome)
 {
     for (std::size_t j = 3; j < source.size(); ++j) {
-        if (source[j].empty() || Search(destination, source[j]) >= 0) continue;
+        if (source[j].empty() || Count(destination, source[j]) > 0) continue;
         const std::size_t place = std::min(j, destination.size());
         outcome.resultMarks.push_back(OffsetOf(destination, place));
         destination.insert(destination.begin() + static_cast<std::ptrdiff_t>(place), source[j]);

@@ -8,30 +8,22 @@
 #include <algorithm>
 #include <set>
 
-/// The lines without regard to their order and case; the last line end begins no other line.
-inline std::multiset<String> BagOfLines(StringView text)
+/// The lines from number `first` on without regard to their order and case; the last line end begins no other line.
+inline std::multiset<String> BagOfLines(StringView text, std::size_t first = 0)
 {
     if (text.ends_with(U'\n')) text.remove_suffix(1);
     std::multiset<String> bag;
-    for (const StringView line : Split(text, U"\n"))
+    const std::vector<StringView> lines = Split(text, U"\n");
+    for (const StringView line : std::span(lines).subspan(first))
         bag.insert(FoldCase(line));
     return bag;
 }
 
-/// The text behind the lines of its header, of which an accepted text may have more on the last one.
-inline StringView BodyOf(StringView text)
-{
-    for (Int64 line = CountFields(TxtDebSpack, TxtEoF); line > 0; --line)
-        text.remove_prefix(std::min(text.find(TxtEoF), text.size() - 1) + 1);
-    return text;
-}
-
 inline void ExpectLineStarts(StringView text, const std::vector<Int64>& marks)
 {
-    for (std::size_t i = 0; i < marks.size(); ++i) {
-        EXPECT_TRUE(marks[i] > (i > 0 ? marks[i - 1] : 0) && Middle(text, marks[i] - 1, 1) == U"\n");
-        EXPECT_LT(marks[i], std::ssize(text));
-    }
+    EXPECT_TRUE(std::ranges::adjacent_find(marks, std::greater_equal<>()) == marks.end());
+    for (const Int64 mark : marks)
+        EXPECT_TRUE(mark > 0 && mark < std::ssize(text) && Middle(text, mark - 1, 1) == U"\n");
 }
 
 /// Runs the engine and the naive one. `folders` are the names of those in `dossier`, as the program compares them.
@@ -46,9 +38,9 @@ inline Outcome ExpectLawfulRun(StringView model, StringView source, const Folder
     ExpectLineStarts(outcome.text, outcome.resultMarks);
     const std::multiset<String> before = BagOfLines(source.substr(0, source.find_last_not_of(U'\n') + 1));
     const std::multiset<String> after = BagOfLines(outcome.text);
-    for (const String& line : BagOfLines(BodyOf(outcome.text)))
+    for (const String& line : BagOfLines(outcome.text, HeaderLines))
         EXPECT_TRUE(line.empty() || before.contains(line)) << "a line made up";
-    for (const String& line : BagOfLines(BodyOf(source)))
+    for (const String& line : BagOfLines(source, HeaderLines))
         EXPECT_TRUE(line.empty() || after.contains(line)) << "a line lost";
     const bool told = std::ranges::any_of(
         outcome.reports, [](const auto& report) { return report.first == Localisation::Txt_ProblemCompInitFinal(); });
