@@ -2,18 +2,13 @@
 
 namespace {
 
-TEST_F(MainWindow, AProposalNeedsAScenery)
+TEST_F(MainWindow, AProposalNeedsASceneryAndARunWithoutAModelOffersOne)
 {
     Open();
     window->TexteProposer_Action();
     EXPECT_TRUE(probe.Asked.empty());
     EXPECT_EQ(probe.Beeps, 1);
     EXPECT_EQ(probe.Said, std::vector<String>{U"scenery_packs.ini refusé : vide ou illisible"});
-}
-
-TEST_F(MainWindow, ARunWithoutAModelOffersOne)
-{
-    Open();
     Choose(window->TextFieldSpack, folder.File("Custom Scenery/scenery_packs.ini", header));
     Run();
     EXPECT_EQ(probe.Said.back(), U"Modèle refusé : vide ou illisible (le menu “Texte” peut en proposer un)");
