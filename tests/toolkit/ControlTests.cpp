@@ -1,25 +1,17 @@
 #include "tests/toolkit/WidgetTest.h"
-#include "toolkit/DesktopControls.h"
-#include "toolkit/DesktopWindow.h"
 
-#include <QAccessible>
-#include <QClipboard>
-#include <QComboBox>
 #include <QDropEvent>
 #include <QFontInfo>
-#include <QLabel>
-#include <QLineEdit>
 #include <QMimeData>
-#include <QPushButton>
 #include <QUrl>
 
 namespace {
 
-/// What a screen reader calls the control, which is also the caption of one that has no other name.
-String NameOf(DesktopUIControl& control)
+using namespace std::string_view_literals;
+
+QAccessibleInterface* Told(DesktopUIControl& control)
 {
-    control.SetName(U"asked");
-    return QAccessible::queryAccessibleInterface(&Find<QWidget>("asked"))->text(QAccessible::Name).toStdU32String();
+    return QAccessible::queryAccessibleInterface(&WidgetOf(control));
 }
 
 struct ControlTest : ::testing::Test {
@@ -28,55 +20,49 @@ struct ControlTest : ::testing::Test {
 
 TEST_F(ControlTest, CaptionsAreLiteral)
 {
-    for (StringView caption : {U"A & B", U"&Quit", U"&&", U"a&&&b", U"plain", U""}) {
+    for (StringView caption : {U"A & B", U"&Quit", U"&&", U"a&&&b", U"plain", U"", U"<b>no mark-up</b>"}) {
         DesktopButton button(window, {0, 0, 200, 20}, caption);
-        button.SetName(U"button");
         EXPECT_EQ(button.Caption(), caption);
-        EXPECT_TRUE(Find<QPushButton>("button").shortcut().isEmpty());
+        EXPECT_TRUE(WidgetOf<QPushButton>(button).shortcut().isEmpty());
         DesktopLabel label(window, {0, 0, 200, 20}, caption);
         EXPECT_EQ(label.Text(), caption);
-        EXPECT_EQ(NameOf(label), caption);
-        DesktopPopupMenu popup(window, {0, 0, 200, 20}, caption, 0);
-        EXPECT_EQ(popup.SelectedRowText(), caption);
+        EXPECT_EQ(FromQt(Told(label)->text(QAccessible::Name)), caption);
+        label.SetAccessibleName(U"another name");
+        EXPECT_EQ(Told(label)->text(QAccessible::Name), "another name");
+        EXPECT_EQ(DesktopPopupMenu(window, {0, 0, 200, 20}, caption, 0).SelectedRowText(), caption);
     }
-    DesktopLabel label(window, {0, 0, 200, 20}, U"<b>no mark-up</b>");
-    EXPECT_EQ(NameOf(label), U"<b>no mark-up</b>");
-    label.SetAccessibleName(U"another name");
-    EXPECT_EQ(NameOf(label), U"another name");
 }
 
 TEST_F(ControlTest, CaptionsFitTheirControls)
 {
-    const std::tuple<const char*, StringView, int, int, int, int> rows[] = {
+    const struct {
+        const char* name;
+        StringView caption;
+        int width, ownSize, smallest, largest;
+    } rows[] = {
         {"a short caption has the size of the layout", U"Ok", 100, 0, 12, 12},
         {"a caption a little too wide gets smaller", U"Activer / Désactiver", 125, 0, 9, 11},
         {"none gets smaller than 9", U"Sélectionner un dossier pour les archives", 60, 0, 9, 9},
         {"a size of its own", U"☞", 38, 18, 18, 18},
     };
-    for (const auto& [name, caption, width, ownSize, smallest, largest] : rows) {
-        DesktopButton button(window, {0, 0, width, 20}, caption, ownSize);
-        button.SetName(U"button");
-        const QPushButton& widget = Find<QPushButton>("button");
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        DesktopButton button(window, {0, 0, row.width, 20}, row.caption, row.ownSize);
+        const auto& widget = WidgetOf<QPushButton>(button);
         const int size = QFontInfo(widget.font()).pixelSize();
-        EXPECT_GE(size, smallest) << name;
-        EXPECT_LE(size, largest) << name;
-        EXPECT_TRUE(size == 9 || widget.fontMetrics().horizontalAdvance(widget.text()) <= width) << name;
+        EXPECT_TRUE(size >= row.smallest && size <= row.largest) << size;
+        EXPECT_TRUE(size == 9 || widget.fontMetrics().horizontalAdvance(widget.text()) <= row.width);
         button.SetCaption(U"Ok");
-        EXPECT_EQ(QFontInfo(widget.font()).pixelSize(), ownSize ? ownSize : 12) << name << ", then a short one";
+        EXPECT_EQ(QFontInfo(widget.font()).pixelSize(), row.ownSize ? row.ownSize : 12) << "then a short one";
     }
-}
-
-TEST_F(ControlTest, CaptionsFollowTheDesktopsFontAsFarAsThereIsRoom)
-{
     const QFont before = QApplication::font();
-    for (const auto& [desktop, expected] : {std::pair(6, 12), std::pair(13, 13), std::pair(27, 14)}) {
+    for (const auto& [desktop, expected] : {std::pair(6, 12), {13, 13}, {27, 14}}) {
         QFont font = before;
         font.setPixelSize(desktop);
         QApplication::setFont(font);
         DesktopWindow large({.title = U"Large", .width = 200, .height = 100});
         DesktopButton button(large, {0, 0, 100, 20}, U"Ok");
-        button.SetName(U"large");
-        EXPECT_EQ(QFontInfo(Find<QPushButton>("large").font()).pixelSize(), expected) << desktop;
+        EXPECT_EQ(QFontInfo(WidgetOf(button).font()).pixelSize(), expected) << "the desktop's font has " << desktop;
     }
     QApplication::setFont(before);
 }
@@ -84,29 +70,23 @@ TEST_F(ControlTest, CaptionsFollowTheDesktopsFontAsFarAsThereIsRoom)
 TEST_F(ControlTest, FieldsKeepTheirText)
 {
     DesktopTextField field(window, {0, 0, 200, 22}, U"first");
-    field.SetName(U"field");
     ShowActive(window);
-    for (StringView text :
-         {StringView(U"a\nb\r\n\u2028\u2029c\td"), StringView(U"a\0b", 3), StringView(U"\ufeff😀\u00a0")}) {
+    for (StringView text : {U"a\nb\r\n\u2028\u2029c\td"sv, U"a\0b"sv, U"\ufeff😀\u00a0"sv}) {
         field.SetText(text);
         EXPECT_EQ(field.Text(), text);
     }
     const String longText(100'000, U'x');
     field.SetText(longText);
-    EXPECT_EQ(field.Text().size(), longText.size());
-    QTest::keyClicks(&Find<QLineEdit>("field"), QStringLiteral("y"));
+    QTest::keyClicks(&WidgetOf(field), QStringLiteral("y"));
     EXPECT_EQ(field.Text(), U"y" + longText);
-    const QPalette palette = Find<QLineEdit>("field").palette();
-    EXPECT_EQ(palette.color(QPalette::Base), QColor(Qt::white));
-    EXPECT_EQ(palette.color(QPalette::Text), QColor(Qt::black));
+    EXPECT_EQ(WidgetOf(field).palette().color(QPalette::Base), QColor(Qt::white));
+    EXPECT_EQ(WidgetOf(field).palette().color(QPalette::Text), QColor(Qt::black));
 }
 
 TEST_F(ControlTest, CodeFiresNoEvents)
 {
     DesktopPopupMenu popup(window, {0, 0, 200, 20}, U"one\ntwo\nthree", 2);
     DesktopSegmentedButton segment(window, {0, 30, 100, 24}, U"Segment");
-    popup.SetName(U"popup");
-    segment.SetName(U"segment");
     std::vector<int> events;
     popup.SelectionChanged = [&] { events.push_back(popup.SelectedRowIndex()); };
     segment.Pressed = [&](int index) { events.push_back(10 + index + (segment.Selected(index) ? 1 : 0)); };
@@ -116,17 +96,12 @@ TEST_F(ControlTest, CodeFiresNoEvents)
     segment.SetSelected(0, true);
     EXPECT_TRUE(events.empty());
     EXPECT_EQ(popup.SelectedRowText(), U"one");
-    EXPECT_TRUE(segment.Selected(0));
-    EXPECT_FALSE(segment.Selected(1));
-
-    auto& rows = Find<QComboBox>("popup");
-    QTest::keyClick(&rows, Qt::Key_Down);
-    QTest::keyClick(&rows, Qt::Key_Up);
-    QTest::keyClick(&rows, Qt::Key_Up);
+    for (const auto key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_Up})
+        QTest::keyClick(&WidgetOf(popup), key);
     EXPECT_EQ(events, (std::vector{1, 0})) << "the key that changes no row fires nothing";
     events.clear();
-    QTest::mouseClick(&Find<QPushButton>("segment"), Qt::LeftButton);
-    QTest::keyClick(&Find<QPushButton>("segment"), Qt::Key_Space);
+    QTest::mouseClick(&WidgetOf(segment), Qt::LeftButton);
+    QTest::keyClick(&WidgetOf(segment), Qt::Key_Space);
     EXPECT_EQ(events, (std::vector{10, 11})) << "the segment comes up, then goes down";
 }
 
@@ -135,13 +110,12 @@ TEST_F(ControlTest, ALinkIsPressedByMouseKeysAndAScreenReader)
     DesktopLabel link(window, {100, 100, 50, 16, Lock::Left | Lock::Top, 0}, U"v.1", {.link = true});
     DesktopButton button(window, {0, 0, 80, 20, Lock::Left | Lock::Top, 2}, U"Ok");
     DesktopLabel plain(window, {0, 0, 50, 16, Lock::Left | Lock::Top, 1}, U"plain");
-    link.SetName(U"link"), plain.SetName(U"plain"), button.SetName(U"button");
     int pressed = 0, defaults = 0;
     link.Pressed = [&] { ++pressed; };
     button.SetDefault();
     button.Pressed = [&] { ++defaults; };
     ShowActive(window);
-    QWidget* const widget = &Find<QLabel>("link");
+    QWidget* const widget = &WidgetOf(link);
     QTest::mousePress(widget, Qt::LeftButton, {}, {10, 5});
     EXPECT_EQ(pressed, 0);
     QTest::mouseRelease(widget, Qt::LeftButton, {}, {49, 15});
@@ -150,62 +124,53 @@ TEST_F(ControlTest, ALinkIsPressedByMouseKeysAndAScreenReader)
     QTest::mouseRelease(widget, Qt::LeftButton, {}, {10, -1});
     QTest::mouseClick(widget, Qt::RightButton, {}, {10, 5});
     EXPECT_EQ(pressed, 1) << "no release beside it, and no right button";
-
     link.SetFocus();
     for (Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space})
         QTest::keyClick(widget, key);
     EXPECT_EQ(pressed, 4);
-    EXPECT_EQ(defaults, 0);
-    QAccessibleInterface* const told = QAccessible::queryAccessibleInterface(widget);
-    EXPECT_EQ(told->role(), QAccessible::Link);
-    EXPECT_EQ(told->text(QAccessible::Name), "v.1");
-    told->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(Told(link)->role(), QAccessible::Link);
+    EXPECT_EQ(Told(link)->text(QAccessible::Name), "v.1");
+    PressByScreenReader(Told(link));
     EXPECT_EQ(pressed, 5);
     link.SetEnabled(false);
-    told->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    PressByScreenReader(Told(link));
     button.SetVisible(false);
-    Find<QPushButton>("button").click();
+    WidgetOf<QPushButton>(button).click();
     EXPECT_TRUE(pressed == 5 && defaults == 0) << "nothing that is disabled or hidden acts";
     EXPECT_EQ(widget->focusPolicy(), Qt::TabFocus);
-    EXPECT_EQ(Find<QLabel>("plain").focusPolicy(), Qt::NoFocus);
-    EXPECT_EQ(QAccessible::queryAccessibleInterface(&Find<QLabel>("plain"))->role(), QAccessible::StaticText);
+    EXPECT_EQ(WidgetOf(plain).focusPolicy(), Qt::NoFocus);
+    EXPECT_EQ(Told(plain)->role(), QAccessible::StaticText);
 }
 
 struct TextFieldTest : testing::Test {
     DesktopWindow window{{.title = U"Items", .width = 300, .height = 100}};
     DesktopTextField field{window, {0, 0, 300, 22}};
-    QLineEdit* line = nullptr;
+    QLineEdit* const line = &WidgetOf<QLineEdit>(field);
 
     void SetUp() override
     {
-        field.SetName(U"items");
         ShowActive(window);
-        line = &Find<QLineEdit>("items");
-        field.Tidied = [](StringView text) {
-            return text.starts_with(U'/') ? U"form of " + String(text) : String(text);
-        };
-    }
-    void Paste(const char* text)
-    {
-        QApplication::clipboard()->setText(text);
-        QTest::keyClick(line, Qt::Key_V, Qt::ControlModifier);
+        field.Tidied = [](StringView text) { return (text.starts_with(U'/') ? U"form of " : U"") + String(text); };
     }
 };
 
 TEST_F(TextFieldTest, TidiesWhatIsPasted)
 {
-    struct Row {
+    const struct {
         const char* name;
         int selected;
         const char *pasted, *after;
+    } rows[] = {
+        {"a path takes the whole place", 0, "/usr", "form of /usr"},
+        {"blanks around a path", 2, " /usr\n", "form of /usr"},
+        {"another text goes in at the caret", 0, "x y", "x ybefore"},
+        {"without blanks around it", 6, "\t x y \r\n", "x y"},
     };
-    for (const Row& row : {Row{"a path takes the whole place", 0, "/usr", "form of /usr"},
-                           Row{"blanks around a path", 2, " /usr\n", "form of /usr"},
-                           Row{"another text goes in at the caret", 0, "x y", "x ybefore"},
-                           Row{"without blanks around it", 6, "\t x y \r\n", "x y"}}) {
+    for (const auto& row : rows) {
         field.SetText(U"before");
         line->setSelection(0, row.selected);
-        Paste(row.pasted);
+        QApplication::clipboard()->setText(row.pasted);
+        QTest::keyClick(line, Qt::Key_V, Qt::ControlModifier);
         EXPECT_EQ(line->text(), row.after) << row.name;
         QTest::keyClick(line, Qt::Key_Z, Qt::ControlModifier);
         EXPECT_EQ(line->text(), "before") << row.name;
@@ -244,21 +209,19 @@ TEST_F(TextFieldTest, TellsOfDroppedItemsAndShowsWhichItTakes)
     std::vector<String> dropped;
     field.ItemDropped = [&](const FolderItem& item) { dropped.push_back(item.NativePath()); };
     field.TakesItem = [](const FolderItem& item) { return item.Name() == U"usr"; };
-    const auto drag = [&](const QStringList& items) {
+    const auto drag = [&](const QList<QUrl>& items) {
         QMimeData data;
-        QList<QUrl> urls;
-        for (const QString& item : items)
-            urls << QUrl::fromLocalFile(item);
-        data.setUrls(urls);
+        data.setUrls(items);
         QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(line, &enter);
         QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         if (enter.isAccepted()) QApplication::sendEvent(line, &drop);
         return enter.isAccepted() ? enter.dropAction() : Qt::TargetMoveAction;
     };
-    EXPECT_EQ(drag({"/usr"}), Qt::CopyAction);
-    EXPECT_EQ(drag({"/etc"}), Qt::IgnoreAction) << "the pointer shows that it is refused";
-    EXPECT_EQ(drag({"/usr", "/etc"}), Qt::TargetMoveAction) << "two items";
+    const QUrl usr("file:///usr"), etc("file:///etc");
+    EXPECT_EQ(drag({usr}), Qt::CopyAction);
+    EXPECT_EQ(drag({etc}), Qt::IgnoreAction) << "the pointer shows that it is refused";
+    EXPECT_EQ(drag({usr, etc}), Qt::TargetMoveAction) << "two items";
     EXPECT_EQ(dropped, (std::vector<String>{U"/usr", U"/etc"}));
     EXPECT_EQ(line->text(), "");
 }

@@ -5,8 +5,6 @@
 #include "toolkit/Timer.h"
 
 #include <QDBusConnection>
-#include <QDBusMessage>
-#include <QDBusVirtualObject>
 #include <QDesktopServices>
 #include <QProcess>
 #include <QTest>
@@ -17,46 +15,40 @@ namespace {
 
 using namespace std::string_literals;
 
-/// What the desktop would have been asked to open.
-class OpenedLinks : public QObject {
+/// What the desktop and its file manager are asked.
+class Asked : public QObject, public QStringList {
     Q_OBJECT
 public:
-    OpenedLinks()
+    Asked()
+    {
+        ForSchemes([this](const char* scheme) { QDesktopServices::setUrlHandler(scheme, this, "Open"); });
+    }
+    ~Asked() override
+    {
+        ForSchemes([](const char* scheme) { QDesktopServices::unsetUrlHandler(scheme); });
+    }
+    Q_INVOKABLE void Open(const QUrl& url) { *this << url.toString(QUrl::FullyEncoded); }
+public Q_SLOTS:
+    void ShowItems(const QStringList& items, const QString&) { *this << items << "shown"; }
+
+private:
+    static void ForSchemes(const auto& act)
     {
         for (const char* const scheme : {"http", "mailto", "file"})
-            QDesktopServices::setUrlHandler(scheme, this, "Note");
+            act(scheme);
     }
-    ~OpenedLinks() override
-    {
-        for (const char* const scheme : {"http", "mailto", "file"})
-            QDesktopServices::unsetUrlHandler(scheme);
-    }
-    Q_INVOKABLE void Note(const QUrl& url) { urls << url.toString(QUrl::FullyEncoded); }
-    QStringList urls;
 };
 
 TEST(Desktop, OpensLinksAndItems)
 {
-    OpenedLinks opened;
+    const Asked asked;
     for (const StringView text : {U"http://example.invalid/a b?c=d&e#f", U"mailto:somebody@example.invalid", U"", U" ",
                                   U"no link", U"--help", U"http://[::1", U"packs.ini"})
         System::GotoURL(text);
     OpenItem(FolderItem("/tmp/100% Alpes"));
-    EXPECT_EQ(opened.urls, (QStringList{"http://example.invalid/a%20b?c=d&e#f", "mailto:somebody@example.invalid",
-                                        "file:///tmp/100%25%20Alpes"}));
+    EXPECT_EQ(asked, (QStringList{"http://example.invalid/a%20b?c=d&e#f", "mailto:somebody@example.invalid",
+                                  "file:///tmp/100%25%20Alpes"}));
 }
-
-/// A file manager on a session bus.
-class FileManager : public QDBusVirtualObject {
-public:
-    QString introspect(const QString&) const override { return {}; }
-    bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override
-    {
-        asked << message.member() << message.arguments().value(0).toStringList();
-        return connection.send(message.createReply());
-    }
-    QStringList asked;
-};
 
 TEST(Desktop, RevealsAnItemOrElseOpensItsFolder)
 {
@@ -65,21 +57,20 @@ TEST(Desktop, RevealsAnItemOrElseOpensItsFolder)
     if (!bus.waitForReadyRead()) GTEST_SKIP() << "no dbus-daemon to be had";
     const QString address = QString::fromLatin1(bus.readLine()).trimmed();
     qputenv("DBUS_SESSION_BUS_ADDRESS", address.toLatin1());
-    OpenedLinks opened;
+    Asked asked;
     const FolderItem item("/tmp/Custom Scenery/Alpes");
-    const auto failed = [] { FAIL() << "the folder was opened"; };
-    RevealItem(item, failed);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !opened.urls.isEmpty(); }));
-    EXPECT_EQ(opened.urls, QStringList("file:///tmp/Custom%20Scenery/"));
+    RevealItem(item, [] { FAIL() << "no folder was opened"; });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !asked.isEmpty(); }));
+    EXPECT_EQ(asked, QStringList("file:///tmp/Custom%20Scenery/"));
 
-    FileManager manager;
-    auto connection = QDBusConnection::connectToBus(address, "file manager");
-    ASSERT_TRUE(connection.registerVirtualObject("/org/freedesktop/FileManager1", &manager));
-    ASSERT_TRUE(connection.registerService("org.freedesktop.FileManager1"));
-    RevealItem(item, failed);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !manager.asked.isEmpty(); }));
-    EXPECT_EQ(manager.asked, (QStringList{"ShowItems", "file:///tmp/Custom%20Scenery/Alpes"}));
-    EXPECT_EQ(opened.urls.size(), 1);
+    asked.clear();
+    auto manager = QDBusConnection::connectToBus(address, "file manager");
+    const QString name = "org.freedesktop.FileManager1";
+    ASSERT_TRUE(manager.registerObject("/org/freedesktop/FileManager1", name, &asked, QDBusConnection::ExportAllSlots));
+    ASSERT_TRUE(manager.registerService(name));
+    RevealItem(item, [] {});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !asked.isEmpty(); }));
+    EXPECT_EQ(asked, (QStringList{"file:///tmp/Custom%20Scenery/Alpes", "shown"}));
     QDBusConnection::disconnectFromBus("file manager");
     bus.kill();
     bus.waitForFinished();
@@ -93,18 +84,16 @@ TEST(Timer, FiresOnceUnlessItIsOff)
     bool isLater = false;
     timer.Action = [&] { ++shots; };
     later.Action = [&] { isLater = true; };
-    const auto shotsLater = [&] {
+    timer.SetRunMode(Single);
+    EXPECT_EQ(shots, 0);
+    for (const auto mode : {Single, Off}) {
+        timer.SetRunMode(mode);
         isLater = false;
         later.SetRunMode(Single);
         EXPECT_TRUE(QTest::qWaitFor([&] { return isLater; }));
-        return shots;
-    };
-    timer.SetRunMode(Single);
-    EXPECT_EQ(shots, 0);
-    EXPECT_EQ(shotsLater(), 1);
-    timer.SetRunMode(Single);
-    timer.SetRunMode(Off);
-    EXPECT_EQ(shotsLater(), 1);
+        EXPECT_EQ(shots, 1);
+        timer.SetRunMode(Single);
+    }
 }
 
 TEST(Sound, IsSilentWithoutASoundDevice)

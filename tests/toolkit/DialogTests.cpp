@@ -1,38 +1,29 @@
 #include "tests/TemporaryFolder.h"
 #include "tests/toolkit/WidgetTest.h"
-#include "toolkit/DesktopControls.h"
-#include "toolkit/DesktopWindow.h"
 #include "toolkit/Dialogs.h"
-#include "toolkit/Probe.h"
-#include "toolkit/Timer.h"
 
-#include <QApplication>
-#include <QDialog>
 #include <QFileDialog>
-#include <QLineEdit>
-#include <QPushButton>
+#include <QPointer>
 #include <QScreen>
 #include <QScrollBar>
-#include <QTest>
 #include <QTextEdit>
-#include <gtest/gtest.h>
+#include <QTimer>
 
 namespace {
 
 using namespace std::string_literals;
 using Button = MessageDialog::Button;
+using User = std::function<void(QDialog&)>;
 
-/// Lets `look` see the next dialog as soon as it is up, and closes what it leaves open.
-void WhenUp(std::function<void(QDialog&)> look)
+/// Lets the user see the next dialog as soon as it is up, and closes what is left open.
+void WhenUp(const User& user)
 {
-    static auto& timer = *new Timer(0);
-    timer.Action = [look = std::move(look)] {
+    QTimer::singleShot(0, qApp, [user] {
         const QPointer<QDialog> dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         ASSERT_TRUE(dialog);
-        look(*dialog);
+        user(*dialog);
         if (dialog) dialog->close();
-    };
-    timer.SetRunMode(Timer::RunModes::Single);
+    });
 }
 
 QPushButton& ButtonNamed(QDialog& dialog, const QString& caption)
@@ -42,8 +33,8 @@ QPushButton& ButtonNamed(QDialog& dialog, const QString& caption)
     throw std::runtime_error("no such button");
 }
 
-/// A user who presses a key where the focus is.
-auto Presses(Qt::Key key)
+/// Presses a key where the focus is.
+User Presses(Qt::Key key)
 {
     return [key](QDialog& dialog) {
         EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
@@ -51,8 +42,7 @@ auto Presses(Qt::Key key)
     };
 }
 
-/// A user who clicks on a button.
-auto Clicks(const char* caption)
+User Clicks(const char* caption)
 {
     return [caption](QDialog& dialog) { QTest::mouseClick(&ButtonNamed(dialog, caption), Qt::LeftButton); };
 }
@@ -64,7 +54,7 @@ TEST(MessageDialog, AnswersByButtonOrKey)
         dialog.findChild<QTextEdit*>()->setFocus();
         QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
     };
-    const std::tuple<const char*, std::function<void(QDialog&)>, String, String, Button> rows[] = {
+    const std::tuple<const char*, User, String, String, Button> rows[] = {
         {"Enter is the action button", Presses(Qt::Key_Enter), no, more, Button::Action},
         {"Return is the action button, also from the text", pressesReturnInText, no, more, Button::Action},
         {"Esc is the cancel button", Presses(Qt::Key_Escape), no, more, Button::Cancel},
@@ -75,9 +65,8 @@ TEST(MessageDialog, AnswersByButtonOrKey)
         {"a click on the alternate button", Clicks("More"), {}, more, Button::Alternate},
     };
     for (const auto& [name, user, cancel, alternate, answer] : rows) {
-        SCOPED_TRACE(name);
         WhenUp(user);
-        EXPECT_EQ((MessageDialog{0, U"Really?", {}, yes, cancel, alternate}.ShowModal()), answer);
+        EXPECT_EQ((MessageDialog{0, U"Really?", {}, yes, cancel, alternate}.ShowModal()), answer) << name;
     }
 }
 
@@ -110,12 +99,12 @@ TEST(MessageDialog, ShowsTextsAsTheyAre)
             EXPECT_EQ(text.verticalScrollBar()->maximum() > 0, row.scrolls);
             EXPECT_EQ(text.verticalScrollBar()->isVisible(), row.scrolls);
             EXPECT_TRUE(row.scrolls || text.height() < text.document()->size().height() + 2) << "room for no text";
-            const auto& button = ButtonNamed(dialog, QString::fromStdU32String(caption));
+            const auto& button = ButtonNamed(dialog, ToQt(caption));
             EXPECT_GE(button.width(), button.sizeHint().width());
             EXPECT_TRUE(dialog.rect().contains(QRect(button.mapTo(&dialog, QPoint()), button.size())));
         });
-        const String message = row.message.toStdU32String(), explanation = row.explanation.toStdU32String();
-        EXPECT_EQ((MessageDialog{2, message, explanation, caption, {}, {}}.ShowModal()), Button::None);
+        const MessageDialog dialog{2, FromQt(row.message), FromQt(row.explanation), caption, {}, {}};
+        EXPECT_EQ(dialog.ShowModal(), Button::None);
     }
 }
 
@@ -123,19 +112,18 @@ TEST(MessageDialog, TheKeyThatClosedItTypesNothing)
 {
     DesktopWindow window({.title = U"Below", .width = 300, .height = 200});
     DesktopTextField field(window, {0, 0, 200, 22});
-    field.SetName(U"field");
     window.Show();
     field.SetFocus();
     WhenUp(Presses(Qt::Key_Return));
     EXPECT_EQ((MessageDialog{-1, U"Really?", {}, U"Yes", {}, {}}.ShowModal(&window)), Button::Action);
-    auto* const line = &Find<QLineEdit>("field");
+    QWidget* const line = &WidgetOf(field);
     QTest::keyClick(line, Qt::Key_Space);
     EXPECT_EQ(field.Text(), U"") << "it bounces";
     QKeyEvent held(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "), true);
-    const auto pressesAgain = [&] { return QTest::keyClick(line, Qt::Key_Space), !field.Text().empty(); };
-    do
+    do {
         QApplication::sendEvent(line, &held);
-    while (!pressesAgain());
+        QTest::keyClick(line, Qt::Key_Space);
+    } while (field.Text().empty());
     EXPECT_EQ(field.Text(), U" ") << "held, it types nothing, but pressed anew";
     QApplication::sendEvent(line, &held);
     QTest::keyClick(line, Qt::Key_B, Qt::AltModifier);
@@ -183,20 +171,18 @@ TEST(Chooser, GivesWhatTheUserHasNamed)
         {"nothing", true, false},        {"alias to gone", true, false}, {"Alpes", false, true},
         {"alias to Alpes", false, true}, {"packs.ini", false, false},
     };
+    const FolderItem start(folder.Path());
     for (const auto& row : rows) {
         SCOPED_TRACE(row.typed);
         WhenUp([&](QDialog& dialog) {
             EXPECT_EQ(dialog.windowTitle(), "Choose:");
             const QStringList offered{"Text (*.txt *.ini) (*.txt *.ini)", "All (*)"};
-            EXPECT_TRUE(!row.isFileChooser || qobject_cast<QFileDialog*>(&dialog)->nameFilters() == offered);
+            EXPECT_TRUE(!row.isFileChooser || static_cast<QFileDialog&>(dialog).nameFilters() == offered);
             // What Qt says of a wrong name comes in a box of its own.
-            Timer closer(0);
-            closer.Action = [] { QApplication::activeModalWidget()->close(); };
-            if (!row.isChosen) closer.SetRunMode(Timer::RunModes::Single);
+            if (!row.isChosen) QTimer::singleShot(0, &dialog, [] { QApplication::activeModalWidget()->close(); });
             dialog.findChild<QLineEdit*>("fileNameEdit")->setText(row.typed);
             QMetaObject::invokeMethod(&dialog, "accept");
         });
-        const FolderItem start(folder.Path());
         const auto chosen = row.isFileChooser
                                 ? OpenFileDialog{U"Choose:", start, U".txt;.ini", U"Text", U"All"}.ShowModal()
                                 : SelectFolderDialog{U"Choose:", start}.ShowModal();

@@ -1,17 +1,63 @@
 #include "tests/TemporaryFolder.h"
-#include "tests/toolkit/TestServer.h"
 #include "toolkit/URLConnection.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QProcess>
 #include <QSslKey>
+#include <QSslServer>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 namespace {
 
 using namespace std::string_literals;
-using enum TestServer::Afterwards;
+enum Afterwards { Close, Wait, GoOnForEver };
+
+/// A web server on loopback that sends what a test wants, well formed or not, over TLS where there is a `security`.
+class TestServer {
+public:
+    /// Every request is answered with `answer`, but one for "/elsewhere" with a page that says so.
+    TestServer(std::string answer, Afterwards afterwards, const QSslConfiguration* security = nullptr)
+        : server_(security ? std::make_unique<QSslServer>() : std::make_unique<QTcpServer>())
+        , answer_(std::move(answer))
+        , afterwards_(afterwards)
+    {
+        if (security) static_cast<QSslServer&>(*server_).setSslConfiguration(*security);
+        server_->listen(QHostAddress::Any);
+        Url = QStringLiteral("%1://127.0.0.1:%2/page")
+                  .arg(QLatin1String(security ? "https" : "http"))
+                  .arg(server_->serverPort())
+                  .toStdU32String();
+        QObject::connect(server_.get(), &QTcpServer::pendingConnectionAvailable, server_.get(), [this] {
+            while (auto* const socket = server_->nextPendingConnection())
+                QObject::connect(socket, &QTcpSocket::readyRead, socket, [this, socket] { Serve(*socket); });
+        });
+    }
+
+    String Url;
+    /// All that the clients have sent.
+    mutable QByteArray Requests;
+
+private:
+    void Serve(QTcpSocket& socket)
+    {
+        Requests += socket.readAll();
+        if (!Requests.endsWith("\r\n\r\n")) return;
+        const bool isElsewhere = Requests.contains(" /elsewhere ");
+        socket.write(isElsewhere ? "HTTP/1.1 200 OK\r\nContent-Length: 9\r\n\r\nelsewhere"
+                                 : QByteArray::fromStdString(answer_));
+        if (afterwards_ == Close) socket.disconnectFromHost();
+        if (afterwards_ != GoOnForEver) return;
+        auto* const drop = new QTimer(&socket);
+        QObject::connect(drop, &QTimer::timeout, &socket, [&socket] { socket.write("."); });
+        drop->start(20);
+    }
+
+    std::unique_ptr<QTcpServer> server_;
+    std::string answer_;
+    Afterwards afterwards_;
+};
 
 /// A connection and what came of it.
 struct Client : URLConnection {
@@ -22,10 +68,10 @@ struct Client : URLConnection {
             status = httpStatus;
             content = bytes;
         };
-        Error = [this](const RuntimeException& error) {
+        Error = [this](const RuntimeException& exception) {
             ++events;
-            errorNumber = error.ErrorNumber;
-            errorMessage = error.Message;
+            error = exception.ErrorNumber;
+            message = exception.Message;
         };
     }
     /// Whether that many events come within a while. Unlike Qt's own waiting, it sleeps only while nothing happens.
@@ -38,14 +84,19 @@ struct Client : URLConnection {
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         return events == number;
     }
+    void Fetch(const String& url, int timeout = 60)
+    {
+        Send(U"Get", url, timeout);
+        EXPECT_EQ(events, 0);
+        EXPECT_TRUE(Reaches(1));
+    }
 
     int events = 0;
-    Int64 status = 0, errorNumber = 0;
+    Int64 status = 0, error = 0;
     Bytes content;
-    String errorMessage;
+    String message;
 };
 
-/// The numbers that the user gets to see.
 constexpr Int64 Fine = 0, Refused = 1, HungUp = 2, NotFound = 3, Late = 4, Untrusted = 6, Redirects = 10, Unsafe = 11,
                 Unknown = 301, TooLong = 299;
 
@@ -61,7 +112,7 @@ TEST(URLConnection, GivesTheAnswerOrAnError)
                       pieces = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n";
     const std::string raw = "\xff\xfe\0\r\n\xc3"s, much(URLConnection::MaximumSize, '.'),
                       lines(URLConnection::MaximumLines, '\n');
-    const std::tuple<const char*, std::string, TestServer::Afterwards, Int64, Int64, std::string> rows[] = {
+    const std::tuple<const char*, std::string, Afterwards, Int64, Int64, std::string> rows[] = {
         {"a page is content", Page("200 OK", "hello"), Wait, Fine, 200, "hello"},
         {"bytes that are no text come unchanged", Page("200 OK", raw), Wait, Fine, 200, raw},
         {"a page without its length ends with the connection", "HTTP/1.1 200 OK\r\n\r\nhi", Close, Fine, 200, "hi"},
@@ -88,10 +139,9 @@ TEST(URLConnection, GivesTheAnswerOrAnError)
         SCOPED_TRACE(name);
         const TestServer server(answer, afterwards);
         Client client;
-        client.Send(U"Get", server.Url, error == Late ? 1 : 60);
-        EXPECT_TRUE(client.Reaches(1));
-        EXPECT_EQ(client.errorNumber, error);
-        EXPECT_EQ(client.errorMessage.empty(), error == Fine);
+        client.Fetch(server.Url, error == Late ? 1 : 60);
+        EXPECT_EQ(client.error, error);
+        EXPECT_EQ(client.message.empty(), error == Fine);
         EXPECT_EQ(client.status, status);
         EXPECT_EQ(client.content, content);
         EXPECT_EQ(server.Requests.left(15), "GET /page HTTP/");
@@ -105,35 +155,31 @@ TEST(URLConnection, AsksByIPv6WithUserAndPasswordOrByTheProxyOfTheSystem)
     const auto requestsOf = [&](const String& url) {
         Client client;
         server.Requests.clear();
-        client.Send(U"Get", url, 10);
-        EXPECT_TRUE(client.Reaches(1));
+        client.Fetch(url);
         EXPECT_EQ(client.status, 401);
-        return server.Requests;
+        return server.Requests.toStdString();
     };
-    const QByteArray requests = requestsOf(U" http://u%20:p@[::1]" + port.substr(0, port.size() - 4) + U"?q=é x#part");
-    EXPECT_TRUE(requests.startsWith("GET /?q=%C3%A9%20x HTTP/1.1\r\n")) << requests.toStdString();
-    EXPECT_TRUE(requests.contains("Authorization: Basic dSA6cA==\r\n")) << requests.toStdString();
+    const auto requests = requestsOf(U" http://u%20:p@[::1]" + port.substr(0, port.size() - 4) + U"?q=é x#part");
+    EXPECT_TRUE(requests.starts_with("GET /?q=%C3%A9%20x HTTP/1.1\r\n")) << requests;
+    EXPECT_NE(requests.find("Authorization: Basic dSA6cA==\r\n"), requests.npos) << requests;
     qputenv("http_proxy", QString::fromStdU32String(server.Url).toLatin1());
-    EXPECT_TRUE(requestsOf(U"http://name.invalid/x").startsWith("GET http://name.invalid/x HTTP"));
+    EXPECT_TRUE(requestsOf(U"http://name.invalid/x").starts_with("GET http://name.invalid/x HTTP"));
     qunsetenv("http_proxy");
 }
 
 TEST(URLConnection, TellsAnAddressWithoutAServerByAnErrorAfterSend)
 {
-    const auto errorOf = [](StringView url) {
-        Client client;
-        client.Send(U"Get", String(url), 15);
-        EXPECT_EQ(client.events, 0);
-        EXPECT_TRUE(client.Reaches(1));
-        EXPECT_FALSE(client.errorMessage.empty());
-        return client.errorNumber;
-    };
     const String gone = TestServer("", Wait).Url;
-    EXPECT_EQ(errorOf(gone), Refused);
-    EXPECT_EQ(errorOf(U"http://name.invalid/"), NotFound);
-    for (const StringView url : {U"http://", U"https://[::1", U"HTTP://x y/", U"http://h:99999/", U""})
-        errorOf(url);
-    EXPECT_EQ(errorOf(U"file:///etc/fstab"), Unknown);
+    const Int64 any = -1;
+    const std::pair<String, Int64> rows[] = {
+        {gone, Refused},       {U"http://name.invalid/", NotFound}, {U"http://", any}, {U"https://[::1", any},
+        {U"HTTP://x y/", any}, {U"http://h:99999/", any},           {U"", any},        {U"file:///etc/fstab", Unknown}};
+    for (const auto& [url, error] : rows) {
+        Client client;
+        client.Fetch(url);
+        EXPECT_FALSE(client.message.empty()) << QString::fromStdU32String(url).toStdString();
+        EXPECT_TRUE(error == any || client.error == error) << client.error;
+    }
 }
 
 TEST(URLConnection, IsSilentAfterDisconnectAndCanBeUsedAgainEvenByItsEvents)
@@ -163,30 +209,26 @@ TEST(URLConnection, TrustsAnUnknownServerOnlyWhenToldTo)
     const auto key = QString::fromStdString(folder.Path() / "key"),
                certificate = QString::fromStdString(folder.Path() / "crt");
     if (QProcess::execute("openssl", {"req", "-x509", "-newkey", "ec", "-pkeyopt", "ec_paramgen_curve:prime256v1",
-                                      "-nodes", "-days", "2", "-subj", "/CN=x", "-keyout", key, "-out", certificate}) !=
-        0)
+                                      "-nodes", "-days", "2", "-subj", "/CN=x", "-keyout", key, "-out", certificate}))
         GTEST_SKIP() << "no openssl to make a certificate";
     auto security = QSslConfiguration::defaultConfiguration();
     security.setPrivateKey(QSslKey(QByteArray::fromStdString(folder.Content("key")), QSsl::Ec));
     security.setLocalCertificateChain(QSslCertificate::fromPath(certificate));
 
-    const std::string page(3'000'000, '.');
-    for (const bool isChecked : {true, false}) {
-        const TestServer server("HTTP/1.1 200 OK\r\n\r\n" + page, Close, &security);
+    const std::string page(3'000'000, '.'), open = "HTTP/1.1 200 OK\r\n\r\n" + page;
+    const std::tuple<const char*, bool, std::string, Int64> rows[] = {
+        {"its certificate is checked", true, open, Untrusted},
+        {"is not checked", false, open, Fine},
+        {"it leads to an unsafe one", false, Page("302 Found\r\nLocation: http://127.0.0.1/", ""), Unsafe},
+    };
+    for (const auto& [name, isChecked, answer, error] : rows) {
+        const TestServer server(answer, Close, &security);
         Client client;
         client.AllowCertificateValidation = isChecked;
-        client.Send(U"Get", server.Url, 10);
-        EXPECT_TRUE(client.Reaches(1));
-        EXPECT_EQ(client.content, isChecked ? "" : page);
-        EXPECT_EQ(client.errorNumber, isChecked ? Untrusted : Fine);
+        client.Fetch(server.Url);
+        EXPECT_EQ(client.error, error) << name;
+        EXPECT_EQ(client.content, error == Fine ? page : "") << name;
     }
-
-    const TestServer server(Page("302 Found\r\nLocation: http://127.0.0.1/", ""), Wait, &security);
-    Client client;
-    client.AllowCertificateValidation = false;
-    client.Send(U"Get", server.Url, 10);
-    EXPECT_TRUE(client.Reaches(1));
-    EXPECT_EQ(client.errorNumber, Unsafe) << "a redirection from a safe server to an unsafe one";
 }
 
 } // namespace

@@ -1,15 +1,6 @@
 #include "tests/toolkit/TestMenus.h"
 
-#include <cstdlib>
 #include <gtest/gtest.h>
-
-namespace {
-
-DesktopApplication* application = nullptr;
-
-} // namespace
-
-DesktopApplication& TestApplication() { return *application; }
 
 int main(int argc, char** argv)
 {
@@ -19,8 +10,8 @@ int main(int argc, char** argv)
     for (const char* const name : {"http_proxy", "https_proxy", "all_proxy", "HTTP_PROXY", "HTTPS_PROXY", "ALL_PROXY"})
         unsetenv(name);
     setenv("PULSE_SERVER", "unix:/nowhere", 1);
-    DesktopApplication theApplication(argc, argv, U"Tests", U"1.0");
-    theApplication.SetMenuBar(TestMenus::Current().Menus());
-    application = &theApplication;
+    DesktopApplication application(argc, argv, U"Tests", U"1.0");
+    application.SetMenuBar(testMenus.bar);
+    testApplication = &application;
     return RUN_ALL_TESTS();
 }

@@ -2,18 +2,10 @@
 #pragma once
 
 #include "toolkit/DesktopApplication.h"
-#include "toolkit/DesktopMenu.h"
 
-/// The one that `main` made.
-DesktopApplication& TestApplication();
+inline DesktopApplication* testApplication = nullptr;
 
 struct TestMenus {
-    static TestMenus& Current()
-    {
-        static TestMenus menus;
-        return menus;
-    }
-
     DesktopMenuItem open{U"Open", U"Ouvrir…", U"Cmd+Shift+O"}, archive{U"Archive", U"Archive…", U"Cmd+Option+O"};
     DesktopMenuItem separator{U"", U"-"};
     DesktopQuitMenuItem quit{U"Quit", U"&Quit", U"Cmd+Cmd+Q"};
@@ -25,10 +17,8 @@ struct TestMenus {
     DesktopMenuItem clear{U"Clear", U"Effacer", U"", EditCommand::Clear};
     DesktopMenuItem selectAll{U"SelectAll", U"Tout", U"Cmd+A", EditCommand::SelectAll};
     DesktopPreferencesMenuItem preferences{U"Preferences", U"Préférences…", U"Cmd+,"};
-
-    DesktopMenuBar Menus()
-    {
-        return {{U"File", U"Fichier", {&open, &archive, &separator, &quit}},
-                {U"Edit", U"Édition", {&undo, &redo, &cut, &copy, &paste, &clear, &selectAll, &preferences}}};
-    }
+    const DesktopMenuBar bar = {
+        {U"File", U"Fichier", {&open, &archive, &separator, &quit}},
+        {U"Edit", U"Édition", {&undo, &redo, &cut, &copy, &paste, &clear, &selectAll, &preferences}}};
 };
+inline TestMenus testMenus;

@@ -1,11 +1,7 @@
 #include "tests/toolkit/WidgetTest.h"
-#include "toolkit/DesktopControls.h"
 #include "toolkit/DesktopTextArea.h"
 #include "toolkit/Probe.h"
-#include "toolkit/Timer.h"
-#include "toolkit/core/QtText.h"
 
-#include <QLabel>
 #include <QStatusBar>
 #include <QTimer>
 
@@ -13,7 +9,7 @@ namespace {
 
 constexpr unsigned L = Lock::Left, T = Lock::Top, R = Lock::Right, B = Lock::Bottom;
 
-TEST(Placement, ControlsFollowTheirLocks)
+TEST(Window, ControlsFollowTheirLocks)
 {
     const std::tuple<const char*, unsigned, QRect> rows[] = {
         {"left and top stay", L | T, {10, 20, 30, 40}},
@@ -25,12 +21,11 @@ TEST(Placement, ControlsFollowTheirLocks)
     for (const auto& [name, locks, expected] : rows) {
         DesktopWindow window({.title = U"W", .width = 400, .height = 300, .minimumWidth = 100, .minimumHeight = 100});
         DesktopLabel control(window, {10, 20, 30, 40, locks}, U"x");
-        control.SetName(U"control");
+        const auto place = [&] { return QRect(control.Left(), control.Top(), control.Width(), control.Height()); };
         window.SetWidth(500);
         window.SetHeight(250);
-        const auto place = [&] { return QRect(control.Left(), control.Top(), control.Width(), control.Height()); };
         EXPECT_EQ(place(), expected) << name;
-        EXPECT_GE(Find<QWidget>("control").height(), 0) << name;
+        EXPECT_GE(WidgetOf(control).height(), 0) << name;
         window.Show();
         QApplication::processEvents();
         EXPECT_EQ(place(), expected) << name << ", shown";
@@ -41,14 +36,13 @@ TEST(Placement, ControlsFollowTheirLocks)
     }
 }
 
-TEST(Placement, WindowsKeepTheSizesOfTheirContent)
+TEST(Window, KeepsTheSizesOfItsContent)
 {
     WindowStyle style{.title = U"W", .width = 760, .height = 500, .minimumWidth = 720, .minimumHeight = 400};
     style.maximumWidth = 800, style.hasMenuBar = style.hasStatusBar = true;
     DesktopWindow window(style);
     DesktopTextField field(window, {158, 13, 460, 22, L | T | R});
-    field.SetName(U"field");
-    const QWidget& content = *Find<QWidget>("field").parentWidget();
+    const QWidget& content = *WidgetOf(field).parentWidget();
     window.SetLeft(40);
     window.SetTop(60);
     window.Show();
@@ -58,19 +52,16 @@ TEST(Placement, WindowsKeepTheSizesOfTheirContent)
     EXPECT_EQ(content.mapToGlobal(QPoint(0, 0)), QPoint(40, 60));
     EXPECT_EQ(content.window()->height(), content.geometry().bottom() + 1 + window.StatusHeight());
     EXPECT_GT(window.StatusHeight(), 0);
-    window.SetWidth(100);
-    window.SetHeight(5000);
-    QApplication::processEvents();
-    EXPECT_EQ(content.size(), QSize(720, 5000));
-    EXPECT_EQ(field.Width(), 420);
-    EXPECT_EQ(Find<QWidget>("field").width(), 420);
-    window.SetWidth(900);
-    QApplication::processEvents();
-    EXPECT_EQ(content.width(), 800);
-    EXPECT_EQ(window.Width(), 800);
+    for (const auto& [width, height, expected] : {std::tuple(100, 5000, QSize(720, 5000)), {900, 1, QSize(800, 400)}}) {
+        window.SetWidth(width);
+        window.SetHeight(height);
+        QApplication::processEvents();
+        EXPECT_EQ(content.size(), expected);
+        EXPECT_EQ(QSize(window.Width(), window.Height()), expected);
+        EXPECT_EQ(QSize(field.Width(), WidgetOf(field).width()), QSize(1, 1) * (expected.width() - 300));
+    }
     window.SetTop(100);
-    EXPECT_EQ(window.Left(), 40);
-    EXPECT_EQ(content.mapToGlobal(QPoint(0, 0)).y(), 100);
+    EXPECT_EQ(content.mapToGlobal(QPoint(0, 0)), QPoint(40, 100));
 }
 
 TEST(Window, ASentenceStandsBelowTheContentAndLeavesTheFocus)
@@ -84,14 +75,17 @@ TEST(Window, ASentenceStandsBelowTheContentAndLeavesTheFocus)
     window.SetStatus(U"12 lines");
     auto* const bar = QApplication::activeWindow()->findChild<QStatusBar*>();
     const auto labels = bar->findChildren<QLabel*>();
-    struct Row {
+    const struct {
         const char* name;
         QString sentence;
         bool hidesStatus, isShortened;
+    } rows[] = {
+        {"beside the status", "Saved", false, false},
+        {"in its place", QString(45, 'n'), true, false},
+        {"too long for the bar", QString(200, 'n'), true, true},
+        {"none", "", false, false},
     };
-    for (const Row& row :
-         {Row{"beside the status", "Saved", false, false}, Row{"in its place", QString(45, 'n'), true, false},
-          Row{"too long for the bar", QString(200, 'n'), true, true}, Row{"none", "", false, false}}) {
+    for (const auto& row : rows) {
         DesktopWindow::Say(FromQt(row.sentence));
         EXPECT_EQ(labels[0]->accessibleName(), row.sentence) << row.name;
         EXPECT_EQ(labels[0]->text() != row.sentence, row.isShortened) << row.name;
@@ -101,13 +95,11 @@ TEST(Window, ASentenceStandsBelowTheContentAndLeavesTheFocus)
     }
     plain.Show();
     DesktopWindow::Say(U"said over a window without a bar");
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    EXPECT_EQ(std::ranges::count_if(windows,
-                                    [](const QWidget* shown) {
-                                        const auto* const other = shown->findChild<QStatusBar*>();
-                                        return other && !other->findChild<QLabel*>()->text().isEmpty();
-                                    }),
-              1);
+    int bars = 0;
+    for (const QWidget* shown : QApplication::topLevelWidgets())
+        for (const auto* other : shown->findChildren<QStatusBar*>())
+            bars += other->findChild<QLabel*>()->text().isEmpty() ? 0 : 1;
+    EXPECT_EQ(bars, 1);
 }
 
 TEST(Window, TabKeyGoesByIndexThenByCreation)
@@ -128,50 +120,40 @@ TEST(Window, TabKeyGoesByIndexThenByCreation)
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         EXPECT_EQ(window.Focus(), expected) << expected->TabIndex();
     }
-    group.SetFocus();
-    EXPECT_EQ(window.Focus(), &group);
-    never.SetFocus();
-    EXPECT_EQ(window.Focus(), &never);
+    for (DesktopUIControl* control : std::initializer_list<DesktopUIControl*>{&group, &never}) {
+        control->SetFocus();
+        EXPECT_EQ(window.Focus(), control);
+    }
 }
 
-TEST(Window, OpensBeforeItIsSeenAndOnce)
-{
-    DesktopWindow window({.title = U"W", .width = 400, .height = 300});
-    std::string events;
-    window.Opening = [&] { events += window.Visible() ? "late " : "opening "; };
-    window.Activated = [&] { events += "activated "; };
-    ShowActive(window);
-    EXPECT_TRUE(window.Visible());
-    window.Show();
-    EXPECT_EQ(events, "opening activated ");
-
-    DesktopWindow refused({.title = U"R", .width = 400, .height = 300});
-    refused.Opening = [&] { refused.Close(); };
-    refused.Show();
-    EXPECT_FALSE(refused.Visible()) << "closed while it opens, it is never seen";
-}
-
-TEST(Window, AUserClosesItUnlessItObjects)
+TEST(Window, OpensBeforeItIsSeenAndOnceAndClosesUnlessItObjects)
 {
     DesktopWindow window({.title = U"W", .width = 400, .height = 300});
     DesktopLabel label(window, {0, 0, 10, 10}, U"x");
-    label.SetName(U"label");
+    std::string events;
     bool objects = true;
-    std::vector<bool> asked;
-    window.CancelClosing = [&](bool appQuitting) { return asked.push_back(appQuitting), objects; };
+    window.Opening = [&] { events += window.Visible() ? "late " : "opening "; };
+    window.Activated = [&] { events += "activated "; };
+    window.CancelClosing = [&](bool appQuitting) { return events += appQuitting ? "quit " : "close ", objects; };
+    ShowActive(window);
     window.Show();
-    Find<QWidget>("label").window()->close();
+    EXPECT_EQ(events, "opening activated ");
+    WidgetOf(label).window()->close();
     EXPECT_TRUE(window.Visible());
     objects = false;
-    Find<QWidget>("label").window()->close();
+    WidgetOf(label).window()->close();
     EXPECT_FALSE(window.Visible());
-    EXPECT_EQ(asked, (std::vector{false, false})) << "each close asks once";
+    EXPECT_EQ(events, "opening activated close close ") << "each close asks once";
+
+    window.Opening = [&] { window.Close(); };
+    window.Show();
+    EXPECT_FALSE(window.Visible()) << "closed while it opens, it is never seen";
 }
 
 TEST(Application, QuitEndsTheLoopUnlessAWindowObjects)
 {
-    DesktopWindow first({.title = U"1", .width = 40, .height = 30}), second({.title = U"2", .width = 40, .height = 30});
-    DesktopWindow hidden({.title = U"3", .width = 40, .height = 30});
+    const WindowStyle style{.title = U"1", .width = 40, .height = 30};
+    DesktopWindow first(style), second(style), hidden(style);
     std::string asked;
     bool objects = true;
     first.CancelClosing = [&](bool appQuitting) { return asked += appQuitting ? "1" : "x", false; };
@@ -179,16 +161,14 @@ TEST(Application, QuitEndsTheLoopUnlessAWindowObjects)
     hidden.CancelClosing = [&](bool) { return asked += "3", true; };
     first.Show();
     second.Show();
-    Timer timer(0);
-    timer.Action = [&] {
-        TestApplication().Quit(3);
+    QTimer::singleShot(0, qApp, [&] {
+        testApplication->Quit(3);
         objects = false;
-        TestApplication().Quit(4);
-    };
-    timer.SetRunMode(Timer::RunModes::Single);
-    EXPECT_EQ(TestApplication().Run(), 4);
+        testApplication->Quit(4);
+    });
+    EXPECT_EQ(testApplication->Run(), 4);
     EXPECT_EQ(asked, "1212");
-    EXPECT_EQ(TestApplication().Run(), 4) << "what has ended doesn't begin again";
+    EXPECT_EQ(testApplication->Run(), 4) << "what has ended doesn't begin again";
 }
 
 TEST(Application, AnExceptionOfAHandlerIsToldAndTheLoopGoesOn)
