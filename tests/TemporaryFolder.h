@@ -6,9 +6,6 @@
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
-#include <string>
-#include <string_view>
-#include <system_error>
 
 class TemporaryFolder {
 public:
@@ -39,7 +36,7 @@ public:
     std::filesystem::path File(const std::filesystem::path& name, std::string_view bytes = {}) const
     {
         std::filesystem::create_directories((path_ / name).parent_path());
-        std::ofstream(path_ / name, std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+        std::ofstream(path_ / name, std::ios::binary) << bytes;
         return path_ / name;
     }
 

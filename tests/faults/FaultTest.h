@@ -1,4 +1,5 @@
-/// What the tests of faults share: a main window that is about to save, archive and quit, and its files.
+/// What the tests of faults share: a main window that is about to save, archive and quit, or to treat a text, and the
+/// files.
 #pragma once
 
 #include "tests/faults/FileFaults.h"
@@ -37,6 +38,20 @@ protected:
         window->TextAreaAff.SetText(Encodings::UTF8.Decode(fresh));
     }
 
+    /// Treats the original: the first variant goes over a file, the second one over a folder.
+    void Treat()
+    {
+        app->TabSpecAorg = {U"", U"x"};
+        app->TabSpecAdest1 = {U"one", U"1"};
+        app->TabSpecAdest2 = {U"two", U"2"};
+        app->PathSpecA = Fncts::AbsPath_f(FolderItem(original), true);
+        WinSpecA special(*window, window->SegButtSpecA, window->TimerQuit);
+        special.Show();
+        // Goes on, and replaces whatever is there; the rest are notices.
+        probe.Answers = {1, 3, 3, 3, 3, 3, 3};
+        special.PushButtTrait_Pressed();
+    }
+
     std::vector<std::string> Archives() const
     {
         std::vector<std::string> contents;
@@ -53,8 +68,10 @@ protected:
 
     const std::string old = Lines('o'), fresh = Lines('n', 450);
     const std::string oldPreferences = "Volume Sonore :@: 7\nNo such key :@: " + std::string(2000, 'x') + "\n";
-    const std::filesystem::path target = folder.Path() / "Custom Scenery/scenery_packs.ini";
-    const std::filesystem::path archives = folder.Path() / "archives";
-    const std::filesystem::path preferences = folder.Path() / "data/fr.Kavesti.Tarnivel Datas/Tarnivel Prefs.txt";
-    std::map<std::filesystem::path, std::string> before = {{target, old}, {preferences, oldPreferences}};
+    const std::filesystem::path in = folder.Path() / "in", original = in / "original.txt", one = in / "one",
+                                two = in / "two", target = folder.Path() / "Custom Scenery/scenery_packs.ini",
+                                archives = folder.Path() / "archives",
+                                preferences = folder.Path() / "data/fr.Kavesti.Tarnivel Datas/Tarnivel Prefs.txt";
+    std::map<std::filesystem::path, std::string> before = {
+        {target, old}, {preferences, oldPreferences}, {original, Lines('x')}, {one, "old"}, {two / "inner", "old"}};
 };

@@ -1,4 +1,3 @@
-#include "specialA/WinSpecA.h"
 #include "support/FileHelpers.h"
 #include "tests/faults/FaultTest.h"
 
@@ -132,33 +131,20 @@ TEST_F(Faults, OfAnOlderDataFolderThatKeepsItsPlaceAreTold)
 
 TEST_F(Faults, OfATreatmentAreToldForEachVariant)
 {
-    const fs::path in = folder.Path() / "in", original = in / "original.txt", one = in / "one", two = in / "two";
-    before = {{original, Lines('x')}, {one, "old"}, {two / "inner", "old"}};
     Reset();
     Open();
-    app->TabSpecAorg = {U"", U"x"};
-    app->TabSpecAdest1 = {U"one", U"1"};
-    app->TabSpecAdest2 = {U"two", U"2"};
-    app->PathSpecA = Fncts::AbsPath_f(FolderItem(original), true);
-    WinSpecA special(*window, window->SegButtSpecA, window->TimerQuit);
-    special.Show();
-
-    const auto act = [&] {
-        // Goes on, and replaces whatever is there; the rest are notices.
-        probe.Answers = {1, 3, 3, 3, 3, 3, 3};
-        special.PushButtTrait_Pressed();
-    };
-    ForEachFault(act, [&](bool forGood) {
-        EXPECT_EQ(folder.Content(original), before[original]);
-        const std::string first = folder.Content(one);
-        const bool second = fs::is_regular_file(two) && folder.Content(two) == Lines('2');
-        const auto failures = (first == Lines('1') ? 0 : 1) + (second ? 0 : 1);
-        EXPECT_TRUE(first == Lines('1') || first == "old");
-        EXPECT_TRUE(second || Told(variantFailed) > 0 || folder.Content(two / "inner") == "old");
-        EXPECT_TRUE(Told(notRead) == 1 || failures <= Told(variantFailed));
-        EXPECT_TRUE(forGood || failures > 0 || Leftovers(original) == 2);
-        EXPECT_TRUE(Fncts::DrapMenu);
-    });
+    ForEachFault([this] { Treat(); },
+                 [&](bool forGood) {
+                     EXPECT_EQ(folder.Content(original), before[original]);
+                     const std::string first = folder.Content(one);
+                     const bool second = fs::is_regular_file(two) && folder.Content(two) == Lines('2');
+                     const auto failures = (first == Lines('1') ? 0 : 1) + (second ? 0 : 1);
+                     EXPECT_TRUE(first == Lines('1') || first == "old");
+                     EXPECT_TRUE(second || Told(variantFailed) > 0 || folder.Content(two / "inner") == "old");
+                     EXPECT_TRUE(Told(notRead) == 1 || failures <= Told(variantFailed));
+                     EXPECT_TRUE(forGood || failures > 0 || Leftovers(original) == 2);
+                     EXPECT_TRUE(Fncts::DrapMenu);
+                 });
 }
 
 } // namespace

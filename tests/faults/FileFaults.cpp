@@ -15,14 +15,14 @@
 
 namespace {
 
-FileFaults* current = nullptr;
-
-bool IsBelow(std::string_view path) { return current && path.starts_with(current->folder); }
+bool IsBelow(std::string_view path) { return FileFaults::current && path.starts_with(FileFaults::current->folder); }
 
 std::string PathOf(int file)
 {
     std::error_code ignored;
-    return current ? std::filesystem::read_symlink("/proc/self/fd/" + std::to_string(file), ignored).native() : "";
+    return FileFaults::current
+               ? std::filesystem::read_symlink("/proc/self/fd/" + std::to_string(file), ignored).native()
+               : "";
 }
 
 std::size_t Portion(int file, std::size_t size)
@@ -34,9 +34,10 @@ std::size_t Portion(int file, std::size_t size)
 bool Fails(const char* name, std::string_view path)
 {
     if (!IsBelow(path)) return false;
-    current->calls.push_back(std::string(name).append(" ").append(path.substr(current->folder.size())));
-    const auto [call, error, forGood] = current->fault;
-    const int made = static_cast<int>(current->calls.size());
+    auto& [folder, fault, calls] = *FileFaults::current;
+    calls.push_back(std::string(name).append(" ").append(path.substr(folder.size())));
+    const auto [call, error, forGood] = fault;
+    const int made = static_cast<int>(calls.size());
     if (call == 0 || made < call || (made > call && !forGood)) return false;
     if (error == 0) ::kill(::getpid(), SIGKILL);
     errno = error;
@@ -52,15 +53,6 @@ auto Call(const char* name, std::string_view path, Arguments... arguments)
 }
 
 } // namespace
-
-FileFaults::FileFaults(std::string below, Fault planned)
-    : folder(std::move(below))
-    , fault(planned)
-{
-    current = this;
-}
-
-FileFaults::~FileFaults() { current = nullptr; }
 
 extern "C" {
 

@@ -19,11 +19,17 @@ struct Fault {
 /// While one lives, calls that touch what is below the folder are counted, and fail as the fault says. No read or write
 /// takes more than 4096 bytes, so that a file of some size takes several of them.
 struct FileFaults {
-    explicit FileFaults(std::string below, Fault planned = {});
-    ~FileFaults();
+    explicit FileFaults(std::string below, Fault planned = {})
+        : folder(std::move(below))
+        , fault(planned)
+    {
+        current = this;
+    }
+    ~FileFaults() { current = nullptr; }
     FileFaults(const FileFaults&) = delete;
     FileFaults& operator=(const FileFaults&) = delete;
 
+    static inline FileFaults* current = nullptr;
     const std::string folder;
     const Fault fault;
     /// Name and path of each call that was made.

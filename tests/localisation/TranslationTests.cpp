@@ -1,18 +1,13 @@
 #include "localisation/Localisation.h"
 #include "toolkit/core/TextInputStream.h"
 
-#include <algorithm>
+#include <cstdlib>
 #include <gtest/gtest.h>
 #include <set>
 
 namespace {
 
-struct Row {
-    std::string name;
-    const Localisation::Text& text;
-};
-
-const Row allTexts[] = {
+const std::pair<std::string, const Localisation::Text&> allTexts[] = {
 #include "AllTexts.inc"
 };
 
@@ -32,33 +27,26 @@ std::vector<std::size_t> Shape(const String& text)
     return shape;
 }
 
+String File(const std::string& name)
+{
+    return Encodings::UTF8.Decode(TextInputStream::Open(FolderItem(SOURCE_FOLDER "/" + name)).ReadAll());
+}
+
 class Translations : public testing::TestWithParam<std::string> {
 protected:
     const String language = Encodings::UTF8.Decode(GetParam());
-
-    static String File(const std::string& name)
-    {
-        return Encodings::UTF8.Decode(TextInputStream::Open(FolderItem(SOURCE_FOLDER "/" + name)).ReadAll());
-    }
 };
 
-TEST_P(Translations, EachTextIsTranslatedInTheShapeOfTheFrenchOne)
-{
-    for (const auto& [name, text] : allTexts) {
-        const String ours = text(language);
-        const String original = text(french);
-        EXPECT_TRUE(ours != original || international.contains(name)) << name << " is missing";
-        EXPECT_EQ(CountFields(ours, U"¿%"), CountFields(original, U"¿%")) << name;
-        EXPECT_EQ(Shape(ours), Shape(original)) << name;
-    }
-}
-
-TEST_P(Translations, TheFileShowsEachTextInFrenchAndIsFinished)
+TEST_P(Translations, HoldEachTextInTheShapeOfTheFrenchOne)
 {
     const String file = File("resources/translations/tarnivel_" + GetParam() + ".ts");
     for (const auto& [name, text] : allTexts) {
+        const String ours = text(language), original = text(french);
+        EXPECT_TRUE(ours != original || international.contains(name)) << name << " is missing";
+        EXPECT_EQ(CountFields(ours, U"¿%"), CountFields(original, U"¿%")) << name;
+        EXPECT_EQ(Shape(ours), Shape(original)) << name;
         const String id = Encodings::UTF8.Decode("<message id=\"Localisation." + name + "\">\n        <source>");
-        EXPECT_NE(file.find(id + text(french) + U"</source>"), String::npos) << name;
+        EXPECT_NE(file.find(id + original + U"</source>"), String::npos) << name << " has another French text";
     }
     EXPECT_EQ(CountFields(file, U"<message id="), std::ssize(allTexts) + 1) << "a text that the program doesn't have";
     EXPECT_EQ(IndexOf(file, U"unfinished"), -1);
@@ -67,27 +55,55 @@ TEST_P(Translations, TheFileShowsEachTextInFrenchAndIsFinished)
 TEST_P(Translations, TheHelpNamesTheControlsByTheirCaptions)
 {
     using namespace Localisation;
-    const String rows = PopupAff(language);
-    const String help = Infos_Texte(language);
+    const String rows = PopupAff(language), help = Infos_Texte(language);
     for (const String& caption :
          {RdButtSourceB(language), Btn_Generer(language), Btn_EnabDis(language), Btn_SauvFichier(language),
-          String(NthField(rows, U"\n", 1)), String(NthField(rows, U"\n", 3))}) {
-        const auto found = help.find(caption);
-        ASSERT_NE(found, String::npos) << Encodings::UTF8.Encode(caption);
-        EXPECT_TRUE(help[found - 1] == U'“' || help[found - 1] == U'„') << Encodings::UTF8.Encode(caption);
-    }
+          String(NthField(rows, U"\n", 1)), String(NthField(rows, U"\n", 3))})
+        EXPECT_TRUE(help.find(U'“' + caption) != help.npos || help.find(U'„' + caption) != help.npos)
+            << Encodings::UTF8.Encode(caption);
 }
 
 TEST_P(Translations, TheDesktopSpeaksTheLanguageToo)
 {
-    const String entry = File("packaging/fr.kavesti.tarnivel.desktop");
+    const String entry = File("packaging/fr.kavesti.tarnivel.desktop"),
+                 metainfo = File("packaging/fr.kavesti.tarnivel.metainfo.xml");
     for (const StringView key : {U"GenericName", U"Comment", U"Keywords"})
-        EXPECT_NE(IndexOf(entry, String(key) + U"[" + language + U"]="), language == U"en" ? 0 : -1);
-    EXPECT_NE(IndexOf(File("packaging/fr.kavesti.tarnivel.metainfo.xml"), U"<summary xml:lang=\"" + language + U"\">"),
-              language == U"en" ? 0 : -1);
+        EXPECT_EQ(IndexOf(entry, String(key) + U"[" + language + U"]=") < 0, language == U"en");
+    EXPECT_EQ(IndexOf(metainfo, U"<summary xml:lang=\"" + language + U"\">") < 0, language == U"en");
 }
 
 INSTANTIATE_TEST_SUITE_P(All, Translations, testing::Values(LANGUAGES),
                          [](const auto& tested) { return tested.param; });
+
+struct User {
+    const char *name, *lang, *language;
+    StringView file; // the word for "file"
+};
+
+/// Looks a text up as a user does; ends the process with 0 when it is the wanted one.
+[[noreturn]] void LookUpAndExit(const User& user)
+{
+    for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANGUAGE"})
+        unsetenv(name);
+    setenv("LANG", user.lang, 1);
+    if (*user.language) setenv("LANGUAGE", user.language, 1);
+    std::exit(Localisation::Menu_Fichier() == user.file ? 0 : 1);
+}
+
+// The user's language is asked for once in the life of a process, so each row has a process of its own.
+TEST(UserLanguage, DecidesWhatIsRead)
+{
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    for (const User& user : {User{"LANG alone decides", "de_DE.UTF-8", "", U"Datei"},
+                             {"LANGUAGE comes before LANG", "de_DE.UTF-8", "nl", U"Bestand"},
+                             {"a country's variant reads its language", "pt_BR.UTF-8", "", U"Ficheiro"},
+                             {"and so it does in a list", "en_US.UTF-8", "pl:pt_BR:de", U"Ficheiro"},
+                             {"an unknown first language gives way to the second", "sv_SE.UTF-8", "sv:es", U"Archivo"},
+                             {"French is known, though it has no translation", "fr_FR.UTF-8", "fr:en", U"Fichier"},
+                             {"and so is a variant of it", "en_US.UTF-8", "pl:fr_CA:de", U"Fichier"},
+                             {"an unknown language reads French", "sv_SE.UTF-8", "", U"Fichier"},
+                             {"no language reads French", "C", "", U"Fichier"}})
+        EXPECT_EXIT(LookUpAndExit(user), testing::ExitedWithCode(0), "") << user.name;
+}
 
 } // namespace

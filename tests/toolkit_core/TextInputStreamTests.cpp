@@ -8,14 +8,6 @@
 
 namespace {
 
-std::vector<Bytes> Lines(TextInputStream stream)
-{
-    std::vector<Bytes> lines;
-    while (!stream.EndOfFile())
-        lines.push_back(stream.ReadLine());
-    return lines;
-}
-
 TEST(TextInputStream, ReadsLinesWithEveryLineEnd)
 {
     const TemporaryFolder folder;
@@ -32,7 +24,10 @@ TEST(TextInputStream, ReadsLinesWithEveryLineEnd)
     for (const auto& [name, content, lines] : rows) {
         SCOPED_TRACE(name);
         const FolderItem file(folder.File("file", content));
-        EXPECT_EQ(Lines(TextInputStream::Open(file)), lines);
+        TextInputStream stream = TextInputStream::Open(file);
+        for (const Bytes& line : lines)
+            EXPECT_EQ(stream.ReadLine(), line);
+        EXPECT_TRUE(stream.EndOfFile());
         EXPECT_EQ(TextInputStream::Open(file).ReadAll(), content);
     }
 }
