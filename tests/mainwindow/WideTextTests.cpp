@@ -40,31 +40,29 @@ TEST_F(WideText, ALineIsToggledInTheViewOnScreenAndAReturnIsTold)
 
 TEST_F(WideText, AMatchIsSelectedAndTheSoundTellsWhatWasFound)
 {
-    const auto search = [this](StringView word, const auto& ask) {
+    const DesktopTextArea& area = window->TextAreaAff;
+    const auto search = [&](StringView word, const auto& ask) {
         probe.Sounds.clear();
         window->TextFieldCherch.SetText(word);
         ask();
-        const DesktopTextArea& area = window->TextAreaAff;
-        return std::tuple{area.SelectionStart(), area.SelectedText(), probe.Sounds};
+        return std::tuple(area.SelectionStart(), area.SelectedText(), probe.Sounds.empty() ? U"" : probe.Sounds.back());
     };
     const auto button = [this] { window->PushButtCherch_Pressed(); };
     const Int64 first = IndexOf(text, U"Custom"), second = IndexOf(text, U"Custom", first + 1);
-    using Sounds = std::vector<String>;
-    EXPECT_EQ(search(U"alpes", button), std::tuple(second + 15, U"Alpes", Sounds{U"Agrafeuse_t.wav"}));
-    EXPECT_EQ(search(U"alpes", button), std::tuple(second + 15, U"Alpes", Sounds{U"Whit.wav"}));
-    EXPECT_EQ(window->Focus(), &window->TextAreaAff);
+    EXPECT_EQ(search(U"alpes", button), std::tuple(second + 15, U"Alpes", U"Agrafeuse_t.wav"));
+    EXPECT_EQ(search(U"alpes", button), std::tuple(second + 15, U"Alpes", U"Whit.wav"));
+    EXPECT_EQ(window->Focus(), &area);
     for (const Int64 place : {first, second, first}) {
-        EXPECT_EQ(search(U"custom", window->TextFieldCherch.Entered),
-                  std::tuple(place, U"Custom", Sounds{U"Agrafeuse_t.wav"}));
+        EXPECT_EQ(search(U"custom", window->TextFieldCherch.Entered), std::tuple(place, U"Custom", U"Agrafeuse_t.wav"));
         EXPECT_EQ(window->Focus(), &window->TextFieldCherch) << "the next Enter searches on";
     }
     Fncts::DrapMenu = false;
-    EXPECT_EQ(search(U"alpes", button), std::tuple(first, U"Custom", Sounds{}));
+    EXPECT_EQ(search(U"alpes", button), std::tuple(first, U"Custom", U""));
     Fncts::DrapMenu = true;
     EXPECT_EQ(probe.Beeps, 0);
-    EXPECT_EQ(search(U"", button), std::tuple(first, U"Custom", Sounds{}));
+    EXPECT_EQ(search(U"", button), std::tuple(first, U"Custom", U""));
     EXPECT_EQ(probe.Beeps, 1);
-    EXPECT_EQ(search(U"nowhere", button), std::tuple(0, U"", Sounds{U"Glass_t.wav"}));
+    EXPECT_EQ(search(U"nowhere", button), std::tuple(0, U"", U"Glass_t.wav"));
     window->PushButtInitCherch_Pressed();
     EXPECT_EQ(window->TextFieldCherch.Text(), U"");
 }
@@ -87,31 +85,35 @@ TEST_F(WideText, WhatIsNotThereIsNotRevealed)
 
 TEST_F(WideText, FieldsTakeWhatTheyCanKeep)
 {
-    const auto dropped = [&](DesktopTextField& field, const std::filesystem::path& item) {
-        field.ItemDropped(FolderItem(item));
-        return std::tuple(field.Text(), std::exchange(probe.Beeps, 0), probe.Said.empty() ? U"" : probe.Said.back());
-    };
-    const String model = window->TextFieldMod1.Text(), archives = window->TextFieldArchiv.Text();
-    std::filesystem::create_symlink("nowhere", folder.Path() / "link.ini");
-    std::filesystem::create_directory_symlink("Custom Scenery", folder.Path() / "way");
-    const std::filesystem::path twin = folder.File("e\u0301.ini"), composed = folder.File("\u00E9.ini"),
-                                noText = folder.File("\xFF.ini"), picture = folder.File("picture.png");
+    const auto at = [this](const char* name) { return folder.Path() / name; };
+    std::filesystem::create_symlink("nowhere", at("link.ini"));
+    std::filesystem::create_directory_symlink("Custom Scenery", at("way"));
+    const std::filesystem::path twin = folder.File("e\u0301.ini"), composed = folder.File("\u00E9.ini");
+    DesktopTextField &model = window->TextFieldMod1, &archives = window->TextFieldArchiv;
     using namespace Localisation;
-    EXPECT_EQ(dropped(window->TextFieldMod1, folder.Path() / "link.ini"), std::tuple(model, 1, Dit_AliasMort()));
-    EXPECT_EQ(dropped(window->TextFieldMod1, folder.Path() / "way"), std::tuple(model, 1, Txt_DropQueFichTxt()));
-    EXPECT_EQ(dropped(window->TextFieldMod1, picture), std::tuple(model, 1, Txt_DropQueFichTxt()));
-    EXPECT_EQ(dropped(window->TextFieldMod1, twin), std::tuple(model, 1, Txt_NomNonGarde()));
-    EXPECT_EQ(dropped(window->TextFieldMod1, noText), std::tuple(model, 1, Txt_NomNonGarde()));
-    EXPECT_EQ(dropped(window->TextFieldArchiv, picture), std::tuple(archives, 1, Txt_DropQueDoss()));
+    const std::tuple<DesktopTextField*, std::filesystem::path, String> rows[] = {
+        {&model, at("link.ini"), Dit_AliasMort()},
+        {&model, at("way"), Txt_DropQueFichTxt()},
+        {&model, folder.File("picture.png"), Txt_DropQueFichTxt()},
+        {&model, twin, Txt_NomNonGarde()},
+        {&model, folder.File("\xFF.ini"), Txt_NomNonGarde()},
+        {&archives, at("picture.png"), Txt_DropQueDoss()},
+    };
+    for (const auto& [field, item, refusal] : rows) {
+        const String before = field->Text();
+        field->ItemDropped(FolderItem(item));
+        EXPECT_EQ(field->Text(), before) << item;
+        EXPECT_EQ(std::exchange(probe.Beeps, 0), 1) << item;
+        EXPECT_EQ(probe.Said.back(), refusal) << item;
+    }
     EXPECT_EQ(window->TextAreaAff.Text(), text) << "what is refused changes nothing";
 
-    dropped(window->TextFieldArchiv, folder.Path() / "way");
-    EXPECT_EQ(window->TextFieldArchiv.Text(), Fncts::AbsPath_f(FolderItem(folder.Path() / "Custom Scenery"), true));
-    window->RadGrpSrc.SetSelectedIndex(1);
+    archives.ItemDropped(FolderItem(at("way")));
+    EXPECT_EQ(archives.Text(), Fncts::AbsPath_f(FolderItem(at("Custom Scenery")), true));
     window->TextFieldMod2.Entered();
     EXPECT_EQ(window->RadGrpSrc.SelectedIndex(), 1);
-    dropped(window->TextFieldMod1, composed);
-    EXPECT_EQ(Fncts::GetFitemAbsPath(window->TextFieldMod1.Text(), false)->Path(), composed);
+    model.ItemDropped(FolderItem(composed));
+    EXPECT_EQ(Fncts::GetFitemAbsPath(model.Text(), false)->Path(), composed);
     EXPECT_EQ(window->RadGrpSrc.SelectedIndex(), 0) << "a chosen model is the one that is used";
     EXPECT_EQ(window->TextAreaAff.Text(), U"") << "the old model's results are gone";
 }

@@ -202,6 +202,7 @@ TEST_F(MainWindow, ThePreferencesFillTheControls)
     EXPECT_EQ(app->DefVolSon(), 80);
     EXPECT_TRUE(window->SegButtSpecA.Visible());
     EXPECT_TRUE(app->TabSpecAorg.empty());
+    EXPECT_EQ(probe.Beeps, 13) << "one for the byte, three for each line that was passed over";
 }
 
 TEST_F(MainWindow, TheLabelOfTheVersionOpensThePageOfVersions)

@@ -42,9 +42,6 @@ protected:
                                    .win = win,
                                    .sheet = sheet});
     }
-    /// What was told last, without the words that stand above each message for the authors.
-    [[nodiscard]] String Told() const { return probe_.Asked.back().substr(36); }
-
     Probe probe_;
     Window asking_{U"asking"}, other_{U"other"};
 };
@@ -63,9 +60,6 @@ TEST_F(Dialogs, TheButtonPressedIsTheResultAndTheProgramIsQuietMeanwhile)
     Fncts::MyDialogBox(
         {.message = U"", .explanation = U"More", .btnAction = U"Ok", .icon = Fncts::DialogIcon::Failure});
     EXPECT_EQ(probe_.Asked.back(), U" \nMore[Ok]");
-    Fncts::MyDialogBox({.message = U"No action", .btnAction = U"", .win = &asking_});
-    EXPECT_EQ(probe_.Asked[5], U"Error !\nPlease contact the authors.\nMy DialogBox, BtnAct = ''");
-    EXPECT_EQ(probe_.Asked.size(), 7U) << "the dialog is shown all the same";
 }
 
 TEST_F(Dialogs, ASheetCoversTheOtherVisibleWindowsAlone)
@@ -100,14 +94,6 @@ TEST_F(Dialogs, AFaultInADialogLeavesNothingLocked)
     EXPECT_TRUE(Fncts::DrapMenu && !Fncts::DrapDiagBox && other_.IsFree());
 }
 
-TEST_F(Dialogs, AChooserGivesTheItemChosen)
-{
-    probe_.Answers = {std::optional(FolderItem("/a"))};
-    EXPECT_EQ(Fncts::MyDialogLoad(std::nullopt, U"File?", U".txt", &asking_, true)->Path(), "/a");
-    EXPECT_FALSE(Fncts::MyDialogFolder(std::nullopt, U"Folder?", nullptr, true)) << "the user gave up";
-    EXPECT_EQ(probe_.Asked, (std::vector<String>{U"File?", U"Folder?"}));
-}
-
 TEST_F(Dialogs, AnActivatedWindowSendsTheUserBackWithOneBeep)
 {
     const auto activate = [&] { return Fncts::CmLabBlockUI(Fncts::CoverAct::Activated, &other_); };
@@ -120,31 +106,6 @@ TEST_F(Dialogs, AnActivatedWindowSendsTheUserBackWithOneBeep)
     activate();
     EXPECT_EQ(probe_.Beeps, 1);
     Fncts::CmLabBlockUI(Fncts::CoverAct::Remember, nullptr);
-}
-
-TEST_F(Dialogs, AWindowHasOneCover)
-{
-    DesktopLabel second(other_, {0, 0, 9, 9}, U"");
-    second.SetName(U"LabBlockUI1");
-    Fncts::CtrlDsFenetrDiag(&asking_, true);
-    EXPECT_EQ(Told(), U"CtrlDsFenetrDiag, there is more than one 'LabBlockUI' in window 'other'");
-    second.SetName(U"");
-    other_.Cover().SetLocks(Lock::Top);
-    Fncts::CtrlDsFenetrDiag(&asking_, true);
-    EXPECT_EQ(Told(), U"CtrlDsFenetrDiag, 'LabBlockUI' should be Lock Left and Lock Top");
-    EXPECT_TRUE(other_.IsCovered());
-    other_.Cover().SetName(U"");
-    Fncts::CtrlDsFenetrDiag(&asking_, true);
-    EXPECT_EQ(Told(), U"CtrlDsFenetrDiag, there is not 'LabBlockUI' in window 'other'");
-    Fncts::CtrlDsFenetrDiag(&asking_, false);
-}
-
-TEST_F(Dialogs, WindowsThatOpenBeforeTheirTimeAreTold)
-{
-    Fncts::CtrlFenetrOuv({&asking_, &other_});
-    EXPECT_TRUE(probe_.Asked.empty());
-    Fncts::CtrlFenetrOuv({});
-    EXPECT_EQ(Told(), U"PrefsCharger, Windows launched before read AffHelpTag !\n • 'asking'\n • 'other'");
 }
 
 TEST_F(Dialogs, TextFieldsMoveUpAndTheFocusComesBack)
