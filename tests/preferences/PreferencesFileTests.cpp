@@ -36,12 +36,11 @@ protected:
 
 TEST_F(File, IsWrittenOnlyWhereSomethingChangedOrNothingIsThere)
 {
-    PreferencesFile file = Start("Volume Sonore :@: 7\nof another version\n");
-    Preferences settings = file.Settings();
-    EXPECT_TRUE(file.Write(settings));
-    EXPECT_EQ(folder.Content(name), "Volume Sonore :@: 7\nof another version\n");
-    settings.volume = 8;
-    EXPECT_TRUE(file.Write(settings));
+    const std::string content = "\xEF\xBB\xBFVolume Sonore :@: 7\nof another version\n";
+    const PreferencesFile file = Start(content);
+    EXPECT_TRUE(file.Write(file.Settings()));
+    EXPECT_EQ(folder.Content(name), content);
+    EXPECT_TRUE(file.Write(WithVolume(8)));
     EXPECT_EQ(Written().volume, 8);
     fs::remove(folder.Path() / name);
     EXPECT_TRUE(file.Write(file.Settings()));

@@ -35,24 +35,24 @@ TEST_F(PreferencesWindow, TakesOverBothSettingsOrNone)
     segButtSpecA.SetVisible(false);
     for (const bool taken : {false, true}) {
         Open();
-        EXPECT_EQ(window->SliderVol.Value(), 40);
-        EXPECT_EQ(window->SliderVol.Tooltip(), U"40");
+        EXPECT_TRUE(window->SliderVol.Value() == 40 && window->SliderVol.Tooltip() == U"40");
         EXPECT_FALSE(window->CheckBoxAffBtnSpecA.Value());
         window->SliderVol.SetValue(7);
         EXPECT_EQ(window->SliderVol.Tooltip(), U"7");
         window->CheckBoxAffBtnSpecA.SetValue(true);
-        EXPECT_EQ(app.DefVolSon(), 40) << "not before the button is pressed";
         window->Close();
         EXPECT_TRUE(window->Visible());
+        EXPECT_EQ(app.DefVolSon(), 40) << "not before the button is pressed";
         taken ? window->PushButtOk_Pressed() : window->PushButtAnnuler_Pressed();
-        EXPECT_FALSE(window->Visible());
-        EXPECT_TRUE(Fncts::DrapMenu);
+        EXPECT_TRUE(!window->Visible() && Fncts::DrapMenu);
         EXPECT_EQ(app.DefVolSon(), taken ? 7 : 40);
-        EXPECT_EQ(app.DrapAffBtnSpecA, taken);
-        EXPECT_EQ(segButtSpecA.Visible(), taken);
+        EXPECT_TRUE(app.DrapAffBtnSpecA == taken && segButtSpecA.Visible() == taken);
     }
     EXPECT_EQ(probe.Beeps, 2);
-    EXPECT_TRUE(probe.Sounds.empty());
+    for (const Int16 outside : {Int16{-1}, Int16{101}}) {
+        app.DefVolSon(outside);
+        EXPECT_EQ(app.DefVolSon(), 80);
+    }
 }
 
 TEST_F(PreferencesWindow, StandsOnTheMainWindowAndOnTheScreen)

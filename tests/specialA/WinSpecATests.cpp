@@ -95,6 +95,9 @@ TEST_F(SpecialA, WritesWhatTheAnswersAllow)
         // clang-format on
     };
     const auto in = folder.Path() / "in";
+    const auto content = [&](StringView name) {
+        return std::filesystem::is_regular_file(in / name) ? folder.Content(in / name) : "";
+    };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
         std::filesystem::remove_all(in);
@@ -114,9 +117,7 @@ TEST_F(SpecialA, WritesWhatTheAnswersAllow)
         std::vector<String> asked = row.more;
         asked.insert(asked.begin(), found);
         EXPECT_EQ(Asked(), asked);
-        EXPECT_EQ(folder.Content(in / row.dest1) + "|" + folder.Content(in / row.dest2) + "|" +
-                      folder.Content(original),
-                  row.files);
+        EXPECT_EQ(content(row.dest1) + "|" + content(row.dest2) + "|" + content(U"original.txt"), row.files);
         EXPECT_EQ(folder.Content(in / "taken") + folder.Content("two"), "oldoutside");
         EXPECT_EQ(folder.Content(in / "full/inner").empty(), row.sounds == 2 && row.dest1 == U"full");
         EXPECT_EQ(std::ssize(probe.Sounds), row.sounds);
@@ -234,14 +235,11 @@ TEST_F(SpecialA, ChoosesAndRevealsItsOriginal)
     EXPECT_EQ(probe.Beeps, 1) << "nothing to reveal";
     probe.ShiftKey = false;
     probe.Answers = {text, FolderItem(folder.Path()), 1, FolderItem(folder.Path() / "link"), 1, std::nullopt};
-    window->PushButtSource_Pressed();
-    EXPECT_EQ(Asked(), std::vector<String>{U"Choisir un fichier :"});
-    for (const char* what : {"a folder", "an alias"}) {
-        SCOPED_TRACE(what);
+    for (int time = 0; time < 4; ++time)
         window->PushButtSource_Pressed();
-        EXPECT_EQ(Asked().back(), U"Vous pouvez seulement sélectionner un fichier texte.[Ok]");
-    }
-    window->PushButtSource_Pressed();
+    const String choose = U"Choisir un fichier :",
+                 refused = U"Vous pouvez seulement sélectionner un fichier texte.[Ok]";
+    EXPECT_EQ(Asked(), (std::vector{choose, choose, refused, choose, refused, choose}));
     EXPECT_EQ(window->TextFieldOrg.Text(), U"text.txt") << "none of the others was taken";
     probe.ShiftKey = true;
     window->PushButtSource_Pressed();
@@ -296,7 +294,6 @@ TEST_F(SpecialA, HandsAllBackWhenItCloses)
     app.WspecAheight = 450;
     Open(original);
     EXPECT_EQ(window->Height(), 450);
-    window->ListboxRR.InsertRows(1, {{U"s", U"r1", U"r2"}});
     window->TextFieldDest2.SetText(U"two\twords");
     window->SetHeight(500);
     Fncts::DrapMenu = false;
@@ -305,12 +302,11 @@ TEST_F(SpecialA, HandsAllBackWhenItCloses)
     EXPECT_EQ(probe.Beeps, 1);
     Fncts::DrapMenu = true;
     window->Close();
-    EXPECT_FALSE(window->Visible());
-    EXPECT_FALSE(segButtSpecA.Selected(0));
+    EXPECT_FALSE(window->Visible() || segButtSpecA.Selected(0));
     EXPECT_EQ(app.WspecAheight, 500);
     EXPECT_EQ(app.PathSpecA, Fncts::AbsPath_f(FolderItem(original), true));
-    EXPECT_EQ(app.TabSpecAorg, (std::vector<String>{U"original.txt", U"a", U"s"}));
-    EXPECT_EQ(app.TabSpecAdest2, (std::vector<String>{U"two words", U"2", U"r2"})) << "no tab";
+    EXPECT_EQ(app.TabSpecAorg, (std::vector<String>{U"original.txt", U"a"}));
+    EXPECT_EQ(app.TabSpecAdest2, (std::vector<String>{U"two words", U"2"})) << "no tab";
     app.WspecAheight = 900;
     Open();
     EXPECT_EQ(window->Height(), 400) << "no room on the screen";
