@@ -1,9 +1,7 @@
 #include "tests/toolkit/WidgetTest.h"
 
-#include <QDropEvent>
+#include <QContextMenuEvent>
 #include <QFontInfo>
-#include <QMimeData>
-#include <QUrl>
 
 namespace {
 
@@ -142,20 +140,12 @@ TEST_F(ControlTest, ALinkIsPressedByMouseKeysAndAScreenReader)
     EXPECT_EQ(Told(plain)->role(), QAccessible::StaticText);
 }
 
-struct TextFieldTest : testing::Test {
-    DesktopWindow window{{.title = U"Items", .width = 300, .height = 100}};
-    DesktopTextField field{window, {0, 0, 300, 22}};
-    QLineEdit* const line = &WidgetOf<QLineEdit>(field);
-
-    void SetUp() override
-    {
-        ShowActive(window);
-        field.Tidied = [](StringView text) { return (text.starts_with(U'/') ? U"form of " : U"") + String(text); };
-    }
-};
-
-TEST_F(TextFieldTest, TidiesWhatIsPasted)
+TEST_F(ControlTest, AFieldTidiesWhatIsPastedOrTyped)
 {
+    DesktopTextField field(window, {0, 0, 300, 22});
+    field.Tidied = [](StringView text) { return (text.starts_with(U'/') ? U"form of " : U"") + String(text); };
+    ShowActive(window);
+    auto* const line = &WidgetOf<QLineEdit>(field);
     const struct {
         const char* name;
         int selected;
@@ -180,50 +170,12 @@ TEST_F(TextFieldTest, TidiesWhatIsPasted)
     QApplication::sendEvent(line, &menu);
     QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_L);
     EXPECT_EQ(line->text(), "form of /usr") << "by the context menu";
-}
-
-TEST_F(TextFieldTest, TidiesWhatWasTypedWhenItIsLeftConfirmedOrAskedFor)
-{
-    DesktopTextField other(window, {0, 30, 300, 22});
-    const std::pair<const char*, std::function<void()>> ends[] = {
-        {"left", [&] { other.SetFocus(); }},
-        {"confirmed", [&] { QTest::keyClick(line, Qt::Key_Return); }},
-        {"asked for", [&] { static_cast<void>(field.Text()); }},
-    };
-    for (const auto& [name, end] : ends) {
-        field.SetText(U"/set by the program");
-        field.SetFocus();
-        end();
-        EXPECT_EQ(line->text(), "/set by the program") << name;
-        field.SetFocus();
-        line->selectAll();
-        QTest::keyClicks(line, "/usr ");
-        EXPECT_EQ(line->text(), "/usr ") << name;
-        end();
-        EXPECT_EQ(line->text(), "form of /usr") << name;
-    }
-}
-
-TEST_F(TextFieldTest, TellsOfDroppedItemsAndShowsWhichItTakes)
-{
-    std::vector<String> dropped;
-    field.ItemDropped = [&](const FolderItem& item) { dropped.push_back(item.NativePath()); };
-    field.TakesItem = [](const FolderItem& item) { return item.Name() == U"usr"; };
-    const auto drag = [&](const QList<QUrl>& items) {
-        QMimeData data;
-        data.setUrls(items);
-        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(line, &enter);
-        QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        if (enter.isAccepted()) QApplication::sendEvent(line, &drop);
-        return enter.isAccepted() ? enter.dropAction() : Qt::TargetMoveAction;
-    };
-    const QUrl usr("file:///usr"), etc("file:///etc");
-    EXPECT_EQ(drag({usr}), Qt::CopyAction);
-    EXPECT_EQ(drag({etc}), Qt::IgnoreAction) << "the pointer shows that it is refused";
-    EXPECT_EQ(drag({usr, etc}), Qt::TargetMoveAction) << "two items";
-    EXPECT_EQ(dropped, (std::vector<String>{U"/usr", U"/etc"}));
-    EXPECT_EQ(line->text(), "");
+    field.SetText(U"/set by the program");
+    EXPECT_EQ(field.Text(), U"/set by the program");
+    line->selectAll();
+    QTest::keyClicks(line, "/usr ");
+    EXPECT_EQ(line->text(), "/usr ");
+    EXPECT_EQ(field.Text(), U"form of /usr") << "typed, and asked for";
 }
 
 } // namespace

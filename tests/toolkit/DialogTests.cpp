@@ -142,16 +142,7 @@ TEST(MessageDialog, HangsOnItsWindow)
         });
         EXPECT_EQ(dialog.ShowModal(window.get()), Button::None);
     }
-    WhenUp([&](QDialog& shown) {
-        const auto isActive = [&] { return shown.isActiveWindow(); };
-        EXPECT_TRUE(QTest::qWaitFor(isActive));
-        bool windowWasActive = false;
-        window->Activated = [&] { windowWasActive = true; };
-        shown.parentWidget()->activateWindow();
-        EXPECT_TRUE(QTest::qWaitFor([&] { return windowWasActive; }));
-        EXPECT_TRUE(QTest::qWaitFor(isActive)) << "the keyboard is left to a window that takes no keys";
-        window.reset();
-    });
+    WhenUp([&](QDialog&) { window.reset(); });
     EXPECT_EQ(dialog.ShowModal(window.get()), Button::None) << "the window is gone";
 }
 

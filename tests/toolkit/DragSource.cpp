@@ -5,24 +5,19 @@
 #include <QUrl>
 #include <QWidget>
 
-namespace {
-
 struct Source : QWidget {
     void mousePressEvent(QMouseEvent*) override
     {
-        auto* const dragged = new QMimeData;
-        dragged->setUrls({QUrl::fromLocalFile(QApplication::arguments().at(1))});
         auto* const drag = new QDrag(this);
-        drag->setMimeData(dragged);
+        drag->setMimeData(new QMimeData);
+        drag->mimeData()->setUrls({QUrl::fromLocalFile(QApplication::arguments().at(1))});
         drag->exec(Qt::CopyAction);
     }
 };
 
-} // namespace
-
 int main(int argc, char** argv)
 {
-    QApplication application(argc, argv);
+    const QApplication application(argc, argv);
     Source source;
     source.setWindowTitle(QStringLiteral("Drag source"));
     source.setGeometry(900, 500, 200, 200);
