@@ -46,15 +46,6 @@ Int64 OffsetOf(const Lines& lines, std::size_t index)
     return offset;
 }
 
-void AddSection(String& report, StringView title, const Lines& lines)
-{
-    if (lines.empty()) return;
-    if (!report.empty()) report += U"\n \n";
-    report += title;
-    for (const String& line : lines)
-        report += U"\n - " + line;
-}
-
 String CheckModel(const Lines& model)
 {
     Lines names = Reduce(model), seconds;
@@ -63,32 +54,33 @@ String CheckModel(const Lines& model)
             seconds.push_back(names[i]);
     Sort(seconds);
     String report;
-    AddSection(report, Localisation::Txt_ScenPlusDuneFois(), seconds);
+    AppendSection(report, Localisation::Txt_ScenPlusDuneFois(), seconds);
     return report;
 }
 
 String CheckFolders(const Lines& sorted, const Lines& folders)
 {
     Lines names = Reduce(sorted), unlisted, otherCase;
+    const auto isOf = [](StringView one) {
+        return [one = CanonicalForm(one)](StringView other) { return SameText(one, CanonicalForm(other)); };
+    };
     for (const String& name : names) {
-        const auto isSame = [&](StringView folder) { return SameText(CanonicalForm(name), CanonicalForm(folder)); };
-        const auto folder = std::ranges::find_if(folders, isSame);
+        const auto folder = std::ranges::find_if(folders, isOf(name));
         if (folder == folders.end() || std::ranges::count(folders, CanonicalForm(name)) > 0) continue;
-        const auto before = std::ranges::count_if(std::span(names.data(), &name), isSame);
-        if (before < std::ranges::count_if(folders, isSame)) otherCase.push_back(name + U" (" + *folder + U")");
+        const auto before = std::ranges::count_if(std::span(names.data(), &name), isOf(name));
+        if (before < std::ranges::count_if(folders, isOf(name))) otherCase.push_back(name + U" (" + *folder + U")");
     }
     for (const String& folder : folders) {
-        const auto isOfFolder = [&](StringView name) { return SameText(CanonicalForm(name), CanonicalForm(folder)); };
-        const auto found = std::ranges::find_if(names, isOfFolder);
+        const auto found = std::ranges::find_if(names, isOf(folder));
         if (found == names.end())
             unlisted.push_back(folder);
         else
             names.erase(found);
     }
     String report;
-    AddSection(report, Localisation::Txt_DossDsDossPasDsScen(), unlisted);
-    AddSection(report, Localisation::Txt_ScenDsScenIniPasDsDoss(), names);
-    AddSection(report, Localisation::Txt_ScenAutreCasse(), otherCase);
+    AppendSection(report, Localisation::Txt_DossDsDossPasDsScen(), unlisted);
+    AppendSection(report, Localisation::Txt_ScenDsScenIniPasDsDoss(), names);
+    AppendSection(report, Localisation::Txt_ScenAutreCasse(), otherCase);
     return report;
 }
 
@@ -104,8 +96,8 @@ Lines MoreIn(const Lines& lines, const Lines& others)
 String Explain(const Lines& source, const Lines& destination)
 {
     String explanation;
-    AddSection(explanation, Localisation::Txt_PlusDsFichier(), MoreIn(source, destination));
-    AddSection(explanation, Localisation::Txt_PlusDsResultat(), MoreIn(destination, source));
+    AppendSection(explanation, Localisation::Txt_PlusDsFichier(), MoreIn(source, destination));
+    AppendSection(explanation, Localisation::Txt_PlusDsResultat(), MoreIn(destination, source));
     const auto before = std::ranges::count(source, String()), after = std::ranges::count(destination, String());
     if (before == after) return explanation;
     if (!explanation.empty()) explanation += U"\n \n";

@@ -4,18 +4,13 @@
 
 namespace {
 
-/// Bytes of memory that belong to this process alone.
-std::size_t PrivateBytes()
+/// Bytes of memory that belong to this process alone, and its open files.
+std::pair<std::size_t, std::ptrdiff_t> Held()
 {
     std::size_t total = 0, resident = 0, shared = 0;
     std::ifstream("/proc/self/statm") >> total >> resident >> shared;
-    return (resident - shared) * static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
-}
-
-std::ptrdiff_t OpenFiles()
-{
-    const std::filesystem::directory_iterator files("/proc/self/fd");
-    return std::distance(begin(files), end(files));
+    const std::ptrdiff_t files = std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
+    return {(resident - shared) * static_cast<std::size_t>(sysconf(_SC_PAGESIZE)), files};
 }
 
 class Soak : public MainWindow {
@@ -67,19 +62,17 @@ TEST_F(Soak, FiveHundredRoundsLeaveNothingBehind)
     constexpr int last = 500;
 #endif
     OpenAll();
-    std::size_t before = 0;
-    std::ptrdiff_t files = 0;
+    std::pair<std::size_t, std::ptrdiff_t> before;
     for (int round = 0; round < last; ++round) {
-        if (round == 50) before = PrivateBytes();
-        if (round == 50) files = OpenFiles();
+        if (round == 50) before = Held();
         DoAll();
         ASSERT_FALSE(HasFailure()) << round;
     }
-    EXPECT_EQ(OpenFiles(), files);
-    const std::size_t after = PrivateBytes();
-    std::cout << before << " bytes after 50 rounds, " << after << " after " << last << '\n';
+    const auto [bytes, files] = Held();
+    EXPECT_EQ(files, before.second);
+    std::cout << before.first << " bytes after 50 rounds, " << bytes << " after " << last << '\n';
     if (last == 500) {
-        EXPECT_LT(after, before + before / 20);
+        EXPECT_LT(bytes, before.first + before.first / 20);
     }
     EXPECT_TRUE(folder.Content("a").starts_with("I\n1000 version\nx\nx_PACK")) << "each round has done its work";
 }

@@ -81,18 +81,17 @@ TEST_F(File, WhatCouldNotBeReadAsItIsStaysUnderAnotherName)
          U"Tarnivel Prefs.txt\n \nAvant d'être remplacé"},
     };
     for (const auto& [row, content, told] : rows) {
+        SCOPED_TRACE(row);
         const PreferencesFile file = Start(content);
-        ASSERT_EQ(probe.Asked.size(), 1U) << row;
-        EXPECT_NE(probe.Asked.front().find(told), String::npos) << row;
-        EXPECT_NE(probe.Asked.front().find(U"“Tarnivel Prefs 1.txt”"), String::npos) << row;
-        Preferences settings = file.Settings();
-        EXPECT_EQ(settings.volume, 7) << row;
-        EXPECT_TRUE(file.Write(settings));
-        EXPECT_EQ(folder.Content(name), content) << row << ": nothing was changed";
-        settings.volume = 8;
-        EXPECT_TRUE(file.Write(settings));
-        EXPECT_EQ(folder.Content(other), content) << row;
-        EXPECT_EQ(Written().volume, 8) << row;
+        ASSERT_EQ(probe.Asked.size(), 1U);
+        EXPECT_NE(probe.Asked.front().find(told), String::npos);
+        EXPECT_NE(probe.Asked.front().find(U"“Tarnivel Prefs 1.txt”"), String::npos);
+        EXPECT_EQ(file.Settings().volume, 7);
+        EXPECT_TRUE(file.Write(file.Settings()));
+        EXPECT_EQ(folder.Content(name), content) << "nothing was changed";
+        EXPECT_TRUE(file.Write(WithVolume(8)));
+        EXPECT_EQ(folder.Content(other), content);
+        EXPECT_EQ(Written().volume, 8);
         fs::remove(folder.Path() / other);
         probe.Asked.clear();
     }

