@@ -35,21 +35,16 @@ TEST(Desktop, OpensLinksAndItems)
 
 TEST(Timer, FiresOnceUnlessItIsOff)
 {
-    using enum Timer::RunModes;
     Timer timer(1), later(20);
-    int shots = 0;
-    bool isLater = false;
+    int shots = 0, ends = 0;
     timer.Action = [&] { ++shots; };
-    later.Action = [&] { isLater = true; };
-    timer.SetRunMode(Single);
-    EXPECT_EQ(shots, 0);
-    for (const auto mode : {Single, Off}) {
+    later.Action = [&] { ++ends; };
+    for (const auto mode : {Timer::RunModes::Single, Timer::RunModes::Off}) {
+        timer.SetRunMode(Timer::RunModes::Single);
         timer.SetRunMode(mode);
-        isLater = false;
-        later.SetRunMode(Single);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return isLater; }));
+        later.SetRunMode(Timer::RunModes::Single);
+        EXPECT_TRUE(QTest::qWaitFor([&, before = ends] { return ends > before; }));
         EXPECT_EQ(shots, 1);
-        timer.SetRunMode(Single);
     }
 }
 

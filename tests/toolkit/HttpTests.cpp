@@ -56,16 +56,10 @@ private:
 struct Client : URLConnection {
     Client()
     {
-        ContentReceived = [this](const String&, Int64 httpStatus, const Bytes& bytes) {
-            ++events;
-            status = httpStatus;
-            content = bytes;
+        ContentReceived = [this](const String&, Int64 code, const Bytes& bytes) {
+            ++events, status = code, content = bytes;
         };
-        Error = [this](const RuntimeException& exception) {
-            ++events;
-            error = exception.ErrorNumber;
-            message = exception.Message;
-        };
+        Error = [this](const RuntimeException& told) { ++events, error = told.ErrorNumber, message = told.Message; };
     }
     /// Whether that many events come within a while. Unlike Qt's own waiting, it sleeps only while nothing happens.
     [[nodiscard]] bool Reaches(int number) const

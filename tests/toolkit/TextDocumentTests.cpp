@@ -65,31 +65,33 @@ TEST_F(Documents, ModifiedIsWhatAHandHasMade)
 {
     bool shown = true;
     document.ModifiedChanged = [&] { shown = document.Modified(); };
+    const auto replaceBy = [&](StringView text) { document.ReplaceText(text), document.SetUnmodified(); };
+    const struct {
+        const char* name;
+        std::function<void()> act;
+        StringView text;
+        bool modified;
+    } steps[] = {
+        {"typed", [&] { Press(Qt::Key_X); }, U"xone", true},
+        {"another text", [&] { replaceBy(U"two"); }, U"two", false},
+        {"the typed text is back", [&] { Undo(); }, U"xone", true},
+        {"the other text is back", [&] { Redo(); }, U"two", false},
+        {"a third one", [&] { replaceBy(U"three"); }, U"three", false},
+        {"as it was left before", [&] { Undo(); }, U"two", false},
+        {"nothing is joined to what counts as unmodified", [&] { Press(Qt::Key_Y); }, U"ytwo", true},
+        {"saved", [&] { document.SetSaved(); }, U"ytwo", false},
+        {"typed and saved", [&] { Press(Qt::Key_Z), document.SetSaved(); }, U"yztwo", false},
+        {"the file holds what was saved last", [&] { Undo(); }, U"ytwo", true},
+        {"which is back", [&] { Redo(); }, U"yztwo", false},
+    };
     document.SetText(U"one");
     EXPECT_FALSE(document.Modified());
-    Press(Qt::Key_X);
-    EXPECT_TRUE(document.Modified());
-    document.ReplaceText(U"two");
-    document.SetUnmodified();
-    Undo();
-    EXPECT_TRUE(document.Modified()) << "the typed text is back";
-    Redo();
-    EXPECT_FALSE(document.Modified());
-    document.ReplaceText(U"three");
-    document.SetUnmodified();
-    Undo();
-    EXPECT_EQ(document.Text(), U"two");
-    EXPECT_FALSE(shown || document.Modified()) << "as it was left before";
-    Press(Qt::Key_Y);
-    EXPECT_TRUE(shown && document.Modified()) << "nothing was joined to the state that counts as unmodified";
-    EXPECT_EQ(document.Text(), U"ytwo");
-    document.SetSaved();
-    Press(Qt::Key_Z);
-    document.SetSaved();
-    Undo();
-    EXPECT_TRUE(document.Modified()) << "the file holds what was saved last";
-    Redo();
-    EXPECT_FALSE(document.Modified());
+    for (const auto& step : steps) {
+        step.act();
+        EXPECT_EQ(document.Text(), step.text) << step.name;
+        EXPECT_EQ(document.Modified(), step.modified) << step.name;
+        EXPECT_EQ(shown, step.modified) << step.name;
+    }
 }
 
 TEST_F(Documents, AnEditOfTheProgramStaysWhereItIsSeen)
@@ -134,13 +136,11 @@ TEST_F(Documents, AfterARunTheViewStaysAtWhatIsEdited)
 
 TEST_F(Documents, LinesPutInHaveTheirOwnColours)
 {
-    for (const bool marked : {false, true}) {
-        const Int64 mark[] = {4};
-        document.SetText(U"one\nmark", std::span(mark).first(marked ? 1 : 0));
-        const TextChange change{4, 0, U"ab x\ny ab\n"};
-        area.Change({&change, 1}, 0, 0);
-        EXPECT_EQ(Colours(*editor->document()), marked ? "...\nrr..\n..rr\noooo" : "...\nrr..\n..rr\n....");
-    }
+    const Int64 mark[] = {4};
+    document.SetText(U"one\nmark", mark);
+    const TextChange change{4, 0, U"ab x\ny ab\n"};
+    area.Change({&change, 1}, 0, 0);
+    EXPECT_EQ(Colours(*editor->document()), "...\nrr..\n..rr\noooo");
 }
 
 TEST_F(Documents, MarksAreGoneToAndFixedLinesStay)
