@@ -25,7 +25,7 @@ public:
     {
         setReadOnly(style.readOnly);
         setMaxLength(std::numeric_limits<int>::max());
-        if (style.oneLine) connect(this, &QLineEdit::textEdited, this, &Field::JoinLines);
+        if (style.oneLine) KeepOneLine(*this);
     }
 
     void Show(const QString& text)
@@ -136,14 +136,6 @@ private:
         else
             Replace(tidy);
         return true;
-    }
-
-    void JoinLines(const QString& text)
-    {
-        if (OneLine(text) == text) return;
-        const int caret = cursorPosition();
-        setText(OneLine(text));
-        setCursorPosition(caret);
     }
 
     DesktopTextField& owner_;

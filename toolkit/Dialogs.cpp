@@ -71,9 +71,15 @@ std::unique_ptr<Dialog> Finished(Dialog* dialog)
     return std::unique_ptr<Dialog>(watched.data());
 }
 
-std::optional<FolderItem> Choose(std::unique_ptr<QFileDialog> chooser, const std::optional<FolderItem>& initialFolder,
-                                 const std::optional<FolderItem>& initialFile = {})
+/// Asks for an item by a chooser that `prepare` has made ready.
+std::optional<FolderItem> Choose(const String& prompt, const DesktopWindow* window,
+                                 const std::optional<FolderItem>& initialFolder, const auto& prepare)
 {
+    if (Probe* const probe = Probe::Current()) {
+        Record(*probe, prompt);
+        return TakeAnswer<std::optional<FolderItem>>(*probe, {});
+    }
+    auto* const chooser = new QFileDialog(Dialogs::ParentOf(window), ToQt(prompt));
     // An alias is an item of its own; the program follows it where it wants to.
     chooser->setOption(QFileDialog::DontResolveSymlinks);
     const bool isMac = QOperatingSystemVersion::currentType() == QOperatingSystemVersion::MacOS;
@@ -88,8 +94,8 @@ std::optional<FolderItem> Choose(std::unique_ptr<QFileDialog> chooser, const std
         list->hideColumn(typeColumn);
     }
     if (initialFolder) chooser->setDirectory(QFile::decodeName(initialFolder->Path().c_str()));
-    if (initialFile) chooser->selectFile(QFile::decodeName(initialFile->Path().c_str()));
-    const auto finished = Finished(chooser.release());
+    prepare(*chooser);
+    const auto finished = Finished(chooser);
     if (!finished || finished->result() != QDialog::Accepted || finished->selectedFiles().isEmpty()) return {};
     return FolderItem(QFile::encodeName(finished->selectedFiles().constFirst()).toStdString());
 }
@@ -129,41 +135,30 @@ MessageDialog::Button MessageDialog::ShowModal(DesktopWindow* window) const
 
 std::optional<FolderItem> OpenFileDialog::ShowModal(DesktopWindow* window) const
 {
-    if (Probe* const probe = Probe::Current()) {
-        Record(*probe, PromptText);
-        return TakeAnswer<std::optional<FolderItem>>(*probe, {});
-    }
-    auto chooser = std::make_unique<QFileDialog>(Dialogs::ParentOf(window), ToQt(PromptText));
-    chooser->setFileMode(QFileDialog::ExistingFile);
-    chooser->setOption(QFileDialog::HideNameFilterDetails);
-    QStringList filters = {ToQt(AllFilesName) + QStringLiteral(" (*)")};
-    if (!Filter.empty()) filters.prepend(NameFilter(*this, chooser->fontMetrics()));
-    chooser->setNameFilters(filters);
-    return Choose(std::move(chooser), InitialFolder, InitialFile);
+    return Choose(PromptText, window, InitialFolder, [this](QFileDialog& chooser) {
+        chooser.setFileMode(QFileDialog::ExistingFile);
+        chooser.setOption(QFileDialog::HideNameFilterDetails);
+        QStringList filters = {ToQt(AllFilesName) + QStringLiteral(" (*)")};
+        if (!Filter.empty()) filters.prepend(NameFilter(*this, chooser.fontMetrics()));
+        chooser.setNameFilters(filters);
+        if (InitialFile) chooser.selectFile(QFile::decodeName(InitialFile->Path().c_str()));
+    });
 }
 
 std::optional<FolderItem> SelectFolderDialog::ShowModal(DesktopWindow* window) const
 {
-    if (Probe* const probe = Probe::Current()) {
-        Record(*probe, PromptText);
-        return TakeAnswer<std::optional<FolderItem>>(*probe, {});
-    }
-    auto chooser = std::make_unique<QFileDialog>(Dialogs::ParentOf(window), ToQt(PromptText));
-    chooser->setFileMode(QFileDialog::Directory);
-    chooser->setOption(QFileDialog::ShowDirsOnly);
-    return Choose(std::move(chooser), InitialFolder);
+    return Choose(PromptText, window, InitialFolder, [](QFileDialog& chooser) {
+        chooser.setFileMode(QFileDialog::Directory);
+        chooser.setOption(QFileDialog::ShowDirsOnly);
+    });
 }
 
 std::optional<FolderItem> SaveFileDialog::ShowModal(DesktopWindow* window) const
 {
-    if (Probe* const probe = Probe::Current()) {
-        Record(*probe, PromptText);
-        return TakeAnswer<std::optional<FolderItem>>(*probe, {});
-    }
-    auto chooser = std::make_unique<QFileDialog>(Dialogs::ParentOf(window), ToQt(PromptText));
-    chooser->setAcceptMode(QFileDialog::AcceptSave);
-    chooser->selectFile(ToQt(SuggestedFileName));
-    return Choose(std::move(chooser), InitialFolder);
+    return Choose(PromptText, window, InitialFolder, [this](QFileDialog& chooser) {
+        chooser.setAcceptMode(QFileDialog::AcceptSave);
+        chooser.selectFile(ToQt(SuggestedFileName));
+    });
 }
 
 void MessageBox(StringView text)

@@ -2,6 +2,7 @@
 
 #include "toolkit/core/QtText.h"
 
+#include <QLineEdit>
 #include <algorithm>
 #include <iterator>
 
@@ -71,4 +72,15 @@ QString OneLine(QString text)
     };
     std::replace_if(text.begin(), text.end(), separates, QChar(u' '));
     return text;
+}
+
+void KeepOneLine(QLineEdit& field)
+{
+    QObject::connect(&field, &QLineEdit::textEdited, &field, [&field](const QString& text) {
+        // Setting a text ends what can be undone.
+        if (OneLine(text) == text) return;
+        const int caret = field.cursorPosition();
+        field.setText(OneLine(text));
+        field.setCursorPosition(caret);
+    });
 }

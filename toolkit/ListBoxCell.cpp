@@ -83,13 +83,7 @@ CellEditor::CellEditor(ListBoxTable& table, QWidget* parent)
 {
     setFrame(false);
     setMaxLength(std::numeric_limits<int>::max());
-    connect(this, &QLineEdit::textEdited, this, [this](const QString& typed) {
-        // Setting a text ends what can be undone.
-        if (OneLine(typed) == typed) return;
-        const int caret = cursorPosition();
-        setText(OneLine(typed));
-        setCursorPosition(caret);
-    });
+    KeepOneLine(*this);
 }
 
 bool CellEditor::CanEdit(EditCommand command) const

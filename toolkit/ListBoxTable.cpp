@@ -276,11 +276,8 @@ void ListBoxTable::dropEvent(QDropEvent* event)
     if (to == from || to == from + 1) return;
     if (to > from) --to;
     std::vector<CellRow> rows = rows_;
-    const auto moved = rows.begin() + from, goal = rows.begin() + to;
-    if (from < to)
-        std::rotate(moved, moved + 1, goal + 1);
-    else
-        std::rotate(goal, moved, moved + 1);
+    rows.erase(rows.begin() + from);
+    rows.insert(rows.begin() + to, rows_[static_cast<std::size_t>(from)]);
     if (Apply(std::move(rows))) setCurrentCell(to, currentColumn());
 }
 

@@ -32,17 +32,6 @@ TextDocument::~TextDocument() = default;
 
 String TextDocument::Text() const { return FromDocument(body_->toRawText()); }
 
-std::vector<Int64> TextDocument::Marks() const
-{
-    std::vector<Int64> marks;
-    Int64 start = 0;
-    for (QTextBlock block = body_->begin(); block.isValid(); block = block.next()) {
-        if (body_->ShowsMark(block)) marks.push_back(start);
-        start += std::ssize(FromDocument(block.text())) + 1;
-    }
-    return marks;
-}
-
 Int64 TextDocument::LineCount() const { return body_->blockCount() - (body_->lastBlock().length() > 1 ? 0 : 1); }
 
 Int64 TextDocument::LinesIn(ColorGroup color) const

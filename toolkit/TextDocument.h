@@ -35,8 +35,6 @@ public:
     ~TextDocument();
 
     [[nodiscard]] String Text() const;
-    /// Where the lines begin that show the colour of a mark.
-    [[nodiscard]] std::vector<Int64> Marks() const;
 
     /// The lines, without the empty one behind the last line end; those that begin in a colour; those that show that of
     /// a mark. Counted along with each change.

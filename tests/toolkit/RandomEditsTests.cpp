@@ -35,15 +35,6 @@ struct Model {
             letters.replace(at, 2, "rr");
         return letters;
     }
-    /// Where the lines begin that show the colour of a mark.
-    [[nodiscard]] std::vector<Int64> Marks() const
-    {
-        const std::string letters = Colours();
-        std::vector<Int64> starts;
-        for (std::size_t at = letters.find('o'); at != none; at = letters.find('o', letters.find('\n', at)))
-            starts.push_back(static_cast<Int64>(letters.rfind('\n', at) + 1));
-        return starts;
-    }
     /// Without their ends; behind the last end there is one more.
     [[nodiscard]] std::vector<Model> Lines() const
     {
@@ -169,7 +160,13 @@ struct RandomEdits : Documents {
     {
         ASSERT_EQ(document.Text(), model.text) << what;
         ASSERT_EQ(Colours(*editor->document()), model.Colours()) << what;
-        ASSERT_EQ(document.Marks(), model.Marks()) << what;
+        const std::vector<Model> lines = Model{model.text, model.Colours()}.Lines();
+        const auto count = [&](const auto& has) { return std::ranges::count_if(lines, has, &Model::marks); };
+        const auto isMarked = [](const std::string& line) { return line.find('o') != none; };
+        const auto beginsRed = [](const std::string& line) { return line.starts_with('r'); };
+        ASSERT_EQ(document.MarkedLines(), count(isMarked)) << what;
+        ASSERT_EQ(document.LinesIn(red), count(beginsRed)) << what;
+        ASSERT_EQ(document.LineCount(), std::ssize(lines) - (lines.back().text.empty() ? 1 : 0)) << what;
         history[editor->document()->availableUndoSteps()] = model;
     }
     const std::pair<const char*, std::function<void()>> steps[10] = {
