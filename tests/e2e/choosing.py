@@ -35,7 +35,7 @@ def set_preferences(program, volume, button="Ok", check=False):
     """Sets the slider and, if so wanted, the check box of the preferences."""
     program.keys("ctrl+comma")
     program.front = "Préférences"
-    slider, window = program.find("slider"), program.window()
+    slider, window = program.find("slider", "Effets sonores :"), program.window()
     Atspi.Value.set_current_value(slider, volume)
     program.wait_for("the volume", lambda: Atspi.Value.get_current_value(slider) == volume)
     if check:

@@ -12,6 +12,13 @@ TEST_F(MainWindow, AProposalNeedsASceneryAndARunWithoutAModelOffersOne)
     Choose(window->TextFieldSpack, folder.File("Custom Scenery/scenery_packs.ini", header));
     Run();
     EXPECT_EQ(probe.Said.back(), U"Modèle refusé : vide ou illisible (le menu “Texte” peut en proposer un)");
+
+    folder.File("Custom Scenery/scenery_packs.ini", header + std::string("SCENERY_PACK L\xE9man/\n"));
+    probe.Answers = {1, FolderItem(folder.Path() / "m.ini"), 1, 1, 2};
+    window->TexteProposer_Action();
+    window->BtnSave_Pressed();
+    EXPECT_TRUE(probe.Asked.back().ends_with(U"L'enregistrer quand même ?[Annuler][Sauv fichier]"));
+    EXPECT_FALSE(std::filesystem::exists(folder.Path() / "m.ini"));
 }
 
 TEST_F(MainWindow, TheButtonStopsAProposal)

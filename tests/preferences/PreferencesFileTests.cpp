@@ -87,6 +87,7 @@ TEST_F(File, WhatCouldNotBeReadAsItIsStaysUnderAnotherName)
         EXPECT_NE(probe.Asked.front().find(told), String::npos);
         EXPECT_NE(probe.Asked.front().find(U"“Tarnivel Prefs 1.txt”"), String::npos);
         EXPECT_EQ(file.Settings().volume, 7);
+        EXPECT_EQ(file.Refused(), content.size() > tooLong.size() ? 1 : 0);
         EXPECT_TRUE(file.Write(file.Settings()));
         EXPECT_EQ(folder.Content(name), content) << "nothing was changed";
         EXPECT_TRUE(file.Write(WithVolume(8)));
