@@ -101,6 +101,10 @@ def treatment(build):
     return "## Two variants by a table of replacements", picture, text
 
 
+def packs(build):
+    return "## Proposing a model", "", output(sys.executable, BENCH / "packs/packs.py", build / "bench/packs/packs_bench")
+
+
 def start(build):
     program = build / "toolkit/bench/empty_window"
     text = output(sys.executable, BENCH / "start/start.py", build / "tarnivel", program)
@@ -115,7 +119,7 @@ def start(build):
 def main(build):
     CHARTS.mkdir(exist_ok=True)
     title = f"# Measurements\n\nMade by `bench/report.py` in one run: {machine()}.\n"
-    parts = [part(pathlib.Path(build)) for part in (start, display, engine, treatment)]
+    parts = [part(pathlib.Path(build)) for part in (start, display, engine, treatment, packs)]
     PAGE.write_text("\n".join([title, *("\n\n".join(part) for part in parts)]), "utf-8")
 
 

@@ -90,12 +90,13 @@ Status Propose(std::string_view spackName)
     const std::optional<String> spack = Accepted(spackName);
     if (!spack) return Refused;
     const FolderItem dossier = FolderOf(spackName);
+    PackFolders folders(dossier);
     std::vector<Pack> packs;
     for (const String& line : LinesToPropose(*spack, dossier))
-        packs.push_back({line, LookAtPack(line, dossier)});
+        packs.push_back({line, folders.LookAt(line)});
     const Proposal proposal = ProposeModel(*spack, packs);
     Say(proposal.report);
-    return Write(proposal.model, Agrees);
+    return Write(proposal.model, proposal.complete ? Agrees : Reported);
 }
 
 bool IsName(std::string_view argument) { return argument == standardInput || !argument.starts_with('-'); }

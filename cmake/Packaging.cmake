@@ -57,7 +57,5 @@ a file or an address. It keeps which packs are enabled and disabled, shows what
 has no partner, checks the result against the folder Custom Scenery, and saves
 it after archiving the old file.")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# Loaded at its first use, so that no linker tells of it.
-set(CPACK_DEBIAN_PACKAGE_DEPENDS libarchive13)
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland")
 include(CPack)

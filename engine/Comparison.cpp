@@ -40,10 +40,12 @@ String ExplainDifferences(Lines file, Lines result)
     String explanation;
     AppendSection(explanation, Localisation::Txt_PlusDsFichier(), Surplus(file, ofFile, moreInFile));
     AppendSection(explanation, Localisation::Txt_PlusDsResultat(), Surplus(result, ofResult, moreInResult));
-    const auto blanksOf = [](Lines lines) { return std::ranges::count(lines, StringView(), &SceneryLine::text); };
+    const auto blanksOf = [](Lines lines) {
+        return ToText(std::ranges::count(lines, StringView(), &SceneryLine::text));
+    };
     if (blanksOf(file) != blanksOf(result)) {
         if (!explanation.empty()) explanation.append(EndOfLine::Native).append(U" ").append(EndOfLine::Native);
-        explanation.append(WithNumber(WithNumber(Localisation::Txt_LignesVides(), blanksOf(file)), blanksOf(result)));
+        explanation.append(Localisation::Filled(Localisation::Txt_LignesVides(), {blanksOf(file), blanksOf(result)}));
     }
     return explanation;
 }

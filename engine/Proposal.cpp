@@ -65,10 +65,13 @@ Proposal ProposeModel(StringView text, std::span<const Pack> packs)
         if (kind == Unknown) names[kind].back().append(U" (").append(pack.facts.doubt).append(U")");
     }
     const auto blanks = std::ranges::count(LinesWithoutBlankEnd(text), StringView(), &SceneryLine::text);
-    Proposal proposal{String(TxtDebSpack).append(static_cast<std::size_t>(1 + blanks), TxtEoF.front()), {}};
+    Proposal proposal{String(TxtDebSpack).append(static_cast<std::size_t>(1 + blanks), TxtEoF.front()),
+                      {},
+                      names[Unknown].empty() && names[Repeated].empty()};
     for (std::size_t kind = 0; kind < titles.size(); ++kind) {
         if (kind != Repeated) proposal.model.append(lines[kind]);
-        AppendSection(proposal.report, WithNumber((*titles[kind])(), std::ssize(names[kind])), names[kind]);
+        const String title = Localisation::Filled((*titles[kind])(), {ToText(std::ssize(names[kind]))});
+        AppendSection(proposal.report, title, names[kind]);
     }
     return proposal;
 }

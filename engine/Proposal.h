@@ -29,6 +29,8 @@ struct Proposal {
     String model;
     /// The names of each kind, with their number, and of what could not be told the reason.
     String report;
+    /// Whether it could be told what each pack is, and each line got into the model.
+    bool complete = true;
 };
 
 /// Orders the packs by their kinds; within a kind they stay as they come. Behind the header are as many blank lines as

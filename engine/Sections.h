@@ -6,6 +6,3 @@
 /// Adds a section to a report, if it has any item: a title, and one item a line. A line of one blank separates it from
 /// what is there.
 void AppendSection(String& report, StringView title, std::span<const String> items);
-
-/// The text with the number in the place of its first "¿%".
-String WithNumber(StringView text, Int64 number);

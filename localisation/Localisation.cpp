@@ -6,3 +6,13 @@ String Localisation::Text::operator()(StringView language) const
 {
     return SystemGetLocalizedString(U"Localisation." + String(name_), french_, language);
 }
+
+String Localisation::Filled(StringView text, std::initializer_list<StringView> fillings)
+{
+    constexpr StringView placeholder = U"¿%";
+    Int64 part = 1;
+    String filled(NthField(text, placeholder, part));
+    for (const StringView filling : fillings)
+        filled.append(filling).append(NthField(text, placeholder, ++part));
+    return filled;
+}

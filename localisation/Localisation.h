@@ -3,6 +3,8 @@
 
 #include "toolkit/core/Text.h"
 
+#include <initializer_list>
+
 namespace Localisation {
 
 /// A text and the name that translations know it by. Called like a function it gives the text for the user.
@@ -21,6 +23,9 @@ public:
 private:
     StringView name_, french_;
 };
+
+/// The text with its placeholders "¿%" filled, one after the other.
+String Filled(StringView text, std::initializer_list<StringView> fillings);
 
 // clang-format off
 inline constexpr Text Infos_Texte{U"Infos_Texte",
@@ -148,10 +153,8 @@ inline constexpr Text Txt_PropMaillages{U"Txt_PropMaillages", U"Maillages et tui
 inline constexpr Text Txt_PropDoublons{U"Txt_PropDoublons", U"Omis, une ligne plus haut nommant la même scène : ¿%"};
 inline constexpr Text Txt_RaisonDossAbsent{U"Txt_RaisonDossAbsent", U"le dossier manque"};
 inline constexpr Text Txt_RaisonRien{U"Txt_RaisonRien", U"rien n'y dit ce que c'est"};
-inline constexpr Text Txt_RaisonTuileIllisible{U"Txt_RaisonTuileIllisible", U"une tuile ne peut pas être lue"};
+inline constexpr Text Txt_RaisonIllisible{U"Txt_RaisonIllisible", U"“¿%” ne peut pas être lu : ¿%"};
 inline constexpr Text Txt_RaisonTuileAbimee{U"Txt_RaisonTuileAbimee", U"une tuile est abîmée"};
-inline constexpr Text Txt_RaisonSansArchive{U"Txt_RaisonSansArchive",
-    U"une tuile est abîmée, ou comprimée alors que libarchive manque"};
 inline constexpr Text Txt_RaisonPasUnPack{U"Txt_RaisonPasUnPack", U"ce n'est pas une ligne de pack"};
 inline constexpr Text Dit_PasUtf8{U"Dit_PasUtf8", U"ce n'est pas de l'UTF-8"};
 inline constexpr Text Txt_OrdreAide{U"Txt_OrdreAide",

@@ -17,7 +17,7 @@ void RevealOrRefuse(const std::optional<FolderItem>& item, bool checkAlias, Stri
     if (Fncts::PasNil_Existe_Alias(item, checkAlias))
         Fncts::RevealEltFinder(*item);
     else
-        Fncts::Refuser(Fncts::Filled(Localisation::Dit_PasLa(), {path}));
+        Fncts::Refuser(Localisation::Filled(Localisation::Dit_PasLa(), {path}));
 }
 
 std::optional<FolderItem> ChooseFile(const FolderItem& start)

@@ -19,7 +19,7 @@ void WinMain::TexteProposer_Action()
     const Fncts::Reading reading = Fncts::LireFichier(spack);
     if (reading.cleanedLines > 0) Tell(Fncts::CleaningReport(reading, TextFieldSpack.Text()));
     const Acceptance source = AcceptSceneryText(reading.text);
-    if (!source.accepted) return Fncts::Refuser(Fncts::Filled(Dit_SpackRefuse(), {ReasonOfRefusal(reading.text)}));
+    if (!source.accepted) return Fncts::Refuser(Filled(Dit_SpackRefuse(), {ReasonOfRefusal(reading.text)}));
     const std::optional<FolderItem> file = Fncts::MyDialogSave(U"modele.ini", Txt_ChoisirModele(), this);
     if (!file) return;
     if (!Fncts::ComesBack(*file)) return Fncts::Refuser(Txt_NomNonGarde());
@@ -48,11 +48,12 @@ std::optional<std::vector<Pack>> WinMain::LookAtPacks(std::span<const String> li
         ProgressProposer.SetVisible(false);
         App::Current().EnableMenuBoutons(true);
     });
+    PackFolders folders(*spack.Parent());
     std::vector<Pack> packs;
     const Int64 start = System::Ticks();
     Int64 last = start;
     for (const String& line : lines) {
-        packs.push_back({line, LookAtPack(line, *spack.Parent())});
+        packs.push_back({line, folders.LookAt(line)});
         const Int64 now = System::Ticks();
         if (now - last < ticksBetween) continue;
         last = now;

@@ -21,7 +21,7 @@ String FormsOf(std::initializer_list<std::pair<String, String>> namesAndForms)
 {
     String sentences;
     for (const auto& [name, form] : namesAndForms)
-        if (!form.empty()) sentences += U" " + Fncts::Filled(Localisation::Txt_FormeTexte(), {name, form});
+        if (!form.empty()) sentences += U" " + Localisation::Filled(Localisation::Txt_FormeTexte(), {name, form});
     return sentences;
 }
 
@@ -30,7 +30,7 @@ String FormsOf(std::initializer_list<std::pair<String, String>> namesAndForms)
 void Accept(String& text, const String& why, std::vector<String>& refusals)
 {
     Acceptance acceptance = AcceptSceneryText(text);
-    if (!acceptance.accepted) refusals.push_back(Fncts::Filled(why, {ReasonOfRefusal(text)}));
+    if (!acceptance.accepted) refusals.push_back(Localisation::Filled(why, {ReasonOfRefusal(text)}));
     text = std::move(acceptance.text);
 }
 
@@ -133,11 +133,11 @@ String WinMain::Reorder(SceneryTexts& texts, const FolderItem& dossier)
     reports.Finish();
     lastReport_ = reports.All();
     if (BeginsWith(texts.TextDestSpack, ErrorMarker))
-        return Fncts::Filled(Dit_ModeleRefuse(), {NthField(lastReport_, EndOfLine::Native, 1)});
+        return Filled(Dit_ModeleRefuse(), {NthField(lastReport_, EndOfLine::Native, 1)});
     const auto lines = CountFields(texts.TextDestSpack, TxtEoF) - (texts.TextDestSpack.ends_with(TxtEoF) ? 1 : 0);
     const auto marked = std::ssize(texts.CoulDestSpack);
-    return Fncts::Filled(Dit_Reordonne(), {Join({{Counted(lines, Nb_Lignes()), Counted(marked, Nb_SansEquiv()),
-                                                  Counted(reports.Count(), Nb_Remarques())}},
-                                                U", ")}) +
+    return Filled(Dit_Reordonne(), {Join({{Counted(lines, Nb_Lignes()), Counted(marked, Nb_SansEquiv()),
+                                           Counted(reports.Count(), Nb_Remarques())}},
+                                         U", ")}) +
            U" (" + (RadGrpSrc.SelectedIndex() == 0 ? RdButtSourceA() : RdButtSourceB()) + U")";
 }

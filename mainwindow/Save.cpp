@@ -53,8 +53,8 @@ void WinMain::ActSaveFile()
     asRead_[target->Path()] = Fncts::TextOfBytes(Fncts::DefAppEncod.Encode(text)).fingerprint;
     Document(PopMenuAff.SelectedRowIndex()).SetSaved();
     Fncts::PlayT(Fncts::_x_Msg::Msg());
-    String sentence = Fncts::Filled(Dit_Enregistre(), {Fncts::AbsPath_f(*target, true)});
-    if (archived) sentence += U" ; " + Fncts::Filled(Dit_Archive(), {*archived});
+    String sentence = Filled(Dit_Enregistre(), {Fncts::AbsPath_f(*target, true)});
+    if (archived) sentence += U" ; " + Filled(Dit_Archive(), {*archived});
     Fncts::Dire(sentence);
 }
 
@@ -70,7 +70,7 @@ bool WinMain::DecideOnArchive(const FolderItem& target, std::optional<FolderItem
 
 bool WinMain::ConfirmsSave(const FolderItem& target)
 {
-    return AsksToContinue(Fncts::Filled(Txt_SurSauv(), {PopMenuAff.SelectedRowText(), Fncts::AbsPath_f(target, true)}),
+    return AsksToContinue(Filled(Txt_SurSauv(), {PopMenuAff.SelectedRowText(), Fncts::AbsPath_f(target, true)}),
                           Btn_SauvFichier());
 }
 
@@ -82,7 +82,7 @@ bool WinMain::ConfirmsLosses(const FolderItem& target)
     const auto known = asRead_.find(target.Path());
     if (known == asRead_.end() || !target.Exists()) return true;
     return Fncts::LireFichier(target).fingerprint == known->second ||
-           AsksToLose(Fncts::Filled(Txt_FichierChange(), {Fncts::AbsPath_f(target, true)}), Btn_SauvFichier());
+           AsksToLose(Filled(Txt_FichierChange(), {Fncts::AbsPath_f(target, true)}), Btn_SauvFichier());
 }
 
 bool WinMain::Archive(const FolderItem& target, const FolderItem& folder, const DateTime& moment,

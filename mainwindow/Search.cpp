@@ -23,13 +23,13 @@ void WinMain::Search(SearchWay way)
         way == SearchWay::Button ? SearchNext(text, word, selection) : SearchBeyond(text, word, selection, forward);
     if (result.outcome == SearchOutcome::NotFound) {
         if (way == SearchWay::Button) ShowInText({0, 0}, 0);
-        Fncts::Dire(Fncts::Filled(Dit_Introuvable(), {word}));
+        Fncts::Dire(Filled(Dit_Introuvable(), {word}));
         return Fncts::PlayT(Fncts::_x_Glass_t::Glass_t());
     }
     const bool isSame = result.outcome == SearchOutcome::SameMatch;
     Fncts::PlayT(isSame ? Fncts::_x_Whit::Whit() : Fncts::_x_Agrafeuse_t::Agrafeuse_t());
     if (isSame)
-        Fncts::Dire(Fncts::Filled(Dit_SeulTrouve(), {word}));
+        Fncts::Dire(Filled(Dit_SeulTrouve(), {word}));
     else
         Fncts::Dire(!result.wraps ? String() : forward ? Dit_RepriseDebut() : Dit_RepriseFin());
     TextAreaAff.SetFocus();

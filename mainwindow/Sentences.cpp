@@ -12,7 +12,7 @@ String Counted(Int64 number, StringView forms)
 
 String StatusSentence(Int64 line, const LineCounts& counts)
 {
-    return Fncts::Filled(Dit_Ligne(), {ToText(line)}) + U" · " +
+    return Filled(Dit_Ligne(), {ToText(line)}) + U" · " +
            Join({{Counted(counts.lines, Nb_Lignes()), Counted(counts.enabled, Nb_Activees()),
                   Counted(counts.disabled, Nb_Desactivees()), Counted(counts.marked, Nb_SansEquiv())}},
                 U", ");

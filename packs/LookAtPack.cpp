@@ -3,104 +3,116 @@
 #include "localisation/Localisation.h"
 #include "packs/Tile.h"
 #include "packs/Unpacking.h"
+#include "toolkit/core/Exceptions.h"
+#include "toolkit/core/FileCalls.h"
 #include "toolkit/core/TextEncoding.h"
 
 #include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
+
+namespace fs = std::filesystem;
 
 namespace {
 
-/// The item of that name, in whatever case, or nothing.
-std::optional<FolderItem> Find(const FolderItem& folder, StringView name)
+String FormOf(StringView name) { return FoldCase(CanonicalForm(name)); }
+
+String Unreadable(const fs::path& path, StringView reason)
 {
-    if (const FolderItem exact(folder.Path() / Encodings::UTF8.Encode(name)); exact.Exists()) return exact;
-    const String wanted = CanonicalForm(name);
-    for (const FolderItem& child : folder.Children())
-        if (SameText(CanonicalForm(child.Name()), wanted)) return child;
-    return {};
+    return Localisation::Filled(Localisation::Txt_RaisonIllisible(),
+                                {Encodings::UTF8.Decode(path.filename().native()), reason});
 }
 
-/// The folder of a pack, or nothing where none is there.
-std::optional<FolderItem> FolderOf(StringView path, const FolderItem& dossier)
+TileKind KindOf(const fs::path& tile)
 {
-    std::optional<FolderItem> folder = dossier;
-    if (BeginsWith(path, CustomScenery))
-        path.remove_prefix(CustomScenery.size());
-    else
-        folder = path.starts_with(U'/') ? FolderItem("/") : dossier.Parent();
-    for (const StringView name : Split(path, U"/"))
-        if (folder && !name.empty()) folder = Find(*folder, name);
-    return folder && folder->LeadsToFolder() ? folder : std::nullopt;
-}
-
-/// The first tile by name in the first folder that has any.
-std::optional<FolderItem> FirstTile(const FolderItem& navigationData)
-{
-    for (const FolderItem& folder : navigationData.Children())
-        for (const FolderItem& file : folder.Children())
-            if (SameText(Encodings::UTF8.Decode(file.Path().extension().native()), U".dsf")) return file;
-    return {};
-}
-
-/// The first bytes of a file, unpacked if it is an archive.
-std::string Beginning(int file, std::size_t size)
-{
-    std::string bytes(size, '\0');
-    const ssize_t count = ::pread(file, bytes.data(), size, 0);
-    bytes.resize(count > 0 ? static_cast<std::size_t>(count) : 0);
-    if (!IsArchive(bytes)) return bytes;
-    ::lseek(file, 0, SEEK_SET);
-    return Unpack(file, size);
-}
-
-/// Sets the kind of the tile, or the doubt.
-void ReadTile(PackFacts& facts, int file)
-{
-    struct stat status {};
-    if (::fstat(file, &status) != 0 || !S_ISREG(status.st_mode)) {
-        facts.doubt = Localisation::Txt_RaisonTuileIllisible();
-        return;
-    }
-    // The short beginning does for nearly all.
+    // What opens only when somebody writes to it must not stop the program.
+    const Descriptor file(::open(tile.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    Check(file.number >= 0);
     TileKind kind = TileKind::Damaged;
-    for (const std::size_t size : {std::size_t{4} << 10, std::size_t{256} << 10})
-        if (kind == TileKind::Damaged) kind = TileKindOf(Beginning(file, size));
-    if (kind != TileKind::Damaged)
-        facts.tile = kind == TileKind::Overlay ? PackFacts::Tile::Overlay : PackFacts::Tile::Base;
-    else
-        facts.doubt = CanUnpack() ? Localisation::Txt_RaisonTuileAbimee() : Localisation::Txt_RaisonSansArchive();
+    // The short beginning does for nearly all.
+    for (const std::size_t size : {std::size_t{4} << 10, std::size_t{256} << 10}) {
+        const std::string beginning = ReadAt(file.number, 0, size);
+        kind = TileKindOf(IsArchive(beginning) ? Unpack(file.number, size) : beginning);
+        if (kind != TileKind::Damaged) break;
+    }
+    return kind;
 }
 
-void LookInside(PackFacts& facts, const FolderItem& folder)
-{
-    const std::optional<FolderItem> navigationData = Find(folder, U"Earth nav data");
-    facts.airports = navigationData && Find(*navigationData, U"apt.dat");
-    if (facts.airports) return;
-    if (const auto tile = navigationData ? FirstTile(*navigationData) : std::nullopt) {
-        // What opens only when somebody writes to it must not stop the program.
-        const int file = ::open(tile->Path().c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-        ReadTile(facts, file);
-        if (file >= 0) ::close(file);
-        return;
-    }
-    const std::optional<FolderItem> plugins = Find(folder, U"plugins");
-    facts.plugins = plugins && plugins->LeadsToFolder();
-    facts.library = Find(folder, U"library.txt").has_value();
-    if (!facts.library && !facts.plugins) facts.doubt = Localisation::Txt_RaisonRien();
+void LookAtTile(PackFacts& facts, const fs::path& tile)
+try {
+    const TileKind kind = KindOf(tile);
+    if (kind == TileKind::Damaged)
+        facts.doubt = Localisation::Txt_RaisonTuileAbimee();
+    else
+        facts.tile = kind == TileKind::Overlay ? PackFacts::Tile::Overlay : PackFacts::Tile::Base;
+} catch (const IOException& error) {
+    facts.doubt = Unreadable(tile, error.Message);
 }
 
 } // namespace
 
-PackFacts LookAtPack(StringView line, const FolderItem& dossier)
+PackFolders::PackFolders(const FolderItem& dossier)
+    : dossier_(dossier.Path())
 {
+}
+
+PackFolders::Items PackFolders::ItemsOf(const fs::path& folder)
+{
+    Items items;
+    for (const fs::directory_entry& item : fs::directory_iterator(folder))
+        items.emplace(FormOf(Encodings::UTF8.Decode(item.path().filename().native())), item);
+    return items;
+}
+
+std::optional<fs::directory_entry> PackFolders::Find(const fs::path& folder, StringView name)
+{
+    if (fs::directory_entry exact(folder / Encodings::UTF8.Encode(name)); exact.exists()) return exact;
+    if (!listed_.contains(folder)) listed_.emplace(folder, ItemsOf(folder));
+    const Items& items = listed_.at(folder);
+    const auto found = items.find(FormOf(name));
+    return found == items.end() ? std::nullopt : std::optional(found->second);
+}
+
+/// The folder of a pack, or nothing where none is there.
+std::optional<fs::path> PackFolders::FolderOf(StringView path)
+{
+    std::optional<fs::directory_entry> folder(dossier_);
+    if (BeginsWith(path, CustomScenery))
+        path.remove_prefix(CustomScenery.size());
+    else
+        folder.emplace(path.starts_with(U'/') ? "/" : dossier_.parent_path());
+    for (const StringView name : Split(path, U"/"))
+        if (folder && !name.empty()) folder = Find(*folder, name);
+    return folder && folder->is_directory() ? std::optional(folder->path()) : std::nullopt;
+}
+
+void PackFolders::LookInside(PackFacts& facts, const fs::path& folder)
+{
+    if (const auto navigationData = Find(folder, U"Earth nav data"); navigationData && navigationData->is_directory()) {
+        const Items items = ItemsOf(*navigationData);
+        facts.airports = items.contains(U"apt.dat");
+        if (facts.airports) return;
+        for (const auto& [name, tiles] : items)
+            for (const auto& [file, tile] : tiles.is_directory() ? ItemsOf(tiles) : Items())
+                if (file.ends_with(U".dsf")) return LookAtTile(facts, tile);
+    }
+    const auto plugins = Find(folder, U"plugins");
+    facts.plugins = plugins && plugins->is_directory();
+    facts.library = Find(folder, U"library.txt").has_value();
+    if (!facts.library && !facts.plugins) facts.doubt = Localisation::Txt_RaisonRien();
+}
+
+PackFacts PackFolders::LookAt(StringView line)
+try {
     PackFacts facts;
     const SceneryLine pack = LinesOf(line).front();
     if (pack.state == LineState::Other)
         facts.doubt = Localisation::Txt_RaisonPasUnPack();
-    else if (const std::optional<FolderItem> folder = FolderOf(pack.Rest(), dossier))
+    else if (const std::optional<fs::path> folder = FolderOf(pack.Rest()))
         LookInside(facts, *folder);
     else
         facts.doubt = Localisation::Txt_RaisonDossAbsent();
+    return facts;
+} catch (const fs::filesystem_error& error) {
+    PackFacts facts;
+    facts.doubt = Unreadable(error.path1(), Encodings::UTF8.Decode(error.code().message()));
     return facts;
 }

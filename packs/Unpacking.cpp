@@ -1,43 +1,107 @@
 #include "packs/Unpacking.h"
 
-#include <archive.h>
-#include <dlfcn.h>
+#include "packs/ByteReader.h"
+#include "toolkit/core/FileCalls.h"
+
+#include <algorithm>
+#include <bit>
+#include <cstdlib>
+#include <lzma.h>
 #include <memory>
+#include <unistd.h>
 
 namespace {
 
-void* Library()
+constexpr std::size_t startSize = 32;
+constexpr char packedHeader = 23;
+
+struct Stream {
+    std::uint64_t offset, size;
+    lzma_vli method;
+    std::string_view properties;
+};
+
+/// The higher bits of the first byte tell how many follow; it holds the number's highest bits.
+std::uint64_t TakeNumber(ByteReader& header)
 {
-    static void* const library = [] {
-        void* found = dlopen("libarchive.so.13", RTLD_NOW | RTLD_LOCAL);
-        return found ? found : dlopen("libarchive.dylib", RTLD_NOW | RTLD_LOCAL);
-    }();
-    return library;
+    const std::uint64_t first = header.TakeNumber(1);
+    const int more = std::countl_one(static_cast<std::uint8_t>(first));
+    const std::uint64_t low = header.TakeNumber(static_cast<std::size_t>(more));
+    return more == 8 ? low : low | (first & (0x7FU >> more)) << (8 * more);
 }
 
-template <class Function>
-Function* Find(const char* name)
+void Expect(ByteReader& header, std::string_view bytes)
 {
-    return reinterpret_cast<Function*>(dlsym(Library(), name));
+    if (header.Take(bytes.size()) != bytes) throw Damage();
+}
+
+/// The one stream of an archive with one file: its place, its size, and its one coder.
+Stream TakeStream(ByteReader& header)
+{
+    using namespace std::string_view_literals;
+    Stream stream{};
+    Expect(header, "\6");
+    stream.offset = startSize + TakeNumber(header);
+    Expect(header, "\1\11");
+    stream.size = TakeNumber(header);
+    Expect(header, "\0\7\13\1\0\1"sv);
+    stream.method = header.Take(1) == "\x21" ? LZMA_FILTER_LZMA2 : LZMA_FILTER_LZMA1;
+    Expect(header, stream.method == LZMA_FILTER_LZMA2 ? "\x21" : "\3\1\1");
+    stream.properties = header.Take(TakeNumber(header));
+    return stream;
+}
+
+std::string Beginning(int archive, const Stream& packed, std::size_t size)
+{
+    lzma_filter filters[] = {{packed.method, nullptr}, {LZMA_VLI_UNKNOWN, nullptr}};
+    const auto* properties = reinterpret_cast<const std::uint8_t*>(packed.properties.data());
+    if (lzma_properties_decode(filters, nullptr, properties, packed.properties.size()) != LZMA_OK) throw Damage();
+    const std::unique_ptr<void, decltype(std::free)*> options(filters[0].options, std::free);
+    // Nothing there can refer to what lies further back.
+    std::uint32_t& window = static_cast<lzma_options_lzma*>(options.get())->dict_size;
+    window = std::min(window, static_cast<std::uint32_t>(size));
+
+    // What can't be packed gets hardly longer.
+    const std::string input = ReadAt(archive, packed.offset, std::min<std::uint64_t>(packed.size, 2 * size));
+    std::string bytes(size, '\0');
+    lzma_stream stream = LZMA_STREAM_INIT;
+    const std::unique_ptr<lzma_stream, decltype(lzma_end)*> end(&stream, lzma_end);
+    stream.next_in = reinterpret_cast<const std::uint8_t*>(input.data());
+    stream.avail_in = input.size();
+    stream.next_out = reinterpret_cast<std::uint8_t*>(bytes.data());
+    stream.avail_out = size;
+    if (lzma_raw_decoder(&stream, filters) != LZMA_OK || lzma_code(&stream, LZMA_RUN) == LZMA_DATA_ERROR)
+        throw Damage();
+    bytes.resize(size - stream.avail_out);
+    return bytes;
 }
 
 } // namespace
 
-bool CanUnpack() { return Library(); }
-
-std::string Unpack(int archiveFile, std::size_t size)
+std::string ReadAt(int file, std::uint64_t offset, std::size_t size)
 {
-    constexpr std::size_t blockSize = 65536;
-    if (!CanUnpack()) return {};
-    const std::unique_ptr<archive, decltype(archive_read_free)*> reader(
-        Find<decltype(archive_read_new)>("archive_read_new")(), Find<decltype(archive_read_free)>("archive_read_free"));
-    archive_entry* entry = nullptr;
-    Find<decltype(archive_read_support_format_7zip)>("archive_read_support_format_7zip")(reader.get());
-    Find<decltype(archive_read_open_fd)>("archive_read_open_fd")(reader.get(), archiveFile, blockSize);
-    if (Find<decltype(archive_read_next_header)>("archive_read_next_header")(reader.get(), &entry) != ARCHIVE_OK)
-        return {};
     std::string bytes(size, '\0');
-    const la_ssize_t count = Find<decltype(archive_read_data)>("archive_read_data")(reader.get(), bytes.data(), size);
-    bytes.resize(count > 0 ? static_cast<std::size_t>(count) : 0);
+    const ssize_t count = ::pread(file, bytes.data(), size, static_cast<off_t>(offset));
+    Check(count >= 0);
+    bytes.resize(static_cast<std::size_t>(count));
     return bytes;
+}
+
+std::string Unpack(int archive, std::size_t size)
+try {
+    constexpr std::size_t signatureSize = 12, numberSize = 8;
+    const std::string start = ReadAt(archive, 0, startSize);
+    ByteReader places(start);
+    places.Take(signatureSize);
+    const std::uint64_t offset = startSize + places.TakeNumber(numberSize), length = places.TakeNumber(numberSize);
+    std::string header = ReadAt(archive, offset, std::min<std::uint64_t>(length, size));
+    if (header.starts_with(packedHeader)) {
+        ByteReader parts(std::string_view(header).substr(1));
+        header = Beginning(archive, TakeStream(parts), size);
+    }
+    ByteReader parts(header);
+    Expect(parts, "\1\4");
+    return Beginning(archive, TakeStream(parts), size);
+} catch (const Damage&) {
+    return {};
 }

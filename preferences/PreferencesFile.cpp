@@ -37,7 +37,7 @@ PreferencesFile::PreferencesFile(const FolderItem& folder)
         folder.CheckWritable();
     } catch (const IOException& error) {
         isWritable_ = false;
-        MessageBox(Fncts::Filled(Localisation::Txt_PrefsNonGardees(), {folder.NativePath(), error.Message}));
+        MessageBox(Localisation::Filled(Localisation::Txt_PrefsNonGardees(), {folder.NativePath(), error.Message}));
     }
 }
 
@@ -67,7 +67,7 @@ PreferencesFile::Read PreferencesFile::ReadFile(const FolderItem& file)
 
 void PreferencesFile::TellProblem(const Read& read) const
 {
-    const String path = file_.NativePath(), kept = Fncts::Filled(Localisation::Txt_PrefsGardees(), {otherName_});
+    const String path = file_.NativePath(), kept = Localisation::Filled(Localisation::Txt_PrefsGardees(), {otherName_});
     if (!read.reading.failure.empty()) {
         Fncts::BeepNbT(3);
         TellAuthorsShortly(

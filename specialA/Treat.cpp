@@ -116,9 +116,8 @@ void WinSpecA::TreatOriginal()
     for (const auto& [name, text] :
          {std::pair(&app.TabSpecAdest1.front(), &treated->dest1), {&app.TabSpecAdest2.front(), &treated->dest2}})
         if (WriteDestination(*name, *text, reading.text)) written.emplace_back(*name);
-    Fncts::Dire(written.empty()
-                    ? Dit_RienEcrit()
-                    : Fncts::Filled(Dit_EcritDans(), {Join(written, U", "), FichOrg->Parent()->NativePath()}));
+    Fncts::Dire(written.empty() ? Dit_RienEcrit()
+                                : Filled(Dit_EcritDans(), {Join(written, U", "), FichOrg->Parent()->NativePath()}));
 }
 
 std::optional<Treatment> WinSpecA::TreatVisibly(StringView original)
@@ -158,7 +157,7 @@ bool WinSpecA::WriteDestination(StringView name, const std::optional<String>& te
 {
     if (name.empty()) return false;
     if (!text) {
-        Tell(Fncts::Filled(Txt_TropGrand(), {name}), DialogIcon::Warning);
+        Tell(Filled(Txt_TropGrand(), {name}), DialogIcon::Warning);
         return false;
     }
     if (SameText(*text, original)) {
@@ -182,8 +181,8 @@ bool WinSpecA::MayReplace(const FolderItem& target)
     const auto replaces = [this](const String& question) {
         return AsksToLose(question, Btn_NePasRempl(), Btn_Remplacer());
     };
-    if (!replaces(Fncts::Filled(Txt_NomExiste(), {target.Name()}))) return false;
-    if (target.Path() == FichOrg->Path()) return replaces(Fncts::Filled(Txt_RemplOriginal(), {target.Name()}));
+    if (!replaces(Filled(Txt_NomExiste(), {target.Name()}))) return false;
+    if (target.Path() == FichOrg->Path()) return replaces(Filled(Txt_RemplOriginal(), {target.Name()}));
     const Int64 items = target.IsFolder() ? std::ssize(target.Children()) : 0;
-    return items == 0 || replaces(Fncts::Filled(Txt_DossierPlein(), {target.Name(), ToText(items)}));
+    return items == 0 || replaces(Filled(Txt_DossierPlein(), {target.Name(), ToText(items)}));
 }

@@ -37,7 +37,7 @@ void TakeOver(const FolderItem& item, const FolderItem& place)
         MoveAnywhere(item, place);
     } catch (const std::exception& error) {
         const String reason = Fncts::DefAppEncod.Decode(error.what());
-        MessageBox(Fncts::Filled(Localisation::Txt_PrefsNonReprises(), {item.NativePath(), reason}));
+        MessageBox(Localisation::Filled(Localisation::Txt_PrefsNonReprises(), {item.NativePath(), reason}));
     }
 }
 

@@ -74,8 +74,9 @@ Reading LireFichier(const std::optional<FolderItem>& fichier)
 String CleaningReport(const Reading& reading, StringView name)
 {
     constexpr Int64 longest = 200;
-    return Filled(Localisation::Txt_OctetsRetires(), {name, ToText(reading.cleanedLines), ToText(reading.firstCleaned),
-                                                      Left(reading.firstCleanedLine, longest)});
+    return Localisation::Filled(
+        Localisation::Txt_OctetsRetires(),
+        {name, ToText(reading.cleanedLines), ToText(reading.firstCleaned), Left(reading.firstCleanedLine, longest)});
 }
 
 Outcome SauvFichier(const FolderItem& f, StringView text)

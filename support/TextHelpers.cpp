@@ -17,15 +17,6 @@ String FracTexte(StringView text, Int16 part)
     return {};
 }
 
-String Filled(StringView text, std::initializer_list<StringView> fillings)
-{
-    Int16 part = 1;
-    String filled = FracTexte(text, part);
-    for (const StringView filling : fillings)
-        filled.append(filling).append(FracTexte(text, ++part));
-    return filled;
-}
-
 Bytes NettoiBadEncod(std::string_view text, const TextEncoding& encoding)
 {
     Bytes kept;

@@ -3,16 +3,11 @@
 
 #include "toolkit/core/TextEncoding.h"
 
-#include <initializer_list>
-
 namespace Fncts {
 
 /// Piece number `part`, counted from 1, of a text that is cut at its placeholders "¿%": the second of "“¿%” ?" is "”
 /// ?". A part that the text doesn't have gives "" and a message for the authors.
 String FracTexte(StringView text, Int16 part);
-
-/// The text with its placeholders filled, one after the other.
-String Filled(StringView text, std::initializer_list<StringView> fillings);
 
 /// What is left of bytes that are no valid text when all that can't stand byte for byte is dropped: in UTF-8 the plain
 /// ASCII, so that valid characters of several bytes go too. Three beeps and "" for what stays invalid all the same.

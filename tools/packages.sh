@@ -4,7 +4,7 @@
 # shellcheck disable=SC2034  # the lists are for those who source this
 {
     build_packages=(g++ cmake ninja-build ccache qt6-base-dev qt6-multimedia-dev qt6-tools-dev qt6-l10n-tools qt6-translations-l10n
-        libgtest-dev libarchive-dev fonts-dejavu-core python3)
+        libgtest-dev liblzma-dev fonts-dejavu-core python3)
     screen_packages=(xvfb openbox dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi xdotool imagemagick)
     bench_packages=(libbenchmark-dev) # for the preset "dev", which builds the benchmarks
     test_packages=(openssl pulseaudio pulseaudio-utils x11-session-utils x11-xserver-utils)

@@ -420,17 +420,13 @@ Packs nachher</translation>
         <source>rien n'y dit ce que c'est</source>
         <translation>nichts darin sagt, was es ist</translation>
     </message>
-    <message id="Localisation.Txt_RaisonTuileIllisible">
-        <source>une tuile ne peut pas être lue</source>
-        <translation>eine Kachel ist nicht lesbar</translation>
+    <message id="Localisation.Txt_RaisonIllisible">
+        <source>“¿%” ne peut pas être lu : ¿%</source>
+        <translation>„¿%“ ist nicht lesbar: ¿%</translation>
     </message>
     <message id="Localisation.Txt_RaisonTuileAbimee">
         <source>une tuile est abîmée</source>
         <translation>eine Kachel ist beschädigt</translation>
-    </message>
-    <message id="Localisation.Txt_RaisonSansArchive">
-        <source>une tuile est abîmée, ou comprimée alors que libarchive manque</source>
-        <translation>eine Kachel ist beschädigt, oder gepackt und libarchive fehlt</translation>
     </message>
     <message id="Localisation.Txt_RaisonPasUnPack">
         <source>ce n'est pas une ligne de pack</source>

@@ -420,17 +420,13 @@ Packs after</translation>
         <source>rien n'y dit ce que c'est</source>
         <translation>nothing in it tells what it is</translation>
     </message>
-    <message id="Localisation.Txt_RaisonTuileIllisible">
-        <source>une tuile ne peut pas être lue</source>
-        <translation>a tile can't be read</translation>
+    <message id="Localisation.Txt_RaisonIllisible">
+        <source>“¿%” ne peut pas être lu : ¿%</source>
+        <translation>“¿%” can't be read: ¿%</translation>
     </message>
     <message id="Localisation.Txt_RaisonTuileAbimee">
         <source>une tuile est abîmée</source>
         <translation>a tile is damaged</translation>
-    </message>
-    <message id="Localisation.Txt_RaisonSansArchive">
-        <source>une tuile est abîmée, ou comprimée alors que libarchive manque</source>
-        <translation>a tile is damaged, or packed while libarchive is missing</translation>
     </message>
     <message id="Localisation.Txt_RaisonPasUnPack">
         <source>ce n'est pas une ligne de pack</source>

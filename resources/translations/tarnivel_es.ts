@@ -420,17 +420,13 @@ Packs después</translation>
         <source>rien n'y dit ce que c'est</source>
         <translation>nada en ella dice qué es</translation>
     </message>
-    <message id="Localisation.Txt_RaisonTuileIllisible">
-        <source>une tuile ne peut pas être lue</source>
-        <translation>no se puede leer una tesela</translation>
+    <message id="Localisation.Txt_RaisonIllisible">
+        <source>“¿%” ne peut pas être lu : ¿%</source>
+        <translation>«¿%» no se puede leer: ¿%</translation>
     </message>
     <message id="Localisation.Txt_RaisonTuileAbimee">
         <source>une tuile est abîmée</source>
         <translation>una tesela está dañada</translation>
-    </message>
-    <message id="Localisation.Txt_RaisonSansArchive">
-        <source>une tuile est abîmée, ou comprimée alors que libarchive manque</source>
-        <translation>una tesela está dañada, o comprimida y falta libarchive</translation>
     </message>
     <message id="Localisation.Txt_RaisonPasUnPack">
         <source>ce n'est pas une ligne de pack</source>

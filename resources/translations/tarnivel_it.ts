@@ -420,17 +420,13 @@ Pack dopo</translation>
         <source>rien n'y dit ce que c'est</source>
         <translation>niente dice che cosa sia</translation>
     </message>
-    <message id="Localisation.Txt_RaisonTuileIllisible">
-        <source>une tuile ne peut pas être lue</source>
-        <translation>un riquadro non è leggibile</translation>
+    <message id="Localisation.Txt_RaisonIllisible">
+        <source>“¿%” ne peut pas être lu : ¿%</source>
+        <translation>«¿%» non può essere letto: ¿%</translation>
     </message>
     <message id="Localisation.Txt_RaisonTuileAbimee">
         <source>une tuile est abîmée</source>
         <translation>un riquadro è danneggiato</translation>
-    </message>
-    <message id="Localisation.Txt_RaisonSansArchive">
-        <source>une tuile est abîmée, ou comprimée alors que libarchive manque</source>
-        <translation>un riquadro è danneggiato, o compresso e manca libarchive</translation>
     </message>
     <message id="Localisation.Txt_RaisonPasUnPack">
         <source>ce n'est pas une ligne de pack</source>

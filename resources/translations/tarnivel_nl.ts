@@ -420,17 +420,13 @@ Packs na</translation>
         <source>rien n'y dit ce que c'est</source>
         <translation>niets erin zegt wat het is</translation>
     </message>
-    <message id="Localisation.Txt_RaisonTuileIllisible">
-        <source>une tuile ne peut pas être lue</source>
-        <translation>een tegel is niet te lezen</translation>
+    <message id="Localisation.Txt_RaisonIllisible">
+        <source>“¿%” ne peut pas être lu : ¿%</source>
+        <translation>‘¿%’ kan niet worden gelezen: ¿%</translation>
     </message>
     <message id="Localisation.Txt_RaisonTuileAbimee">
         <source>une tuile est abîmée</source>
         <translation>een tegel is beschadigd</translation>
-    </message>
-    <message id="Localisation.Txt_RaisonSansArchive">
-        <source>une tuile est abîmée, ou comprimée alors que libarchive manque</source>
-        <translation>een tegel is beschadigd, of ingepakt terwijl libarchive ontbreekt</translation>
     </message>
     <message id="Localisation.Txt_RaisonPasUnPack">
         <source>ce n'est pas une ligne de pack</source>

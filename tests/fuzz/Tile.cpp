@@ -14,7 +14,7 @@ void Fuzz(Input& input)
     if (kind != TileKind::Damaged) EXPECT_EQ(TileKindOf(tile + rest), kind) << "what stands behind the head counts";
 
     temporary.File("p/Earth nav data/+40+000/a.dsf", tile);
-    const PackFacts facts = LookAtPack(U"SCENERY_PACK Custom Scenery/p/", FolderItem(temporary.Path()));
+    const PackFacts facts = PackFolders(FolderItem(temporary.Path())).LookAt(U"SCENERY_PACK Custom Scenery/p/");
     EXPECT_NE(facts.tile == PackFacts::Tile::None, facts.doubt.empty());
     if (kind != TileKind::Damaged) EXPECT_EQ(facts.tile == PackFacts::Tile::Overlay, kind == TileKind::Overlay);
 }

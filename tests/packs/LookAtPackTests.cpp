@@ -4,7 +4,9 @@
 #include "toolkit/core/TextInputStream.h"
 
 #include <gtest/gtest.h>
+#include <sys/fsuid.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace fs = std::filesystem;
 
@@ -64,6 +66,7 @@ TEST(Tile, TileKindOf)
 
 class Scenery : public testing::Test {
 protected:
+    static constexpr StringView line = U"SCENERY_PACK Custom Scenery/p/";
     TemporaryFolder temporary;
     const fs::path custom = temporary.Folder("X-Plane/Custom Scenery");
 
@@ -73,9 +76,9 @@ protected:
     }
 
     /// What a line's pack is, in a word or by the doubt.
-    [[nodiscard]] String Seen(StringView line) const
+    [[nodiscard]] String Seen(StringView text) const
     {
-        const PackFacts facts = LookAtPack(line, FolderItem(custom));
+        const PackFacts facts = PackFolders(FolderItem(custom)).LookAt(text);
         if (!facts.doubt.empty()) return facts.doubt;
         String seen = facts.airports ? U"airports " : U"";
         if (facts.tile != PackFacts::Tile::None)
@@ -138,15 +141,44 @@ TEST_F(Scenery, LiesWhereItsLineSays)
         {"X-Plane's own airports lie nowhere", U"SCENERY_PACK *GLOBAL_AIRPORTS*", U"le dossier manque"},
         {"no pack line", U"# Custom Scenery/link/", U"ce n'est pas une ligne de pack"},
     };
-    for (const auto& [name, line, seen] : rows)
-        EXPECT_EQ(Seen(line), seen) << name;
+    for (const auto& [name, text, seen] : rows)
+        EXPECT_EQ(Seen(text), seen) << name;
 }
 
-TEST_F(Scenery, DoesNotWaitForAPipe)
+TEST_F(Scenery, TellsWhyATileOrAFolderCanNotBeRead)
 {
-    fs::create_directories(custom / "p/Earth nav data/+40+000");
-    ASSERT_EQ(mkfifo((custom / "p/Earth nav data/+40+000/a.dsf").c_str(), 0600), 0);
-    EXPECT_EQ(Seen(U"SCENERY_PACK Custom Scenery/p/"), U"une tuile ne peut pas être lue");
+    fs::permissions(temporary.Path(), fs::perms::all);
+    const fs::path pack = custom / "p", tiles = pack / "Earth nav data/+40+000";
+    fs::create_directories(tiles);
+    const String beginning = U"“a.dsf” ne peut pas être lu : ";
+    ASSERT_EQ(mkfifo((tiles / "a.dsf").c_str(), 0600), 0);
+    EXPECT_EQ(Seen(line), beginning + U"Illegal seek") << "nobody waits for a pipe";
+    fs::remove(tiles / "a.dsf");
+    fs::create_symlink("a.dsf", tiles / "a.dsf");
+    EXPECT_EQ(Seen(line), beginning + U"Too many levels of symbolic links");
+    fs::remove(tiles / "a.dsf");
+    Put("p/Earth nav data/+40+000/a.dsf", overlay);
+
+    const std::pair<fs::path, String> rows[] = {
+        {tiles / "a.dsf", U"a.dsf"}, {tiles, U"+40+000"}, {pack, U"Earth nav data"}};
+    for (const auto& [closed, told] : rows) {
+        fs::permissions(closed, fs::perms::none);
+        // All is readable to root: another user looks.
+        const auto user = static_cast<uid_t>(setfsuid(geteuid() == 0 ? 65534 : geteuid()));
+        EXPECT_EQ(Seen(line), U"“" + told + U"” ne peut pas être lu : Permission denied");
+        setfsuid(user);
+        fs::permissions(closed, fs::perms::all);
+    }
+}
+
+TEST_F(Scenery, TakesTheFirstTileOfMany)
+{
+    const fs::path tiles = custom / "p/Earth nav data/+40+000";
+    Put(tiles / "+20000.dsf", overlay);
+    Put(tiles / "+40000.dsf", base);
+    for (int number = 20'001; number < 40'000; ++number)
+        fs::create_hard_link(tiles / "+40000.dsf", tiles / ("+" + std::to_string(number) + ".dsf"));
+    EXPECT_EQ(Seen(line), U"overlay ");
 }
 
 } // namespace
