@@ -101,7 +101,7 @@ String Explain(const Lines& source, const Lines& destination)
     const auto before = std::ranges::count(source, String()), after = std::ranges::count(destination, String());
     if (before == after) return explanation;
     if (!explanation.empty()) explanation += U"\n \n";
-    return explanation + WithNumber(WithNumber(Localisation::Txt_LignesVides(), before), after);
+    return explanation + Localisation::Filled(Localisation::Txt_LignesVides(), {ToText(before), ToText(after)});
 }
 
 String TwinIn(StringView line)
