@@ -1,5 +1,5 @@
 # Where the files of an installed Tarnivel lie, and the packages that CPack makes of them: a Debian package, and an
-# archive that runs from any folder. The program finds its files from its own place.
+# archive with all libraries, which runs from any folder. The program finds its files from its own place.
 include(GNUInstallDirs)
 
 set(application fr.kavesti.tarnivel)
@@ -9,6 +9,11 @@ if(APPLE)
   include(CPack)
   return()
 endif()
+foreach(program tarnivel tarnivel-order)
+  # Where the archive has its libraries. This kind of path holds for the libraries of libraries too.
+  set_target_properties(${program} PROPERTIES INSTALL_RPATH "$ORIGIN/../lib/tarnivel")
+  target_link_options(${program} PRIVATE -Wl,--disable-new-dtags)
+endforeach()
 install(TARGETS tarnivel_sound LIBRARY DESTINATION lib/tarnivel/modules)
 install(DIRECTORY ${PROJECT_BINARY_DIR}/resources/ DESTINATION ${CMAKE_INSTALL_DATADIR}/tarnivel
   FILES_MATCHING PATTERN *.wav PATTERN *.ttf PATTERN *.png PATTERN *.qm PATTERN CMakeFiles EXCLUDE)
@@ -40,6 +45,12 @@ endforeach()
 install_compressed(packaging/changelog changelog ${CMAKE_INSTALL_DOCDIR})
 
 set(CPACK_GENERATOR DEB TGZ)
+set(CPACK_POST_BUILD_SCRIPTS ${PROJECT_SOURCE_DIR}/cmake/Standalone.cmake)
+find_library(LIBARCHIVE libarchive.so.13)
+find_library(LIBSSL libssl.so.3)
+set(CPACK_STANDALONE_LOADED ${LIBARCHIVE} ${LIBSSL})
+set(CPACK_STANDALONE_PLUGINS ${QT6_INSTALL_PREFIX}/${QT6_INSTALL_PLUGINS})
+set(CPACK_SYSTEM_NAME ${CMAKE_SYSTEM_NAME}-${CMAKE_SYSTEM_PROCESSOR})
 set(CPACK_INSTALL_COMMANDS "${CMAKE_COMMAND} --build ${PROJECT_BINARY_DIR}")
 set(CPACK_PACKAGE_NAME tarnivel)
 set(CPACK_PACKAGE_VENDOR "The Tarnivel authors")

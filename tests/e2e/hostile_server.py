@@ -218,4 +218,5 @@ def main(command):
     server.shutdown()
 
 
-main(*sys.argv[1:])
+if __name__ == "__main__":
+    main(*sys.argv[1:])

@@ -112,4 +112,5 @@ def main(command):
         silent_server(command, files)
 
 
-main(*sys.argv[1:])
+if __name__ == "__main__":
+    main(*sys.argv[1:])
