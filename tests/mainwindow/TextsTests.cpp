@@ -53,48 +53,12 @@ TEST(ArchiveNames, TheMomentStandsBeforeTheExtension)
     EXPECT_EQ(ArchiveName(U"e\u0301.e\u0301", U".e\u0301", {12, 12, 31, 23, 59, 59}), U"é_0012-12-31_23'59'59.é");
 }
 
-TEST(Toggling, LinesInTheSelectionChange)
+TEST(Toggling, OneWayAlone)
 {
-    struct Row {
-        const char* name;
-        ToggleMode mode;
-        StringView before, after;
-    };
-    constexpr ToggleMode invert = ToggleMode::Invert;
-    const Row rows[] = {
-        {"a caret stands for its line, which is selected then", invert, U"I\nSCENERY_PACK A|/\nx",
-         U"I\n[SCENERY_PACK_DISABLED A/]\nx"},
-        {"every line flips from its own state", invert, U"I\n[SCENERY_PACK é\nSCENERY_PACK_DISABLED 😀\n]",
-         U"I\n[SCENERY_PACK_DISABLED é\nSCENERY_PACK 😀\n]"},
-        {"forced on", ToggleMode::Enable, U"I\n[SCENERY_PACK A\nSCENERY_PACK_DISABLED B]\n",
-         U"I\n[SCENERY_PACK A\nSCENERY_PACK B]\n"},
-        {"forced off", ToggleMode::Disable, U"I\n[SCENERY_PACK A\nSCENERY_PACK_DISABLED B]\n",
-         U"I\n[SCENERY_PACK_DISABLED A\nSCENERY_PACK_DISABLED B]\n"},
-        {"a line selected from its middle or cut in its keyword stays", invert,
-         U"I\nSCENERY[_PACK A\nSCENERY_P]ACK B\n", U"I\nSCENERY[_PACK A\nSCENERY_P]ACK B\n"},
-        {"the last line without a line end loses its last character in the selection", invert, U"I\nSCENERY_PACK A|b",
-         U"I\n[SCENERY_PACK_DISABLED A]b"},
-        {"small letters match, and come out in capitals", invert, U"I\n|scenery_pack x\r\n",
-         U"I\n[SCENERY_PACK_DISABLED x\r]\n"},
-        {"nothing to select", invert, U"I\n|\nx", U""},
-        {"nothing behind the last line end", invert, U"I\n|", U""},
-    };
-    // "[" and "]" stand for the ends of the selection, "|" for the caret.
-    const auto read = [](StringView marked) {
-        const std::size_t start = std::min(marked.find_first_of(U"[|"), marked.size()), end = marked.find(U']');
-        AfterToggle found{String(marked), {static_cast<Int64>(start), 0}};
-        if (end != marked.npos) found.selection.length = static_cast<Int64>(end - start - 1);
-        std::erase_if(found.text, [](char32_t c) { return StringView(U"[]|").find(c) != StringView::npos; });
-        return found;
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        const AfterToggle before = read(row.before), after = read(row.after);
-        const std::optional<AfterToggle> toggled = Toggle(before.text, before.selection, row.mode);
-        EXPECT_EQ(toggled.has_value(), !row.after.empty());
-        EXPECT_EQ(toggled ? toggled->text : String(), after.text);
-        EXPECT_EQ(toggled ? toggled->selection : Selection(), after.selection);
-    }
+    const StringView text = U"I\nSCENERY_PACK A\nscenery_pack_disabled B\n";
+    const Selection all{2, std::ssize(text) - 2};
+    EXPECT_EQ(Toggle(text, all, ToggleMode::Enable)->text, U"I\nSCENERY_PACK A\nSCENERY_PACK B\n");
+    EXPECT_EQ(Toggle(text, all, ToggleMode::Disable)->text, U"I\nSCENERY_PACK_DISABLED A\nscenery_pack_disabled B\n");
 }
 
 TEST(RandomTexts, AreSearchedAndToggledByTheLaws)

@@ -41,26 +41,25 @@ TEST_F(WideText, ALineIsToggledInTheViewOnScreenAndAReturnIsTold)
 TEST_F(WideText, AMatchIsSelectedAndTheSoundTellsWhatWasFound)
 {
     const DesktopTextArea& area = window->TextAreaAff;
-    const auto search = [&](StringView word, const auto& ask) {
-        probe.Sounds.clear();
-        window->TextFieldCherch.SetText(word);
-        ask();
-        return std::tuple(area.SelectionStart(), area.SelectedText(), probe.Sounds.empty() ? U"" : probe.Sounds.back());
-    };
-    const auto button = [this] { window->PushButtCherch_Pressed(); };
     const Int64 first = IndexOf(text, U"Custom"), second = IndexOf(text, U"Custom", first + 1);
-    EXPECT_EQ(search(U"alpes", button), std::tuple(second + 15, U"Alpes", U"Agrafeuse_t.wav"));
-    EXPECT_EQ(search(U"alpes", button), std::tuple(second + 15, U"Alpes", U"Whit.wav"));
+    const auto search = [&](StringView word, bool byEnter = false) {
+        probe.Sounds = {U""};
+        window->TextFieldCherch.SetText(word);
+        byEnter ? window->TextFieldCherch.Entered() : window->PushButtCherch_Pressed();
+        return std::tuple(area.SelectionStart(), area.SelectedText(), probe.Sounds.back());
+    };
+    EXPECT_EQ(search(U"alpes"), std::tuple(second + 15, U"Alpes", U"Agrafeuse_t.wav"));
+    EXPECT_EQ(search(U"alpes"), std::tuple(second + 15, U"Alpes", U"Whit.wav"));
     EXPECT_EQ(window->Focus(), &area);
-    EXPECT_EQ(search(U"custom", window->TextFieldCherch.Entered), std::tuple(first, U"Custom", U"Agrafeuse_t.wav"));
+    EXPECT_EQ(search(U"custom", true), std::tuple(first, U"Custom", U"Agrafeuse_t.wav"));
     EXPECT_EQ(window->Focus(), &window->TextFieldCherch) << "the next Enter searches on";
     Fncts::DrapMenu = false;
-    EXPECT_EQ(search(U"alpes", button), std::tuple(first, U"Custom", U""));
+    EXPECT_EQ(search(U"alpes"), std::tuple(first, U"Custom", U""));
     Fncts::DrapMenu = true;
     EXPECT_EQ(probe.Beeps, 0);
-    EXPECT_EQ(search(U"", button), std::tuple(first, U"Custom", U""));
+    EXPECT_EQ(search(U""), std::tuple(first, U"Custom", U""));
     EXPECT_EQ(probe.Beeps, 1);
-    EXPECT_EQ(search(U"nowhere", button), std::tuple(0, U"", U"Glass_t.wav"));
+    EXPECT_EQ(search(U"nowhere"), std::tuple(0, U"", U"Glass_t.wav"));
     window->PushButtInitCherch_Pressed();
     EXPECT_EQ(window->TextFieldCherch.Text(), U"");
 }

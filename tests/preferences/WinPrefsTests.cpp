@@ -49,9 +49,9 @@ TEST_F(PreferencesWindow, TakesOverBothSettingsOrNone)
         EXPECT_TRUE(app.DrapAffBtnSpecA == taken && segButtSpecA.Visible() == taken);
     }
     EXPECT_EQ(probe.Beeps, 2);
-    for (const Int16 outside : {Int16{-1}, Int16{101}}) {
-        app.DefVolSon(outside);
-        EXPECT_EQ(app.DefVolSon(), 80);
+    for (const auto& [set, kept] : {std::pair<Int16, Int16>(-1, 80), {0, 0}, {100, 100}, {101, 80}}) {
+        app.DefVolSon(set);
+        EXPECT_EQ(app.DefVolSon(), kept);
     }
 }
 

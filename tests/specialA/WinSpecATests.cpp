@@ -6,6 +6,7 @@
 #include "toolkit/Probe.h"
 #include "toolkit/core/Exceptions.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -121,6 +122,9 @@ TEST_F(SpecialA, WritesWhatTheAnswersAllow)
         EXPECT_EQ(folder.Content(in / "taken") + folder.Content("two"), "oldoutside");
         EXPECT_EQ(folder.Content(in / "full/inner").empty(), row.sounds == 2 && row.dest1 == U"full");
         EXPECT_EQ(std::ssize(probe.Sounds), row.sounds);
+        EXPECT_EQ(std::exchange(probe.Beeps, 0), std::ranges::count_if(row.more, [&](const String& told) {
+                      return told.starts_with(failed) || told == unchanged;
+                  }));
         EXPECT_TRUE(Fncts::DrapMenu);
     }
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(in), {}), 5) << "nothing is left over";
@@ -187,6 +191,12 @@ TEST_F(SpecialA, HasNoUseForWhatIsNoFile)
     window->PushButtTrait_Pressed();
     EXPECT_EQ(Asked(), missing) << "a link has taken its place";
 
+    const auto bad = folder.File("bad.txt", "a\xE9");
+    probe.Answers = {1};
+    EXPECT_EQ(asksAt(bad).size(), 1U) << "the first answer to what it lost";
+    probe.Answers = {3, 2};
+    EXPECT_EQ(asksAt(bad).back(), found);
+
     const auto pipe = folder.Path() / "pipe.txt";
     ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
     EXPECT_EQ(asksAt(pipe), std::vector{U"Le fichier original ne peut pas être lu.\n" + FolderItem(pipe).NativePath() +
@@ -212,11 +222,7 @@ TEST_F(SpecialA, TakesDroppedTextFilesOnly)
         SCOPED_TRACE(name);
         app.PathSpecA.clear();
         Open();
-        window->GroupBoxSource_DragEnter();
-        EXPECT_TRUE(window->CanvDrag.Visible());
-        EXPECT_EQ(window->CanvDrag.Width(), 630);
         window->GroupBoxSource_DropObject({items});
-        EXPECT_FALSE(window->CanvDrag.Visible());
         EXPECT_EQ(window->TextFieldOrg.Text(), org);
         EXPECT_EQ(Asked(), org == U"…" ? std::vector{refused} : std::vector<String>());
     }
@@ -260,6 +266,7 @@ TEST_F(SpecialA, TheTableGrowsAndShrinks)
     window->PushButtSupp_Pressed();
     EXPECT_EQ(window->ListboxRR.Rows().size(), 2U);
     window->ListboxRR.SetSelectedRowIndex(0);
+    window->ListboxRR_RowsPasted(RowsOf(U"other.txt\tone\ttwo\n\n"));
     window->ListboxRR_RowsPasted(RowsOf(U"other.txt\tone\ttwo\n\nx\ty\tz\nv"));
     EXPECT_EQ(window->ListboxRR.SelectedRowIndex(), 1);
     EXPECT_EQ(Row(1) + Row(2), U"x|y|zv||") << "without the names that were copied with the rows";
@@ -280,7 +287,9 @@ TEST_F(SpecialA, TellsTheLimitsOfTheTable)
     window->ListboxRR_RowsPasted({{U"y"}});
     EXPECT_EQ(Said(), U"Trop long : une colonne du tableau peut avoir 2 000 000 de caractères.");
     EXPECT_EQ(window->ListboxRR.Rows().size(), 3U);
-    window->ListboxRR_RowsPasted(std::vector<CellRow>(998));
+    window->ListboxRR_RowsPasted(std::vector<CellRow>(996));
+    EXPECT_EQ(Said(), U"");
+    window->ListboxRR_RowsPasted(std::vector<CellRow>(2));
     EXPECT_EQ(Said(), U"Le tableau ne peut pas avoir plus de 1 000 lignes.");
     EXPECT_EQ(window->ListboxRR.Rows().size(), 1000U);
     window->PushButtAdd_Pressed();
