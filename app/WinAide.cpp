@@ -40,7 +40,7 @@ WinAide::WinAide()
 // clang-format on
 {
     TexteInfo.SetReadOnly(true);
-    TexteInfo.SetText(Infos_Texte());
+    TexteInfo.SetText(Infos_Texte() + U"\n \n" + Infos_Menu());
     TexteInfo.SetAccessibleName(WinAide_Title());
     BoutonOk.SetDefault();
     Opening = [this] { Event_Opening(); };

@@ -15,16 +15,4 @@ struct SceneryTexts {
     std::vector<Int64> CoulModSpack;
     /// Where the lines of `TextDestSpack` begin that the model didn't place. Characters, ascending.
     std::vector<Int64> CoulDestSpack;
-
-    /// Forgets the result, and with `model` or `source` the text of that side too.
-    void InitVars(bool model, bool source)
-    {
-        if (model) {
-            CoulModSpack.clear();
-            TextModel.clear();
-        }
-        if (source) TextSrcSpack.clear();
-        CoulDestSpack.clear();
-        TextDestSpack.clear();
-    }
 };

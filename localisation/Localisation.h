@@ -50,6 +50,15 @@ inline constexpr Text Infos_Texte{U"Infos_Texte",
     U" \n"
     U"Cliquez le bouton “Sauver” pour sauvegarder le texte contenu dans la zone de texte dans le fichier sélectionné "
     U"dans le PopupMenu. Rien ne sera modifié dans votre fichier jusqu'à ce que vous cliquiez ce bouton."};
+inline constexpr Text Infos_Menu{U"Infos_Menu",
+    U"Le menu “Texte” ordonne le texte à la main : il déplace les lignes sélectionnées (Alt+Haut, Alt+Bas), les "
+    U"double (Ctrl+D) ou les supprime (Ctrl+Maj+K), va à la ligne colorée suivante ou précédente (F8, Maj+F8), au "
+    U"texte cherché suivant ou précédent (F3, Maj+F3), lance (F5), montre le dernier rapport, ajoute les dossiers "
+    U"absents du texte, désactive les lignes sans dossier et propose un modèle. Ctrl+Z reprend chaque modification, "
+    U"Ctrl+Y la rétablit.\n"
+    U" \n"
+    U"La ligne sous la fenêtre dit où est le curseur et ce que la vue contient, puis ce qui vient d'être fait, ou "
+    U"pourquoi une action est refusée."};
 inline constexpr Text RdButtSourceA{U"RdButtSourceA", U"Fichier modèle"};
 inline constexpr Text Btn_OpenUrl{U"Btn_OpenUrl", U"Ouvrir Url"};
 inline constexpr Text StTextScenPack{U"StTextScenPack", U"scenery_packs.ini"};

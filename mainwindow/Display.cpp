@@ -36,12 +36,16 @@ void WinMain::ShowStatus()
                                     .marked = shown.MarkedLines()}));
 }
 
-void WinMain::ShowRun(const SceneryTexts& texts, std::initializer_list<int> rows)
+void WinMain::ShowRun(const SceneryTexts& texts, std::initializer_list<int> rows, bool modelIsCleaned,
+                      bool sourceIsCleaned)
 {
-    const std::pair<StringView, std::span<const Int64>> shown[] = {
-        {texts.TextModel, texts.CoulModSpack}, {texts.TextSrcSpack, {}}, {texts.TextDestSpack, texts.CoulDestSpack}};
+    const std::tuple<StringView, std::span<const Int64>, bool> shown[] = {
+        {texts.TextModel, texts.CoulModSpack, modelIsCleaned},
+        {texts.TextSrcSpack, {}, sourceIsCleaned},
+        {texts.TextDestSpack, texts.CoulDestSpack, modelIsCleaned || sourceIsCleaned}};
     for (const int row : rows) {
-        Document(row).ReplaceText(shown[row].first, shown[row].second);
+        const auto& [text, marks, isCleaned] = shown[row];
+        Document(row).ReplaceText(text, marks, isCleaned);
         Document(row).SetUnmodified();
     }
 }

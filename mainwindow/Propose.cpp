@@ -29,8 +29,7 @@ void WinMain::TexteProposer_Action()
     const Proposal proposal = ProposeModel(source.text, *packs);
     TextFieldMod1.SetText(Fncts::AbsPath_f(*file, true));
     RadGrpSrc.SetSelectedIndex(0);
-    modelWasCleaned_ = reading.cleanedLines > 0;
-    Document(rowModel).ReplaceText(proposal.model);
+    Document(rowModel).ReplaceText(proposal.model, {}, reading.cleanedLines > 0);
     PopMenuAff.SetSelectedRowIndex(rowModel);
     AffArea();
     TextAreaAff.SetFocus();

@@ -21,7 +21,9 @@ String FormsOf(std::initializer_list<std::pair<String, String>> namesAndForms)
 {
     String sentences;
     for (const auto& [name, form] : namesAndForms)
-        if (!form.empty()) sentences += U" " + Localisation::Filled(Localisation::Txt_FormeTexte(), {name, form});
+        if (!form.empty())
+            sentences +=
+                (sentences.empty() ? U". " : U" ") + Localisation::Filled(Localisation::Txt_FormeTexte(), {name, form});
     return sentences;
 }
 
@@ -54,7 +56,7 @@ void WinMain::BtnRun_Pressed()
         EndRun();
         Fncts::Dire(Localisation::Dit_Arrete());
     } else {
-        Fncts::BeepNbT(1); // The interface waits for a treatment, which has a button of its own.
+        Fncts::Refuser(Localisation::Dit_Occupe()); // by a treatment, which has a button of its own
     }
 }
 
@@ -79,8 +81,8 @@ Fncts::Reading WinMain::ReadFile(const std::optional<FolderItem>& file)
 void WinMain::RunSuite(Fncts::Reading model)
 {
     const DesktopTextField& field = RadGrpSrc.SelectedIndex() == 0 ? TextFieldMod1 : TextFieldMod2;
-    modelWasCleaned_ = model.cleanedLines > 0;
-    if (modelWasCleaned_) Tell(Fncts::CleaningReport(model, field.Text()));
+    const bool modelIsCleaned = model.cleanedLines > 0;
+    if (modelIsCleaned) Tell(Fncts::CleaningReport(model, field.Text()));
     SceneryTexts texts;
     texts.TextModel = std::move(model.text);
     const bool isEmpty = texts.TextModel.empty();
@@ -89,8 +91,8 @@ void WinMain::RunSuite(Fncts::Reading model)
     if (isEmpty) refusals.back().append(U" (").append(Localisation::Dit_OffreModele()).append(U")");
     const std::optional<FolderItem> spack = Fncts::GetFitemAbsPath(TextFieldSpack.Text(), false);
     Fncts::Reading source = ReadFile(spack);
-    sourceWasCleaned_ = source.cleanedLines > 0;
-    if (sourceWasCleaned_) Tell(Fncts::CleaningReport(source, TextFieldSpack.Text()));
+    const bool sourceIsCleaned = source.cleanedLines > 0;
+    if (sourceIsCleaned) Tell(Fncts::CleaningReport(source, TextFieldSpack.Text()));
     texts.TextSrcSpack = std::move(source.text);
     Accept(texts.TextSrcSpack, Localisation::Dit_SpackRefuse(), refusals);
     String sentence;
@@ -101,7 +103,7 @@ void WinMain::RunSuite(Fncts::Reading model)
         texts.TextDestSpack = ErrorMarker;
         lastReport_ = sentence = Join(std::vector<StringView>(refusals.begin(), refusals.end()), U" ; ");
     }
-    ShowRun(texts, {rowModel, rowSource, rowDest});
+    ShowRun(texts, {rowModel, rowSource, rowDest}, modelIsCleaned, sourceIsCleaned);
     EndRun();
     Fncts::Dire(sentence + FormsOf({{field.Text(), model.form}, {TextFieldSpack.Text(), source.form}}));
 }

@@ -35,27 +35,33 @@ bool WinMain::AsksToLose(StringView message, StringView button)
 
 void WinMain::ActSaveFile()
 {
+    const String done = Save();
+    Fncts::Dire(done.empty() ? Dit_PasEnregistre() : done);
+}
+
+String WinMain::Save()
+{
     // The archive bears the moment at which the user asked, however long the questions take.
     const DateTime moment = DateTime::Now();
     const String text = TextAreaAff.Text();
     // No text, an error text, or one whose header an edit has damaged.
-    if (!BeginsWith(text, TxtDebSpack) && !AsksToLose(Txt_TxtAreaPasScenPack(), Btn_Cont())) return;
+    if (!BeginsWith(text, TxtDebSpack) && !AsksToLose(Txt_TxtAreaPasScenPack(), Btn_Cont())) return {};
     const DesktopTextField& field = PopMenuAff.SelectedRowIndex() == rowModel ? TextFieldMod1 : TextFieldSpack;
     const std::optional<FolderItem> target = Fncts::GetFitemAbsPath(field.Text(), false);
-    if (!target) return Tell(Txt_ImpLocDossSauvFich());
+    if (!target) return Tell(Txt_ImpLocDossSauvFich()), String();
 
     std::optional<FolderItem> archiveFolder;
-    if (!DecideOnArchive(*target, archiveFolder) || !ConfirmsSave(*target) || !ConfirmsLosses(*target)) return;
+    if (!DecideOnArchive(*target, archiveFolder) || !ConfirmsSave(*target) || !ConfirmsLosses(*target)) return {};
     std::optional<String> archived;
-    if (archiveFolder && !Archive(*target, *archiveFolder, moment, archived)) return;
+    if (archiveFolder && !Archive(*target, *archiveFolder, moment, archived)) return {};
     if (const Fncts::Outcome written = Fncts::SauvFichier(*target, text); !written)
-        return Tell(Txt_ErreurEcrNouvScen(), target->NativePath() + U"\n" + written.failure);
+        return Tell(Txt_ErreurEcrNouvScen(), target->NativePath() + U"\n" + written.failure), String();
     asRead_[target->Path()] = Fncts::TextOfBytes(Fncts::DefAppEncod.Encode(text)).fingerprint;
     Document(PopMenuAff.SelectedRowIndex()).SetSaved();
     Fncts::PlayT(Fncts::_x_Msg::Msg());
     String sentence = Filled(Dit_Enregistre(), {Fncts::AbsPath_f(*target, true)});
     if (archived) sentence += U" ; " + Filled(Dit_Archive(), {*archived});
-    Fncts::Dire(sentence);
+    return sentence;
 }
 
 bool WinMain::DecideOnArchive(const FolderItem& target, std::optional<FolderItem>& folder)
@@ -76,9 +82,8 @@ bool WinMain::ConfirmsSave(const FolderItem& target)
 
 bool WinMain::ConfirmsLosses(const FolderItem& target)
 {
-    const int row = PopMenuAff.SelectedRowIndex();
-    const bool wasCleaned = (row != rowSource && modelWasCleaned_) || (row != rowModel && sourceWasCleaned_);
-    if (wasCleaned && !AsksToLose(Txt_SauvTexteAbime(), Btn_SauvFichier())) return false;
+    const bool isCleaned = Document(PopMenuAff.SelectedRowIndex()).Cleaned();
+    if (isCleaned && !AsksToLose(Txt_SauvTexteAbime(), Btn_SauvFichier())) return false;
     const auto known = asRead_.find(target.Path());
     if (known == asRead_.end() || !target.Exists()) return true;
     return Fncts::LireFichier(target).fingerprint == known->second ||

@@ -27,11 +27,12 @@ void WinMain::BtnEnabDis_Pressed()
     const auto [first, text] = TextAreaAff.SelectedLines();
     std::optional<Toggled> toggled =
         ToggleLines(text, {TextAreaAff.SelectionStart() - first, TextAreaAff.SelectionLength()}, mode);
+    if (toggled) {
+        for (TextChange& change : toggled->changes)
+            change.start += first;
+        TextAreaAff.Change(toggled->changes, toggled->selection.start + first, toggled->selection.length);
+    }
     Fncts::Dire(Counted(toggled ? std::ssize(toggled->changes) : 0, Localisation::Nb_Modifiees()));
-    if (!toggled) return;
-    for (TextChange& change : toggled->changes)
-        change.start += first;
-    TextAreaAff.Change(toggled->changes, toggled->selection.start + first, toggled->selection.length);
 }
 
 void WinMain::SelLigneEnt()

@@ -146,7 +146,10 @@ void WinMain::BindHandlers()
     };
     TextAreaAff.CaretMoved = [this] { ShowStatus(); };
     for (TextDocument& document : documents_)
-        document.Changed = [this] { ShowStatus(); };
+        document.Changed = [this] {
+            Fncts::Dire({}); // what was said of the text before
+            ShowStatus();
+        };
     BtnRun.Pressed = [this] { BtnRun_Pressed(); };
     TimerDebRun.Action = [this] { InRun([&] { TimerDebRun_Action(); }); };
     // An error page is content like any other: the header test refuses it.

@@ -138,6 +138,8 @@ private:
     std::optional<std::vector<Pack>> LookAtPacks(std::span<const String> lines, const FolderItem& spack);
 
     // Save.cpp
+    /// What was saved where, in a sentence, or "".
+    String Save();
     /// One question of a save: whether the user goes on.
     [[nodiscard]] bool AsksToContinue(StringView message, StringView button);
     /// The same about what can't be had back: the default is not to go on.
@@ -184,7 +186,8 @@ private:
     static constexpr Int64 linesAbove = 5;
     TextDocument& Document(int row) { return documents_.at(static_cast<std::size_t>(row)); }
     /// Hands the texts of a run over to the documents in these rows, each as one step that can be taken back.
-    void ShowRun(const SceneryTexts& texts, std::initializer_list<int> rows);
+    void ShowRun(const SceneryTexts& texts, std::initializer_list<int> rows, bool modelIsCleaned = false,
+                 bool sourceIsCleaned = false);
     /// Empties documents for good, unless the user wants to keep what was edited there.
     bool Forget(std::initializer_list<int> rows);
     /// Whether the edits in these documents may go; asks only when there are any.
@@ -194,8 +197,6 @@ private:
     /// After a press by the mouse the keyboard is the text's again; a button that the Tab key led to keeps it.
     void ReturnFocus(const DesktopUIControl& button);
 
-    /// The last run's texts lost characters when they were read.
-    bool modelWasCleaned_ = false, sourceWasCleaned_ = false;
     /// What the files held when they were last read or written here.
     std::map<std::filesystem::path, std::optional<std::size_t>> asRead_;
     std::optional<PreferencesFile> prefsFile_;

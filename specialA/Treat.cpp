@@ -105,7 +105,7 @@ void WinSpecA::TreatOriginal()
     if (reading.cleanedLines > 0) {
         Fncts::BeepNbT(1);
         const String lost = Fncts::CleaningReport(reading, FichOrg->NativePath());
-        if (!AsksToLose(lost, Btn_Annuler(), Btn_Cont())) return;
+        if (!AsksToLose(lost, Btn_Annuler(), Btn_Cont())) return Fncts::Dire(Dit_RienEcrit());
     }
     FaireTab();
     const std::optional<Treatment> treated = TreatVisibly(reading.text);

@@ -109,9 +109,20 @@ void DesktopRadioGroup::SetSelectedIndex(int index)
 
 namespace {
 
-/// Closed it lets the wheel pass, so that no row is chosen by accident.
+/// Closed it lets the wheel pass, so that no row is chosen by accident. Its keys for opening are its own, also where a
+/// menu has them.
 class Popup final : public QComboBox {
 protected:
+    bool event(QEvent* event) override
+    {
+        const bool isPress = event->type() == QEvent::KeyPress;
+        if (!isPress && event->type() != QEvent::ShortcutOverride) return QComboBox::event(event);
+        const QKeyCombination keys = static_cast<QKeyEvent*>(event)->keyCombination();
+        if (keys != (Qt::ALT | Qt::Key_Down) && keys != (Qt::ALT | Qt::Key_Up)) return QComboBox::event(event);
+        event->accept();
+        if (isPress) showPopup();
+        return true;
+    }
     void wheelEvent(QWheelEvent* event) override { event->ignore(); }
 };
 

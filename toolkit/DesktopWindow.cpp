@@ -173,6 +173,7 @@ bool DesktopWindow::Shell::event(QEvent* event)
         !windowFlags().testFlag(Qt::WindowMinimizeButtonHint))
         setWindowState(windowState() & ~Qt::WindowMinimized);
     if (event->type() != QEvent::WindowActivate) return handled;
+    if (statusBar) lastWithStatus_ = &owner_;
     if (owner_.Activated) owner_.Activated();
     // The platform activates a window for a press on it, even for one that came just before the dialog was seen.
     HandKeyboardOn();
@@ -245,8 +246,7 @@ void DesktopWindow::Say(StringView sentence)
     if (Probe* const probe = Probe::Current()) probe->Said.emplace_back(sentence);
     DesktopWindow* where = nullptr;
     for (DesktopWindow* const window : All())
-        if (window->shell_->statusBar && window->Visible() && (!where || window->shell_->isActiveWindow()))
-            where = window;
+        if (window->shell_->statusBar && window->Visible() && (!where || window == lastWithStatus_)) where = window;
     if (where) where->shell_->statusBar->Say(ToQt(sentence));
 }
 

@@ -114,6 +114,8 @@ private:
     static DesktopWindow* Front();
 
     static inline std::vector<DesktopWindow*> all_;
+    /// The one that the user worked in last, if it lives: a dialog that has just closed leaves none active.
+    static inline const DesktopWindow* lastWithStatus_ = nullptr;
     int width_, height_;
     bool opened_ = false;
     std::vector<DesktopUIControl*> controls_;

@@ -16,6 +16,8 @@ constexpr char16_t firstCarrier = 0xD800;
 
 } // namespace
 
+QChar ReturnUnit(bool beforeLineEnd) { return beforeLineEnd ? endingReturn : loneReturn; }
+
 bool IsReturn(QChar unit) { return unit == endingReturn || unit == loneReturn; }
 
 QString ToDocument(StringView text)
@@ -24,7 +26,7 @@ QString ToDocument(StringView text)
     for (qsizetype i = 0; i < units.size(); ++i) {
         QChar& unit = units[i];
         if (unit == u'\r')
-            unit = QChar(i + 1 < units.size() && units[i + 1] == u'\n' ? endingReturn : loneReturn);
+            unit = ReturnUnit(i + 1 < units.size() && units[i + 1] == u'\n');
         else if (const auto* at = std::ranges::find(carried, unit.unicode()); at != std::end(carried))
             unit = QChar(static_cast<char16_t>(firstCarrier + (at - carried)));
     }

@@ -17,6 +17,9 @@ QString ToDocument(StringView text);
 /// Whether a unit of a document stands for a CR.
 bool IsReturn(QChar unit);
 
+/// What stands for a CR, before a LF or elsewhere.
+QChar ReturnUnit(bool beforeLineEnd);
+
 /// The text that a document, or a selection of it, stands for.
 String FromDocument(QStringView units);
 

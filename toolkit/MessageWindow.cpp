@@ -104,9 +104,9 @@ void FitToScreen(const QDialog& dialog, QTextEdit& text, int heightOfTheRest)
         fits = height <= mostHeight;
         if (fits) size.setHeight(height);
     }
+    // More than a sentence can be reached with the Tab key, to be moved with the arrows or copied.
+    text.setFocusPolicy(fits && document.blockCount() == 1 ? Qt::ClickFocus : Qt::StrongFocus);
     text.setVerticalScrollBarPolicy(fits ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAlwaysOn);
-    // What scrolls can be reached with the Tab key, and is moved with the arrows.
-    text.setFocusPolicy(fits ? Qt::ClickFocus : Qt::StrongFocus);
     const int barWidth = fits ? 0 : text.verticalScrollBar()->sizeHint().width();
     text.setFixedSize(size.width() + barWidth, size.height());
 }

@@ -65,6 +65,8 @@ public:
     bool Travel(QTextCursor& cursor, bool forth);
     void SetUnmodified();
     void SetSaved();
+    void SetCleaned(bool cleaned) { cleaned_[availableUndoSteps()] = cleaned; }
+    [[nodiscard]] bool Cleaned() const { return std::prev(cleaned_.upper_bound(availableUndoSteps()))->second; }
 
     void Wrap(QTextOption::WrapMode mode);
 
@@ -121,9 +123,11 @@ private:
     }
     [[nodiscard]] std::optional<ColorGroup> WholeColor(StringView text) const;
     static void Paint(QTextCursor& cursor, std::vector<Repaint>& repaints);
+    /// Where a CR of these lines isn't drawn as what it is by now.
+    [[nodiscard]] std::vector<int> WrongReturns(int from, int to) const;
     void Collect(int from, int to, std::vector<Repaint>& repaints);
     void Collect(const QTextBlock& block, std::vector<Repaint>& repaints);
-    void ForgetStatesToCome() { states_.erase(states_.upper_bound(state_), states_.end()); }
+    void ForgetStatesToCome();
 
     TextColors colors_;
     std::shared_ptr<Tally> tally_ = std::make_shared<Tally>();
@@ -136,4 +140,6 @@ private:
     /// The number of undo steps of the present state, and what is known of some states.
     int state_ = 0;
     std::map<int, State> states_;
+    /// By the states in which a text came in.
+    std::map<int, bool> cleaned_ = {{0, false}};
 };

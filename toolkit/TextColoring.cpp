@@ -141,13 +141,34 @@ void TextDocument::Body::Recolor()
     const ProgramEdit edit(*this);
     std::vector<Repaint> repaints;
     Collect(touchedFrom_, touchedTo_, repaints);
+    const std::vector<int> wrongReturns = WrongReturns(touchedFrom_, touchedTo_);
     touchedFrom_ = -1;
     typedFrom_ = typedTo_ = 0;
-    if (repaints.empty()) return;
+    if (repaints.empty() && wrongReturns.empty()) return;
     QTextCursor cursor(this);
     cursor.joinPreviousEditBlock();
     Paint(cursor, repaints);
+    for (const int at : wrongReturns) {
+        // The new one goes in behind the old one, so that a caret beside it stays there.
+        cursor.setPosition(at + 1);
+        cursor.insertText(ReturnUnit(characterAt(at + 1) == QChar::ParagraphSeparator && at + 1 < End()),
+                          cursor.charFormat());
+        cursor.setPosition(at);
+        cursor.deleteChar();
+    }
     cursor.endEditBlock();
+}
+
+std::vector<int> TextDocument::Body::WrongReturns(int from, int to) const
+{
+    std::vector<int> found;
+    for (QTextBlock block = findBlock(from); block.isValid() && block.position() <= to; block = block.next()) {
+        const QString units = block.text();
+        for (int at = 0; at < units.size(); ++at)
+            if (IsReturn(units[at]) && units[at] != ReturnUnit(at + 1 == units.size() && block.next().isValid()))
+                found.push_back(block.position() + at);
+    }
+    return found;
 }
 
 void TextDocument::Body::Paint(QTextCursor& cursor, std::vector<Repaint>& repaints)

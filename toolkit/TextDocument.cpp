@@ -44,7 +44,13 @@ Int64 TextDocument::MarkedLines() const { return body_->Counts().marked; }
 
 void TextDocument::SetText(StringView text, std::span<const Int64> marks) { body_->Fill(text, marks); }
 
-void TextDocument::ReplaceText(StringView text, std::span<const Int64> marks) { body_->Replace(text, marks); }
+void TextDocument::ReplaceText(StringView text, std::span<const Int64> marks, bool cleaned)
+{
+    body_->Replace(text, marks);
+    body_->SetCleaned(cleaned);
+}
+
+bool TextDocument::Cleaned() const { return body_->Cleaned(); }
 
 bool TextDocument::Modified() const { return body_->isModified(); }
 
@@ -105,6 +111,7 @@ void TextDocument::Body::Fill(StringView text, std::span<const Int64> marks)
     clear();
     pairs_ = false;
     states_.clear();
+    cleaned_ = {{0, false}};
     setUndoRedoEnabled(false);
     Wrap(WrapModeFor(text));
     QTextCursor cursor(this);
@@ -132,6 +139,7 @@ void TextDocument::Body::Replace(StringView text, std::span<const Int64> marks)
     if (behind == 0 && first == common) --first;
 
     if (availableUndoSteps() > longestHistory) {
+        cleaned_ = {{0, Cleaned()}};
         setUndoRedoEnabled(false);
         setUndoRedoEnabled(true);
         states_.clear();
@@ -203,6 +211,12 @@ void TextDocument::Body::SetUnmodified()
 {
     states_[availableUndoSteps()].unmodified = true;
     setModified(false);
+}
+
+void TextDocument::Body::ForgetStatesToCome()
+{
+    states_.erase(states_.upper_bound(state_), states_.end());
+    cleaned_.erase(cleaned_.upper_bound(state_), cleaned_.end());
 }
 
 void TextDocument::Body::SetSaved()

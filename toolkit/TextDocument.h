@@ -49,7 +49,9 @@ public:
     void SetText(StringView text, std::span<const Int64> marks = {});
     /// The same as one step that the user can take back; none when nothing changes. Only the lines from the first to
     /// the last that differ are replaced. What was there before goes from the history when it has become too long.
-    void ReplaceText(StringView text, std::span<const Int64> marks = {});
+    void ReplaceText(StringView text, std::span<const Int64> marks = {}, bool cleaned = false);
+    /// Whether the text that is there, or that it was edited from, came in as a cleaned one.
+    [[nodiscard]] bool Cleaned() const;
 
     /// Whether the text is another than at each `SetUnmodified` that the history leads to, and at the last `SetSaved`.
     /// `SetText` is a `SetUnmodified`.

@@ -29,13 +29,14 @@ public:
     const QTextDocumentFragment fragment;
 };
 
-/// What a key puts into the text, or "" for a key that does something else.
+/// What a key puts into the text, or "" for a key that does something else. With Alt a letter comes here only where
+/// that makes it another character (`StrayKeys`).
 QString TextOf(const QKeyEvent& event)
 {
     const Qt::KeyboardModifiers held = event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
     const bool line = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
     if (line) return held == Qt::NoModifier ? QStringLiteral("\n") : QString();
-    const bool ofAKey = held == Qt::NoModifier || held == Qt::GroupSwitchModifier ||
+    const bool ofAKey = held == Qt::NoModifier || held == Qt::GroupSwitchModifier || held == Qt::AltModifier ||
                         held == (Qt::ControlModifier | Qt::AltModifier); // AltGr on some platforms
     const QString text = event.text();
     return ofAKey && !text.isEmpty() && text[0] >= u' ' && text[0] != QChar(0x7F) ? text : QString();
@@ -185,15 +186,16 @@ void TextEditor::keyPressEvent(QKeyEvent* event)
     if (event->key() == Qt::Key_Backspace && held == Qt::NoModifier) return Strike(Stroke::EraseBack);
     if (event->matches(QKeySequence::Delete)) return Strike(Stroke::Erase);
     if (const QString text = TextOf(*event); !text.isEmpty()) return Strike(Stroke::Type, text);
-    // Alt with a letter is for the menus, and never types.
-    const bool letter = event->modifiers() == Qt::AltModifier && !event->text().isEmpty();
-    letter ? event->ignore() : QPlainTextEdit::keyPressEvent(event);
+    QPlainTextEdit::keyPressEvent(event);
 }
 
 void TextEditor::inputMethodEvent(QInputMethodEvent* event)
 {
-    if (isReadOnly() || event->commitString().isEmpty() || event->replacementLength() != 0)
-        return QPlainTextEdit::inputMethodEvent(event);
+    const bool composes =
+        !isReadOnly() && event->replacementLength() == 0 && !(event->preeditString() + event->commitString()).isEmpty();
+    // What is composed takes the place of a selection in one step with its commit, which goes on with this stroke.
+    if (composes && textCursor().hasSelection()) Strike(Stroke::Type);
+    if (!composes || event->commitString().isEmpty()) return QPlainTextEdit::inputMethodEvent(event);
     QInputMethodEvent composed(event->preeditString(), event->attributes());
     QPlainTextEdit::inputMethodEvent(&composed);
     Strike(Stroke::Type, event->commitString());
@@ -202,7 +204,11 @@ void TextEditor::inputMethodEvent(QInputMethodEvent* event)
 void TextEditor::wheelEvent(QWheelEvent* event)
 {
     if (event->modifiers() != Qt::ControlModifier) return QPlainTextEdit::wheelEvent(event);
-    if (event->angleDelta().y() != 0) Zoom(event->angleDelta().y() > 0 ? 1 : -1);
+    // A touchpad tells many small parts of a step.
+    wheel_ += event->angleDelta().y();
+    const int steps = wheel_ / QWheelEvent::DefaultDeltasPerStep;
+    wheel_ -= steps * QWheelEvent::DefaultDeltasPerStep;
+    if (steps != 0) Zoom(steps);
 }
 
 void TextEditor::contextMenuEvent(QContextMenuEvent* event)
@@ -225,7 +231,8 @@ void TextEditor::dropEvent(QDropEvent* event)
 
 QMimeData* TextEditor::createMimeDataFromSelection() const
 {
-    auto* selected = new MarkedText(textCursor());
+    // A fragment takes ten times as long as the text.
+    auto* selected = body_->Counts().marked > 0 ? new MarkedText(textCursor()) : new QMimeData;
     const QString text = ToQt(FromDocument(textCursor().selectedText()));
     selected->setText(text);
     selected->setData(exactFormat, text.toUtf8());

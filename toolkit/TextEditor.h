@@ -58,6 +58,6 @@ private:
         bool operator==(const Struck&) const = default;
     };
     Struck struck_;
-    int zoom_ = 0;
+    int zoom_ = 0, wheel_ = 0;
     double size_ = 0;
 };

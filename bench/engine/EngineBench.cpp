@@ -39,8 +39,9 @@ void Reorder(benchmark::State& state, Shape shape)
     Sample sample = MakeSample(shape, SizeOf(state));
     SceneryTexts texts{std::move(sample.model), std::move(sample.source), {}, {}, {}};
     Measure(state, [&] {
-        texts.InitVars(false, false);
+        texts.TextDestSpack.clear();
         texts.CoulModSpack.clear();
+        texts.CoulDestSpack.clear();
         CreerSpack(texts, dossier,
                    [](const String& message, const String&) { benchmark::DoNotOptimize(message.data()); });
     });

@@ -38,6 +38,15 @@ Sie können im Textbereich einen Teil des Textes auswählen und auf „Ein-/Auss
  
 Klicken Sie auf „Speichern“, um den Text des Textbereichs in der Datei zu speichern, die im Aufklappmenü gewählt ist. Bis Sie auf diese Schaltfläche klicken, wird an Ihrer Datei nichts geändert.</translation>
     </message>
+    <message id="Localisation.Infos_Menu">
+        <source>Le menu “Texte” ordonne le texte à la main : il déplace les lignes sélectionnées (Alt+Haut, Alt+Bas), les double (Ctrl+D) ou les supprime (Ctrl+Maj+K), va à la ligne colorée suivante ou précédente (F8, Maj+F8), au texte cherché suivant ou précédent (F3, Maj+F3), lance (F5), montre le dernier rapport, ajoute les dossiers absents du texte, désactive les lignes sans dossier et propose un modèle. Ctrl+Z reprend chaque modification, Ctrl+Y la rétablit.
+ 
+La ligne sous la fenêtre dit où est le curseur et ce que la vue contient, puis ce qui vient d'être fait, ou pourquoi une action est refusée.</source>
+        <extracomment>The end of the help text; the menu is named as it is translated below.</extracomment>
+        <translation>Das Menü „Text“ ordnet den Text von Hand: Es verschiebt die ausgewählten Zeilen (Alt+Auf, Alt+Ab), verdoppelt (Strg+D) oder löscht sie (Strg+Umschalt+K), geht zur nächsten oder vorigen farbigen Zeile (F8, Umschalt+F8) und zum nächsten oder vorigen Treffer der Suche (F3, Umschalt+F3), erzeugt (F5), zeigt den letzten Bericht, fügt die Ordner hinzu, die im Text fehlen, schaltet Zeilen ohne Ordner aus und schlägt ein Modell vor. Strg+Z nimmt jede Änderung zurück, Strg+Y stellt sie wieder her.
+ 
+Die Zeile unter dem Fenster sagt, wo die Schreibmarke steht und was die Ansicht enthält, dann, was gerade getan wurde oder warum eine Aktion abgelehnt wird.</translation>
+    </message>
     <message id="Localisation.RdButtSourceA">
         <source>Fichier modèle</source>
         <extracomment>Radio button, room for 104 pixels: about 14 characters.</extracomment>
@@ -274,7 +283,7 @@ Packs nachher</translation>
     </message>
     <message id="Localisation.Dit_PasEnregistre">
         <source>Rien n'a été enregistré</source>
-        <translation>Nichts wurde gesichert</translation>
+        <translation>Nichts wurde gespeichert</translation>
     </message>
     <message id="Localisation.Dit_Introuvable">
         <source>“¿%” introuvable</source>
@@ -362,7 +371,7 @@ Packs nachher</translation>
     </message>
     <message id="Localisation.Txt_ChoisirModele">
         <source>Enregistrer le modèle proposé sous :</source>
-        <translation>Vorgeschlagenes Modell sichern unter:</translation>
+        <translation>Vorgeschlagenes Modell speichern unter:</translation>
     </message>
     <message id="Localisation.Dit_PropArretee">
         <source>Arrêté : aucun modèle n'a été proposé</source>
@@ -378,7 +387,7 @@ Packs nachher</translation>
     </message>
     <message id="Localisation.Txt_PropFait">
         <source>Le modèle est proposé, mais pas encore enregistré.</source>
-        <translation>Das Modell ist vorgeschlagen, aber noch nicht gesichert.</translation>
+        <translation>Das Modell ist vorgeschlagen, aber noch nicht gespeichert.</translation>
     </message>
     <message id="Localisation.Txt_PropAeroports">
         <source>Aéroports : ¿%</source>
@@ -470,7 +479,7 @@ Rückgabewert: 0 alles stimmt überein, 1 etwas wurde gemeldet,
     </message>
     <message id="Localisation.Txt_TexteModifie">
         <source>Le texte a été modifié et n'est pas enregistré. Continuer sans enregistrer ?</source>
-        <translation>Der Text wurde geändert und nicht gesichert. Ohne Sichern fortfahren?</translation>
+        <translation>Der Text wurde geändert und nicht gespeichert. Ohne Speichern fortfahren?</translation>
     </message>
     <message id="Localisation.Txt_TxtAreaPasScenPack">
         <source>Le TextArea ne contient pas de scenery_packs.</source>
@@ -683,12 +692,12 @@ Rückgabewert: 0 alles stimmt überein, 1 etwas wurde gemeldet,
     <message id="Localisation.Txt_SauvTexteAbime">
         <source>Des caractères de ce texte ont été retirés à la lecture, parce que son fichier contient des octets qui ne sont pas de l'UTF-8. L'enregistrer quand même ?</source>
         <extracomment>Question before a save.</extracomment>
-        <translation>Aus diesem Text wurden beim Lesen Zeichen entfernt, weil seine Datei Bytes enthält, die kein UTF-8 sind. Trotzdem sichern?</translation>
+        <translation>Aus diesem Text wurden beim Lesen Zeichen entfernt, weil seine Datei Bytes enthält, die kein UTF-8 sind. Trotzdem speichern?</translation>
     </message>
     <message id="Localisation.Txt_FichierChange">
         <source>“¿%” a changé sur le disque depuis qu'il a été lu. L'enregistrement fera perdre ces changements.</source>
         <extracomment>Question before a save. Placeholder: the file's path.</extracomment>
-        <translation>„¿%“ hat sich auf der Platte geändert, seit es gelesen wurde. Durch das Sichern gehen diese Änderungen verloren.</translation>
+        <translation>„¿%“ hat sich auf der Platte geändert, seit es gelesen wurde. Durch das Speichern gehen diese Änderungen verloren.</translation>
     </message>
     <message id="Localisation.Txt_FormeTexte">
         <source>“¿%” n'est pas un simple texte UTF-8 aux fins de ligne LF : ¿%.</source>

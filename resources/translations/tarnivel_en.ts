@@ -38,6 +38,15 @@ You can select a part of the text in the text area and click the “Enable / Dis
  
 Click the “Save file” button to save the text of the text area to the file selected in the pop-up menu. Nothing changes in your file until you click this button.</translation>
     </message>
+    <message id="Localisation.Infos_Menu">
+        <source>Le menu “Texte” ordonne le texte à la main : il déplace les lignes sélectionnées (Alt+Haut, Alt+Bas), les double (Ctrl+D) ou les supprime (Ctrl+Maj+K), va à la ligne colorée suivante ou précédente (F8, Maj+F8), au texte cherché suivant ou précédent (F3, Maj+F3), lance (F5), montre le dernier rapport, ajoute les dossiers absents du texte, désactive les lignes sans dossier et propose un modèle. Ctrl+Z reprend chaque modification, Ctrl+Y la rétablit.
+ 
+La ligne sous la fenêtre dit où est le curseur et ce que la vue contient, puis ce qui vient d'être fait, ou pourquoi une action est refusée.</source>
+        <extracomment>The end of the help text; the menu is named as it is translated below.</extracomment>
+        <translation>The menu “Text” puts the text in order by hand: it moves the selected lines (Alt+Up, Alt+Down), doubles them (Ctrl+D) or deletes them (Ctrl+Shift+K), goes to the next or previous coloured line (F8, Shift+F8) and to the next or previous match of the search (F3, Shift+F3), generates (F5), shows the last report, adds the folders that the text lacks, disables lines without a folder and proposes a model. Ctrl+Z takes each change back, Ctrl+Y makes it again.
+ 
+The line below the window tells where the caret is and what the view holds, then what was just done, or why an action is refused.</translation>
+    </message>
     <message id="Localisation.RdButtSourceA">
         <source>Fichier modèle</source>
         <extracomment>Radio button, room for 104 pixels: about 14 characters.</extracomment>

@@ -38,6 +38,15 @@ Puede seleccionar una parte del texto en el área de texto y pulsar el botón �
  
 Pulse el botón “Guardar” para guardar el texto del área de texto en el archivo seleccionado en el menú emergente. Nada cambia en su archivo hasta que pulse este botón.</translation>
     </message>
+    <message id="Localisation.Infos_Menu">
+        <source>Le menu “Texte” ordonne le texte à la main : il déplace les lignes sélectionnées (Alt+Haut, Alt+Bas), les double (Ctrl+D) ou les supprime (Ctrl+Maj+K), va à la ligne colorée suivante ou précédente (F8, Maj+F8), au texte cherché suivant ou précédent (F3, Maj+F3), lance (F5), montre le dernier rapport, ajoute les dossiers absents du texte, désactive les lignes sans dossier et propose un modèle. Ctrl+Z reprend chaque modification, Ctrl+Y la rétablit.
+ 
+La ligne sous la fenêtre dit où est le curseur et ce que la vue contient, puis ce qui vient d'être fait, ou pourquoi une action est refusée.</source>
+        <extracomment>The end of the help text; the menu is named as it is translated below.</extracomment>
+        <translation>El menú “Texto” ordena el texto a mano: mueve las líneas seleccionadas (Alt+Arriba, Alt+Abajo), las duplica (Ctrl+D) o las elimina (Ctrl+Mayús+K), va a la línea de color siguiente o anterior (F8, Mayús+F8) y al texto buscado siguiente o anterior (F3, Mayús+F3), genera (F5), muestra el último informe, añade las carpetas que faltan en el texto, desactiva las líneas sin carpeta y propone un modelo. Ctrl+Z deshace cada cambio, Ctrl+Y lo rehace.
+ 
+La línea bajo la ventana dice dónde está el cursor y qué contiene la vista, y luego lo que se acaba de hacer o por qué se rechaza una acción.</translation>
+    </message>
     <message id="Localisation.RdButtSourceA">
         <source>Fichier modèle</source>
         <extracomment>Radio button, room for 104 pixels: about 14 characters.</extracomment>

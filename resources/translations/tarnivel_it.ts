@@ -38,6 +38,15 @@ Si può selezionare una parte del testo nell'area di testo e fare clic sul pulsa
  
 Fare clic sul pulsante “Salva file” per salvare il testo dell'area di testo nel file selezionato nel menu a comparsa. Il file non viene modificato finché non si fa clic su questo pulsante.</translation>
     </message>
+    <message id="Localisation.Infos_Menu">
+        <source>Le menu “Texte” ordonne le texte à la main : il déplace les lignes sélectionnées (Alt+Haut, Alt+Bas), les double (Ctrl+D) ou les supprime (Ctrl+Maj+K), va à la ligne colorée suivante ou précédente (F8, Maj+F8), au texte cherché suivant ou précédent (F3, Maj+F3), lance (F5), montre le dernier rapport, ajoute les dossiers absents du texte, désactive les lignes sans dossier et propose un modèle. Ctrl+Z reprend chaque modification, Ctrl+Y la rétablit.
+ 
+La ligne sous la fenêtre dit où est le curseur et ce que la vue contient, puis ce qui vient d'être fait, ou pourquoi une action est refusée.</source>
+        <extracomment>The end of the help text; the menu is named as it is translated below.</extracomment>
+        <translation>Il menu “Testo” ordina il testo a mano: sposta le righe selezionate (Alt+Su, Alt+Giù), le duplica (Ctrl+D) o le elimina (Ctrl+Maiusc+K), va alla riga colorata successiva o precedente (F8, Maiusc+F8) e al testo cercato successivo o precedente (F3, Maiusc+F3), genera (F5), mostra l'ultimo rapporto, aggiunge le cartelle che mancano nel testo, disattiva le righe senza cartella e propone un modello. Ctrl+Z annulla ogni modifica, Ctrl+Y la ripristina.
+ 
+La riga sotto la finestra dice dove si trova il cursore e che cosa contiene la vista, poi che cosa è stato appena fatto o perché un'azione è rifiutata.</translation>
+    </message>
     <message id="Localisation.RdButtSourceA">
         <source>Fichier modèle</source>
         <extracomment>Radio button, room for 104 pixels: about 14 characters.</extracomment>

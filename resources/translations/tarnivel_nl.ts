@@ -38,6 +38,15 @@ U kunt in het tekstvak een deel van de tekst selecteren en op de knop “In-/uit
  
 Klik op de knop “Opslaan” om de tekst in het tekstvak op te slaan in het bestand dat in het pop-upmenu is gekozen. Er verandert niets in uw bestand totdat u op deze knop klikt.</translation>
     </message>
+    <message id="Localisation.Infos_Menu">
+        <source>Le menu “Texte” ordonne le texte à la main : il déplace les lignes sélectionnées (Alt+Haut, Alt+Bas), les double (Ctrl+D) ou les supprime (Ctrl+Maj+K), va à la ligne colorée suivante ou précédente (F8, Maj+F8), au texte cherché suivant ou précédent (F3, Maj+F3), lance (F5), montre le dernier rapport, ajoute les dossiers absents du texte, désactive les lignes sans dossier et propose un modèle. Ctrl+Z reprend chaque modification, Ctrl+Y la rétablit.
+ 
+La ligne sous la fenêtre dit où est le curseur et ce que la vue contient, puis ce qui vient d'être fait, ou pourquoi une action est refusée.</source>
+        <extracomment>The end of the help text; the menu is named as it is translated below.</extracomment>
+        <translation>Met het menu “Tekst” ordent u de tekst met de hand: het verplaatst de geselecteerde regels (Alt+Omhoog, Alt+Omlaag), verdubbelt ze (Ctrl+D) of verwijdert ze (Ctrl+Shift+K), gaat naar de volgende of vorige gekleurde regel (F8, Shift+F8) en naar de volgende of vorige gezochte tekst (F3, Shift+F3), genereert (F5), toont het laatste rapport, voegt de mappen toe die in de tekst ontbreken, schakelt regels zonder map uit en stelt een model voor. Ctrl+Z maakt elke wijziging ongedaan, Ctrl+Y voert ze opnieuw uit.
+ 
+De regel onder het venster zegt waar de cursor staat en wat de weergave bevat, daarna wat er zojuist is gedaan of waarom een actie wordt geweigerd.</translation>
+    </message>
     <message id="Localisation.RdButtSourceA">
         <source>Fichier modèle</source>
         <extracomment>Radio button, room for 104 pixels: about 14 characters.</extracomment>
@@ -274,7 +283,7 @@ Packs na</translation>
     </message>
     <message id="Localisation.Dit_PasEnregistre">
         <source>Rien n'a été enregistré</source>
-        <translation>Er is niets bewaard</translation>
+        <translation>Er is niets opgeslagen</translation>
     </message>
     <message id="Localisation.Dit_Introuvable">
         <source>“¿%” introuvable</source>
@@ -362,7 +371,7 @@ Packs na</translation>
     </message>
     <message id="Localisation.Txt_ChoisirModele">
         <source>Enregistrer le modèle proposé sous :</source>
-        <translation>Het voorgestelde model bewaren als:</translation>
+        <translation>Het voorgestelde model opslaan als:</translation>
     </message>
     <message id="Localisation.Dit_PropArretee">
         <source>Arrêté : aucun modèle n'a été proposé</source>
@@ -378,7 +387,7 @@ Packs na</translation>
     </message>
     <message id="Localisation.Txt_PropFait">
         <source>Le modèle est proposé, mais pas encore enregistré.</source>
-        <translation>Het model is voorgesteld, maar nog niet bewaard.</translation>
+        <translation>Het model is voorgesteld, maar nog niet opgeslagen.</translation>
     </message>
     <message id="Localisation.Txt_PropAeroports">
         <source>Aéroports : ¿%</source>
@@ -470,7 +479,7 @@ Afsluitstatus: 0 alles stemt overeen, 1 er is iets gemeld,
     </message>
     <message id="Localisation.Txt_TexteModifie">
         <source>Le texte a été modifié et n'est pas enregistré. Continuer sans enregistrer ?</source>
-        <translation>De tekst is gewijzigd en niet bewaard. Doorgaan zonder te bewaren?</translation>
+        <translation>De tekst is gewijzigd en niet opgeslagen. Doorgaan zonder op te slaan?</translation>
     </message>
     <message id="Localisation.Txt_TxtAreaPasScenPack">
         <source>Le TextArea ne contient pas de scenery_packs.</source>

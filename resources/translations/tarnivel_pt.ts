@@ -38,6 +38,15 @@ Pode selecionar uma parte do texto na área de texto e clicar no botão “Ativa
  
 Clique no botão “Guardar” para guardar o texto da área de texto no ficheiro selecionado na lista. Nada muda no seu ficheiro até clicar neste botão.</translation>
     </message>
+    <message id="Localisation.Infos_Menu">
+        <source>Le menu “Texte” ordonne le texte à la main : il déplace les lignes sélectionnées (Alt+Haut, Alt+Bas), les double (Ctrl+D) ou les supprime (Ctrl+Maj+K), va à la ligne colorée suivante ou précédente (F8, Maj+F8), au texte cherché suivant ou précédent (F3, Maj+F3), lance (F5), montre le dernier rapport, ajoute les dossiers absents du texte, désactive les lignes sans dossier et propose un modèle. Ctrl+Z reprend chaque modification, Ctrl+Y la rétablit.
+ 
+La ligne sous la fenêtre dit où est le curseur et ce que la vue contient, puis ce qui vient d'être fait, ou pourquoi une action est refusée.</source>
+        <extracomment>The end of the help text; the menu is named as it is translated below.</extracomment>
+        <translation>O menu “Texto” ordena o texto à mão: move as linhas selecionadas (Alt+Cima, Alt+Baixo), duplica-as (Ctrl+D) ou elimina-as (Ctrl+Shift+K), vai para a linha a cores seguinte ou anterior (F8, Shift+F8) e para o texto procurado seguinte ou anterior (F3, Shift+F3), gera (F5), mostra o último relatório, acrescenta as pastas que faltam no texto, desativa as linhas sem pasta e propõe um modelo. Ctrl+Z anula cada alteração, Ctrl+Y repete-a.
+ 
+A linha sob a janela diz onde está o cursor e o que a vista contém, depois o que acabou de ser feito ou por que uma ação é recusada.</translation>
+    </message>
     <message id="Localisation.RdButtSourceA">
         <source>Fichier modèle</source>
         <extracomment>Radio button, room for 104 pixels: about 14 characters.</extracomment>

@@ -61,6 +61,11 @@ def check_views(program, area, text):
     program.keys("Next", "s", "Home")
     click(program, program.find("combo box"), button=5)
     program.wait_for("the view that was picked", lambda: program.all("text", "Spack Avant"))
+    typed = program.text(other)
+    program.keys(*["Tab"] * 4, "alt+Down")
+    program.wait_for("the open popup", lambda: program.all("list item", "Spack Après"))
+    program.keys("Escape", *["shift+Tab"] * 4)
+    program.wait_for("the text as it was", lambda: has(other, "focused") and program.text(other) == typed)
     area = pick(program, "Spack Après")
     assert program.text(area) == text and program.selection(area) == caret
     return area

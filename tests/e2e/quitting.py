@@ -1,5 +1,6 @@
 """Every way to quit, with the window "Spécial A" open, and what doesn't quit while a run or a dialog is under way."""
 
+import re
 import signal
 import subprocess
 import sys
@@ -121,13 +122,23 @@ def message(program, server):
     files.preferences.parent.with_name("away").rename(files.preferences.parent)
 
 
+def treatment(program, _server):
+    program.front = "Spécial A"
+    button = program.find("push button", "Traiter")
+    program.act(button)
+    program.wait_for("a long treatment", lambda: button.get_name() == "Arrêter")
+
+
 SIGNALS = (signal.SIGTERM, signal.SIGHUP, signal.SIGINT)
 
 
 def check_signals(command, files):
     """A signal ends whatever is under way, as if cancelled, and the settings are kept."""
     before = files.source_file.read_bytes()
-    for number, make_busy in enumerate((fetch, report, question, chooser, preferences, help_window, message)):
+    files.archives.with_name("Journées.txt").write_text("printemps calme " * 2_000_000)
+    rows = re.sub("(TabSpecA.*)", r"\1" + "\tété" * 100, files.preferences.read_text("utf-8"))
+    files.preferences.write_text(rows, "utf-8")
+    for number, make_busy in enumerate((fetch, report, question, chooser, preferences, help_window, treatment, message)):
         server = Server(files.model_file.read_bytes())
         server.files = files
         with Program([command], private_environment(files.home)) as program:
@@ -142,7 +153,7 @@ def check_signals(command, files):
         kept = files.preferences.read_text("utf-8")
         assert (f"TabSpecAdest1 :@: busy{number}\t" in kept) == (make_busy != message), (make_busy, kept)
         assert "Afficher Bouton Special A :@: True" in kept, "the preferences were cancelled"
-        assert files.source_file.read_bytes() == before
+        assert files.source_file.read_bytes() == before and not [*files.archives.parent.glob("busy*")]
         server.ended.set()
         server.shutdown()
 

@@ -124,7 +124,7 @@ def main(command):
             found = check_cover(program, (left + width // 2, top - height // 2))
             assert found == [f"{REPORT}\n • 2 x “Alpha”\n • 1 x “beta”\n • 1 x “beta”\n • 2 x “Alpha”"], found
             expected = "one,  and one é\n", "two, B and two é\n"
-            program.wait_for("both files", lambda: (files.home / "second.txt").exists())
+            program.find("notification", f"Écrit : first.txt, second.txt, dans {files.home}.")
             assert tuple((files.home / name).read_text("utf-8") for name in ("first.txt", "second.txt")) == expected
             assert original.read_text("utf-8") == "ALPHA, beta and alpha é\n"
             program.press("Quitter")

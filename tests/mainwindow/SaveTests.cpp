@@ -55,6 +55,7 @@ protected:
         EXPECT_EQ(folder.Content(target), content);
         EXPECT_EQ(Archives(), std::vector<std::string>(archives, "old"));
         const bool written = asked.back() == sure && content != "old";
+        EXPECT_EQ(probe.Said.back() == U"Rien n'a été enregistré", !written);
         EXPECT_EQ(probe.Sounds, written ? std::vector<String>{U"Msg.wav"} : std::vector<String>{});
     }
 
@@ -218,7 +219,8 @@ TEST_F(Saving, ALinkStaysOneAndPermissionsStay)
     Save({sure}, fresh, 1);
     EXPECT_TRUE(fs::is_symlink(target));
     EXPECT_EQ(folder.Content(real), fresh);
-    EXPECT_EQ(fs::status(real).permissions(), fs::perms::owner_all);
+    for (const fs::path& file : {real, fs::directory_iterator(archiveFolder)->path()})
+        EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_all) << file;
 }
 
 } // namespace

@@ -131,6 +131,19 @@ TEST_F(SpecialA, WritesWhatTheAnswersAllow)
     EXPECT_EQ(Said(), U"Écrit : full, alias, dans " + FolderItem(in).NativePath() + U".");
 }
 
+TEST_F(SpecialA, AnOriginalThatLostCharactersIsAskedAbout)
+{
+    Open(folder.File("original.txt", "x \xE9 a"));
+    window->PushButtTrait_Pressed();
+    EXPECT_EQ(Said(), U"Rien n'a été écrit.");
+    const String asked = Asked().back();
+    EXPECT_TRUE(asked.ends_with(U"La première est la ligne 1 :\nx \uFFFD a[Annuler][Continuer]"));
+    probe.Answers = {3};
+    window->PushButtTrait_Pressed();
+    EXPECT_EQ(Asked(), (std::vector{asked, found}));
+    EXPECT_EQ(folder.Content("one"), "x  1");
+}
+
 TEST_F(SpecialA, StaysAliveInALongTreatment)
 {
     std::string text;

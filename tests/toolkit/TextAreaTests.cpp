@@ -98,6 +98,18 @@ TEST_F(Documents, CarriageReturnsAreDrawnAsWhatTheyAre)
     EXPECT_NE(drawn(U"a\u206fb"), drawn(U"ab"));
     // A line of a million letters is laid out at once.
     EXPECT_NE(drawn(String(1'000'000, U'x')), drawn(U"x"));
+
+    const QImage broken = drawn(U"I\n1000"), ended = drawn(U"I\r\n1000");
+    area.Select(3, 0);
+    Press(Qt::Key_Backspace);
+    EXPECT_EQ(std::pair(area.Text(), area.SelectionStart()), std::pair(String(U"I\r1000"), Int64{2}));
+    EXPECT_EQ(editor->grab().toImage(), broken) << "without its LF it is one alone";
+    Press(Qt::Key_Return);
+    EXPECT_EQ(editor->grab().toImage(), ended);
+    Press(Qt::Key_Z, Qt::ControlModifier);
+    Press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(area.Text(), U"I\r\n1000");
+    EXPECT_EQ(editor->grab().toImage(), ended);
 }
 
 } // namespace

@@ -61,6 +61,20 @@ TEST_F(Documents, TypingIsOneStepOfALineWithItsColours)
     EXPECT_EQ(Colours(*editor->document()), "oooo\n.rr.");
 }
 
+TEST_F(Documents, AnInputMethodOverASelectionIsOneStep)
+{
+    document.SetText(U"one two");
+    area.Select(4, 3);
+    QInputMethodEvent composing(QStringLiteral("a"), {}), committed;
+    committed.setCommitString(QStringLiteral("ab"));
+    QApplication::sendEvent(editor, &composing);
+    QApplication::sendEvent(editor, &committed);
+    EXPECT_EQ(document.Text(), U"one ab");
+    EXPECT_EQ(Colours(*editor->document()), "....rr");
+    Undo();
+    EXPECT_EQ(document.Text(), U"one two");
+}
+
 TEST_F(Documents, ModifiedIsWhatAHandHasMade)
 {
     bool shown = true;
@@ -92,6 +106,23 @@ TEST_F(Documents, ModifiedIsWhatAHandHasMade)
         EXPECT_EQ(document.Modified(), step.modified) << step.name;
         EXPECT_EQ(shown, step.modified) << step.name;
     }
+}
+
+TEST_F(Documents, ACleanedTextIsKnownAsOneWhereverTheHistoryLeads)
+{
+    document.SetText(U"one");
+    document.ReplaceText(U"two", {}, true);
+    Press(Qt::Key_X);
+    document.ReplaceText(U"three");
+    for (const bool cleaned : {false, true, true, false}) {
+        EXPECT_EQ(document.Cleaned(), cleaned) << document.Text().size();
+        Undo();
+    }
+    Redo();
+    EXPECT_TRUE(document.Cleaned());
+    Undo();
+    Press(Qt::Key_Y);
+    EXPECT_FALSE(document.Cleaned());
 }
 
 TEST_F(Documents, AnEditOfTheProgramStaysWhereItIsSeen)
@@ -179,8 +210,14 @@ TEST_F(Documents, ZoomKeepsThePlaceInEachDocument)
     const double size = QFontInfo(editor->font()).pointSizeF();
     EXPECT_NEAR(size, QFontInfo(QApplication::font()).pointSizeF(), 0.5);
     Press(Qt::Key_Plus, Qt::ControlModifier);
-    Press(Qt::Key_Plus, Qt::ControlModifier);
-    EXPECT_GT(QFontInfo(editor->font()).pointSizeF(), size * 1.1);
+    const auto roll = [this](int delta) {
+        QWheelEvent event({9, 9}, {9, 9}, {}, {0, delta}, Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(editor->viewport(), &event);
+    };
+    roll(80);
+    EXPECT_LT(QFontInfo(editor->font()).pointSizeF(), size * 1.15) << "a touchpad tells parts of a step";
+    roll(40);
+    EXPECT_GT(QFontInfo(editor->font()).pointSizeF(), size * 1.15);
     EXPECT_EQ(editor->cursorForPosition({0, 0}).block().text(), "ab 200");
     area.SetDocument(second);
     EXPECT_EQ(second.Text(), U"");

@@ -29,6 +29,13 @@ TEST(SpecialFolders, LieInTheHomeFolder)
          {U"/usr/none", U"usr", U"", U"~", U"http://localhost/usr", U"file://elsewhere/usr", U"Linux:usr:bin:"})
         EXPECT_FALSE(FolderItem::Named(name));
 
+    ::setenv("XDG_DATA_HOME", "relative", 1);
+    for (const auto& folder : {home.Path(), home.Folder("no \xE9 text")}) {
+        ::setenv("HOME", folder.c_str(), 1);
+        EXPECT_EQ(SpecialFolder::ApplicationData()->Path(), folder / ".local/share");
+    }
+    ::unsetenv("XDG_DATA_HOME");
+    ::setenv("HOME", home.Path().c_str(), 1);
     std::filesystem::remove_all(home.Path() / ".local");
     (void)home.File(".local", "a file in the way");
     EXPECT_FALSE(SpecialFolder::ApplicationData());
