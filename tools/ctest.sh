@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Runs the tests of a preset on a virtual screen, and repeats the runner's summary as the last line.
+# Runs the tests of a preset on a virtual screen, tells why some were skipped, and repeats the runner's summary at last.
 # Usage: tools/ctest.sh PRESET [ARGUMENT FOR CTEST...]
 set -uo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
@@ -9,5 +9,6 @@ shift
 tools/screen.sh ctest --test-dir "$folder" --output-on-failure -j "$(nproc)" "$@" | tee "$folder/test.log"
 result=${PIPESTATUS[0]}
 echo
+grep -a '^skipped: ' "$folder/Testing/Temporary/LastTest.log"
 grep -a 'tests passed, ' "$folder/test.log" | tail -n 1
 exit "$result"

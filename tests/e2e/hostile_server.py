@@ -15,7 +15,7 @@ import threading
 import time
 import zlib
 
-from desktop import Program, private_environment
+from desktop import Program, needs, private_environment
 from sample import sample
 
 MIB = 1 << 20
@@ -180,6 +180,7 @@ def silent_name_server(command, files):
 
 
 def main(command):
+    needs("openssl")
     server = Server()
     with sample() as files:
         with files.preferences.open("a", encoding="utf-8") as preferences:

@@ -27,11 +27,9 @@ def propose(order, files):
     tile = folder / "Earth nav data/+40-010/+48-002.dsf"
     tile.parent.mkdir(parents=True)
     tile.write_bytes(PACKED_TILE.read_bytes())
-    report = subprocess.run(
-        [*order, "--propose", files.source_file], env=private_environment(), check=True, capture_output=True, text=True
-    ).stderr
-    overlays = report.split("Surcouches")[1].split("\n \n")[0]
-    assert folder.name in overlays, report
+    run = subprocess.run([*order, "--propose", files.source_file], env=private_environment(), capture_output=True, text=True)
+    overlays = run.stderr.partition("Surcouches")[2].partition("\n \n")[0]
+    assert folder.name in overlays, run.stderr
 
 
 def run(program, server, files, sound):

@@ -12,7 +12,7 @@ import tempfile
 import time
 
 from choosing import set_preferences
-from desktop import Program, private_environment, wait_for
+from desktop import Program, needs, private_environment, wait_for
 from sample import sample
 
 SECONDS, RATE = 1.5, 44100  # of a recording; samples a second
@@ -91,6 +91,7 @@ def silent_server(command, files):
 
 
 def main(command):
+    needs("pulseaudio", "parec")
     with sample() as files, sound_server(files.home) as server:
         with Program([command], private_environment(files.home, **server)) as program:
             program.front = "Tarnivel"
