@@ -1,22 +1,46 @@
 """A first start without any model: a proposal from the menu, its save, a run with it, and the saved order."""
 
+import shutil
 import sys
 
 from choosing import choose, open_chooser
-from desktop import Program, has, private_environment, xdotool
+from desktop import Program, has, nodes, private_environment, xdotool
 from sample import packs, sample
+
+
+def click(place):
+    left, top, width, height = place
+    xdotool("mousemove", left + width // 2, top + height // 2, "click", 1)
 
 
 def propose(program, answer):
     """Picks the item by the mouse and names the new file; None is a change of mind."""
     for name in ("Texte", "Proposer un modèle…"):
-        left, top, width, height = program.extents(program.find("menu item", name))
-        xdotool("mousemove", left + width // 2, top + height // 2, "click", 1)
+        click(program.extents(program.find("menu item", name)))
     dialog = open_chooser(program)
     if answer:
         program.type(str(answer))
     program.keys("Return" if answer else "Escape")
     program.wait_until_gone(dialog)
+
+
+def stop(program, files, model):
+    """Presses the button by the mouse while much is still to be looked at."""
+    before, slow = files.source_file.read_text("utf-8"), files.source_file.parent / "slow"
+    for number in range(100):
+        (slow / f"Earth nav data/{number}").mkdir(parents=True)
+    files.source_file.write_text(before + "SCENERY_PACK Custom Scenery/slow/\n" * 50_000, "utf-8")
+    # The busy program answers each question late.
+    button = program.extents(program.find("push button", "Générer"))
+    bar = next(node for node in nodes(program.window()) if node.get_role_name() == "progress bar")
+    propose(program, model)
+    program.wait_for("the progress", lambda: has(bar, "showing"))
+    program.screenshot("propose_progress.png")
+    click(button)
+    program.wait_for("the end", lambda: not has(bar, "showing"))
+    assert program.find(name="Arrêté : aucun modèle n'a été proposé")
+    files.source_file.write_text(before, "utf-8")
+    shutil.rmtree(slow)
 
 
 def main(command):
@@ -27,6 +51,7 @@ def main(command):
             program.front = "Tarnivel"
             choose(program, "scenery_packs.ini", files.source_file)
             propose(program, None)
+            stop(program, files, model)
             assert program.text(program.find("text", "Fichier modèle")) == "", "nothing chosen"
 
             propose(program, model)

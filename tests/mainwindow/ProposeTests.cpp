@@ -21,25 +21,4 @@ TEST_F(MainWindow, AProposalNeedsASceneryAndARunWithoutAModelOffersOne)
     EXPECT_FALSE(std::filesystem::exists(folder.Path() / "m.ini"));
 }
 
-TEST_F(MainWindow, TheButtonStopsAProposal)
-{
-    Open();
-    std::string text = header;
-    for (int number = 0; number < 20'000; ++number)
-        text += "SCENERY_PACK /nowhere/" + std::to_string(number) + "/\n";
-    Choose(window->TextFieldSpack, folder.File("Custom Scenery/scenery_packs.ini", text));
-    Timer hasty(1);
-    hasty.Action = [this, &hasty] {
-        if (window->BtnRun.Caption() != U"Arrêter") return hasty.SetRunMode(Timer::RunModes::Single);
-        window->BtnRun_Pressed();
-    };
-    probe.Answers = {FolderItem(folder.Path() / "m.ini")};
-    hasty.SetRunMode(Timer::RunModes::Single);
-    window->TexteProposer_Action();
-    EXPECT_EQ(probe.Said, std::vector<String>{U"Arrêté : aucun modèle n'a été proposé"});
-    EXPECT_EQ(window->BtnRun.Caption(), U"Générer");
-    EXPECT_EQ(window->TextFieldMod1.Text(), U"");
-    EXPECT_TRUE(View(0).empty());
-}
-
 } // namespace
