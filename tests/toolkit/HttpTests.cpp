@@ -10,46 +10,30 @@
 namespace {
 
 using namespace std::string_literals;
-enum Afterwards { Close, Wait, GoOnForEver };
 
 /// A web server on loopback that sends what a test wants, well formed or not.
-class TestServer {
-public:
+struct TestServer {
     /// Every request is answered with `answer`, but one for "/elsewhere" with a page that says so.
-    TestServer(std::string answer, Afterwards afterwards)
-        : answer_(std::move(answer))
-        , afterwards_(afterwards)
+    explicit TestServer(const std::string& answer, bool closes = false)
     {
-        server_.listen(QHostAddress::LocalHost);
-        Url = U"http://127.0.0.1:" + ToText(server_.serverPort()) + U"/page";
-        QObject::connect(&server_, &QTcpServer::newConnection, &server_, [this] {
-            auto* const socket = server_.nextPendingConnection();
-            QObject::connect(socket, &QTcpSocket::readyRead, socket, [this, socket] { Serve(*socket); });
+        server.listen(QHostAddress::LocalHost);
+        url = U"http://127.0.0.1:" + ToText(server.serverPort()) + U"/page";
+        QObject::connect(&server, &QTcpServer::newConnection, &server, [this, answer, closes] {
+            auto* const socket = server.nextPendingConnection();
+            QObject::connect(socket, &QTcpSocket::readyRead, socket, [this, answer, closes, socket] {
+                requests += socket->readAll();
+                if (!requests.endsWith("\r\n\r\n")) return;
+                const bool isElsewhere = requests.contains(" /elsewhere ");
+                socket->write(isElsewhere ? "HTTP/1.1 200 OK\r\nContent-Length: 9\r\n\r\nelsewhere"
+                                          : QByteArray::fromStdString(answer));
+                if (closes) socket->disconnectFromHost();
+            });
         });
     }
-
-    String Url;
+    QTcpServer server;
+    String url;
     /// All that the clients have sent.
-    QByteArray Requests;
-
-private:
-    void Serve(QTcpSocket& socket)
-    {
-        Requests += socket.readAll();
-        if (!Requests.endsWith("\r\n\r\n")) return;
-        const bool isElsewhere = Requests.contains(" /elsewhere ");
-        socket.write(isElsewhere ? "HTTP/1.1 200 OK\r\nContent-Length: 9\r\n\r\nelsewhere"
-                                 : QByteArray::fromStdString(answer_));
-        if (afterwards_ == Close) socket.disconnectFromHost();
-        if (afterwards_ != GoOnForEver) return;
-        auto* const drop = new QTimer(&socket);
-        QObject::connect(drop, &QTimer::timeout, &socket, [&socket] { socket.write("."); });
-        drop->start(20);
-    }
-
-    QTcpServer server_;
-    std::string answer_;
-    Afterwards afterwards_;
+    QByteArray requests;
 };
 
 /// A connection and what came of it.
@@ -98,45 +82,43 @@ TEST(URLConnection, GivesTheAnswerOrAnError)
                       pieces = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n";
     const std::string raw = "\xff\xfe\0\r\n\xc3"s, much(URLConnection::MaximumSize, '.'),
                       lines(URLConnection::MaximumLines, '\n');
-    const std::tuple<const char*, std::string, Afterwards, Int64, Int64, std::string> rows[] = {
-        {"a page is content", Page("200 OK", "hello"), Wait, Fine, 200, "hello"},
-        {"bytes that are no text come unchanged", Page("200 OK", raw), Wait, Fine, 200, raw},
-        {"a page without its length ends with the connection", "HTTP/1.1 200 OK\r\n\r\nhi", Close, Fine, 200, "hi"},
-        {"a page may come in pieces", pieces + "3\r\nhel\r\n2\r\nlo\r\n0\r\n\r\n", Wait, Fine, 200, "hello"},
-        {"a missing page is content too", Page("404 Not Found", "nothing"), Wait, Fine, 404, "nothing"},
-        {"a page for those who log in is content too", Page("401 Unauthorized", "who?"), Wait, Fine, 401, "who?"},
-        {"a bad request is content too", Page("400 Bad Request", "what?"), Wait, Fine, 400, "what?"},
-        {"a failure of the server is content too", Page("500 Oops", "oops"), Wait, Fine, 500, "oops"},
-        {"a redirection is followed", Page(moved + "/elsewhere", ""), Wait, Fine, 200, "elsewhere"},
-        {"a redirection to itself comes to an end", Page(moved + "/page", ""), Wait, Redirects, 0, ""},
-        {"a redirection to a file is not followed", Page(moved + "file:///etc/fstab", ""), Wait, Unknown, 0, ""},
-        {"a page that breaks off is an error", Page("200 OK", "hel", 2), Close, HungUp, 0, ""},
-        {"so is one that breaks off late", Page("200 OK", std::string(300'000, '.'), 1), Close, HungUp, 0, ""},
-        {"a server that hangs up is an error", "", Close, HungUp, 0, ""},
-        {"a server that says nothing runs out of time", "", Wait, Late, 0, ""},
-        {"a head without its page runs out of time", Page("200 OK", "", 50), Wait, Late, 0, ""},
-        {"a page that drips for ever runs out of time", "HTTP/1.1 200 OK\r\n\r\n", GoOnForEver, Late, 0, ""},
-        {"a page of the size of the limit is content", Page("200 OK", much), Wait, Fine, 200, much},
-        {"a page above it is an error", Page("200 OK", much + "."), Wait, TooLong, 0, ""},
-        {"so are more lines than the limit", Page("200 OK", lines + "\n"), Wait, TooLong, 0, ""},
-        {"but not as many", Page("200 OK", lines), Wait, Fine, 200, lines},
+    const std::tuple<const char*, std::string, bool, Int64, Int64, std::string> rows[] = {
+        {"a page is content", Page("200 OK", "hello"), false, Fine, 200, "hello"},
+        {"bytes that are no text come unchanged", Page("200 OK", raw), false, Fine, 200, raw},
+        {"a page without its length ends with the connection", "HTTP/1.1 200 OK\r\n\r\nhi", true, Fine, 200, "hi"},
+        {"a page may come in pieces", pieces + "3\r\nhel\r\n2\r\nlo\r\n0\r\n\r\n", false, Fine, 200, "hello"},
+        {"a missing page is content too", Page("404 Not Found", "nothing"), false, Fine, 404, "nothing"},
+        {"a page for those who log in is content too", Page("401 Unauthorized", "who?"), false, Fine, 401, "who?"},
+        {"a failure of the server is content too", Page("500 Oops", "oops"), false, Fine, 500, "oops"},
+        {"a redirection is followed", Page(moved + "/elsewhere", ""), false, Fine, 200, "elsewhere"},
+        {"a redirection to itself comes to an end", Page(moved + "/page", ""), false, Redirects, 0, ""},
+        {"a redirection to a file is not followed", Page(moved + "file:///etc/fstab", ""), false, Unknown, 0, ""},
+        {"a page that breaks off is an error", Page("200 OK", "hel", 2), true, HungUp, 0, ""},
+        {"so is one that breaks off late", Page("200 OK", std::string(300'000, '.'), 1), true, HungUp, 0, ""},
+        {"a server that hangs up is an error", "", true, HungUp, 0, ""},
+        {"a server that says nothing runs out of time", "", false, Late, 0, ""},
+        {"a head without its page runs out of time", Page("200 OK", "", 50), false, Late, 0, ""},
+        {"a page of the size of the limit is content", Page("200 OK", much), false, Fine, 200, much},
+        {"a page above it is an error", Page("200 OK", much + "."), false, TooLong, 0, ""},
+        {"so are more lines than the limit", Page("200 OK", lines + "\n"), false, TooLong, 0, ""},
+        {"but not as many", Page("200 OK", lines), false, Fine, 200, lines},
     };
-    for (const auto& [name, answer, afterwards, error, status, content] : rows) {
+    for (const auto& [name, answer, closes, error, status, content] : rows) {
         SCOPED_TRACE(name);
-        const TestServer server(answer, afterwards);
+        const TestServer server(answer, closes);
         Client client;
-        client.Fetch(U" " + server.Url, error == Late ? 1 : 60);
+        client.Fetch(U" " + server.url, error == Late ? 1 : 60);
         EXPECT_EQ(client.error, error);
         EXPECT_EQ(client.message.empty(), error == Fine);
         EXPECT_EQ(client.status, status);
         EXPECT_EQ(client.content, content);
-        EXPECT_EQ(server.Requests.left(15), "GET /page HTTP/");
+        EXPECT_EQ(server.requests.left(15), "GET /page HTTP/");
     }
 }
 
 TEST(URLConnection, TellsAnAddressWithoutAServerByAnErrorAfterSend)
 {
-    const std::pair<String, Int64> rows[] = {{TestServer("", Wait).Url, Refused},
+    const std::pair<String, Int64> rows[] = {{TestServer("").url, Refused},
                                              {U"http://name.invalid/", NotFound},
                                              {U"", Unknown},
                                              {U"file:///etc/fstab", Unknown}};
@@ -150,21 +132,21 @@ TEST(URLConnection, TellsAnAddressWithoutAServerByAnErrorAfterSend)
 
 TEST(URLConnection, IsSilentAfterDisconnectAndCanBeUsedAgainEvenByItsEvents)
 {
-    const TestServer slow(Page("200 OK", "hel", 2), Wait), quick(Page("200 OK", "hello"), Wait);
+    const TestServer slow(Page("200 OK", "hel", 2)), quick(Page("200 OK", "hello"));
     Client client;
     client.Disconnect();
-    for (const String& url : {slow.Url, U"no address"s, slow.Url}) {
+    for (const String& url : {slow.url, U"no address"s, slow.url}) {
         client.Send(U"Get", url, 1);
         client.Disconnect();
     }
-    client.Send(U"Get", slow.Url, 1);
+    client.Send(U"Get", slow.url, 1);
     client.Error = [&](const RuntimeException&) {
         client.Disconnect();
-        client.Send(U"Get", quick.Url, 10);
+        client.Send(U"Get", quick.url, 10);
     };
     client.ContentReceived = [&](const String&, Int64, const Bytes& bytes) {
         EXPECT_EQ(bytes, "hello");
-        if (++client.events < 3) client.Send(U"Get", quick.Url, 10);
+        if (++client.events < 3) client.Send(U"Get", quick.url, 10);
     };
     EXPECT_TRUE(client.Reaches(3));
 }

@@ -40,25 +40,6 @@ TEST_F(Documents, GiveBackEveryCharacterThatTheyWereGivenTypedOrPasted)
 
 TEST_F(Documents, PlacesCountCharacters)
 {
-    const struct {
-        const char* name;
-        StringView text;
-        int steps;
-        Int64 start;
-    } rows[] = {
-        {"a narrow text", U"ab\ncd", 3, 3},
-        {"behind a character of two units", U"a😀b", 2, 2},
-        {"behind several of them and a line end", U"😀\n😀😀x", 4, 4},
-        {"behind a carried character", U"\u2028\r\u2028x", 3, 3},
-    };
-    for (const auto& row : rows) {
-        area.SetText(row.text);
-        for (int i = 0; i < row.steps; ++i)
-            Press(Qt::Key_Right);
-        EXPECT_EQ(Selection(), std::pair(row.start, Int64{0})) << row.name;
-        Press(Qt::Key_Home, Qt::ControlModifier | Qt::ShiftModifier);
-        EXPECT_EQ(Selection(), std::pair(Int64{0}, row.start)) << row.name;
-    }
     area.SetText(U"ab");
     editor->insertPlainText(QString::fromUtf8("😀"));
     EXPECT_EQ(area.SelectionStart(), 1) << "a wide character that came by typing";
