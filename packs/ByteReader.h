@@ -7,20 +7,14 @@
 /// Raised instead of taking more bytes than there are.
 struct Damage {};
 
-class ByteReader {
-public:
-    explicit ByteReader(std::string_view bytes)
-        : bytes_(bytes)
-    {
-    }
-
-    [[nodiscard]] bool IsEmpty() const { return bytes_.empty(); }
+struct ByteReader {
+    std::string_view bytes;
 
     std::string_view Take(std::uint64_t count)
     {
-        if (count > bytes_.size()) throw Damage();
-        const std::string_view taken = bytes_.substr(0, count);
-        bytes_.remove_prefix(count);
+        if (count > bytes.size()) throw Damage();
+        const std::string_view taken = bytes.substr(0, count);
+        bytes.remove_prefix(count);
         return taken;
     }
 
@@ -38,11 +32,8 @@ public:
     /// Takes a text with a NUL behind it.
     std::string_view TakeText()
     {
-        const std::string_view text = Take(bytes_.find('\0'));
+        const std::string_view text = Take(bytes.find('\0'));
         Take(1);
         return text;
     }
-
-private:
-    std::string_view bytes_;
 };

@@ -21,28 +21,25 @@ String Unreadable(const fs::path& path, StringView reason)
                                 {Encodings::UTF8.Decode(path.filename().native()), reason});
 }
 
-TileKind KindOf(const fs::path& tile)
+PackFacts::Tile KindOf(const fs::path& tile)
 {
     // What opens only when somebody writes to it must not stop the program.
     const Descriptor file(::open(tile.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     Check(file.number >= 0);
-    TileKind kind = TileKind::Damaged;
+    PackFacts::Tile kind = PackFacts::Tile::None;
     // The short beginning does for nearly all.
     for (const std::size_t size : {std::size_t{4} << 10, std::size_t{256} << 10}) {
         const std::string beginning = ReadAt(file.number, 0, size);
         kind = TileKindOf(IsArchive(beginning) ? Unpack(file.number, size) : beginning);
-        if (kind != TileKind::Damaged) break;
+        if (kind != PackFacts::Tile::None) break;
     }
     return kind;
 }
 
 void LookAtTile(PackFacts& facts, const fs::path& tile)
 try {
-    const TileKind kind = KindOf(tile);
-    if (kind == TileKind::Damaged)
-        facts.doubt = Localisation::Txt_RaisonTuileAbimee();
-    else
-        facts.tile = kind == TileKind::Overlay ? PackFacts::Tile::Overlay : PackFacts::Tile::Base;
+    facts.tile = KindOf(tile);
+    if (facts.tile == PackFacts::Tile::None) facts.doubt = Localisation::Txt_RaisonTuileAbimee();
 } catch (const IOException& error) {
     facts.doubt = Unreadable(tile, error.Message);
 }

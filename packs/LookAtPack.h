@@ -25,6 +25,6 @@ private:
     void LookInside(PackFacts& facts, const std::filesystem::path& folder);
 
     const std::filesystem::path dossier_;
-    /// The folders that were listed in vain at least once.
+    /// Where an item was searched under another spelling.
     std::map<std::filesystem::path, Items> listed_;
 };

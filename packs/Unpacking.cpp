@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <bit>
 #include <cstdlib>
+#include <limits>
 #include <lzma.h>
 #include <memory>
 #include <unistd.h>
@@ -15,6 +16,7 @@ namespace {
 constexpr std::size_t startSize = 32;
 constexpr char packedHeader = 23;
 
+/// Where the packed bytes of one file are, and what they were packed with.
 struct Stream {
     std::uint64_t offset, size;
     lzma_vli method;
@@ -35,7 +37,7 @@ void Expect(ByteReader& header, std::string_view bytes)
     if (header.Take(bytes.size()) != bytes) throw Damage();
 }
 
-/// The one stream of an archive with one file: its place, its size, and its one coder.
+/// The one stream of an archive with one file, packed by one coder.
 Stream TakeStream(ByteReader& header)
 {
     using namespace std::string_view_literals;
@@ -81,6 +83,7 @@ std::string Beginning(int archive, const Stream& packed, std::size_t size)
 std::string ReadAt(int file, std::uint64_t offset, std::size_t size)
 {
     std::string bytes(size, '\0');
+    if (offset > std::numeric_limits<off_t>::max() - size) return {};
     const ssize_t count = ::pread(file, bytes.data(), size, static_cast<off_t>(offset));
     Check(count >= 0);
     bytes.resize(static_cast<std::size_t>(count));
@@ -91,15 +94,15 @@ std::string Unpack(int archive, std::size_t size)
 try {
     constexpr std::size_t signatureSize = 12, numberSize = 8;
     const std::string start = ReadAt(archive, 0, startSize);
-    ByteReader places(start);
+    ByteReader places{start};
     places.Take(signatureSize);
     const std::uint64_t offset = startSize + places.TakeNumber(numberSize), length = places.TakeNumber(numberSize);
     std::string header = ReadAt(archive, offset, std::min<std::uint64_t>(length, size));
     if (header.starts_with(packedHeader)) {
-        ByteReader parts(std::string_view(header).substr(1));
+        ByteReader parts{std::string_view(header).substr(1)};
         header = Beginning(archive, TakeStream(parts), size);
     }
-    ByteReader parts(header);
+    ByteReader parts{header};
     Expect(parts, "\1\4");
     return Beginning(archive, TakeStream(parts), size);
 } catch (const Damage&) {

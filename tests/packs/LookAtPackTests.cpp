@@ -40,25 +40,25 @@ TEST(Tile, TileKindOf)
     std::string nested;
     for (int depth = 0; depth < 10'000; ++depth)
         nested = Atom("DAEH", nested);
-    const std::tuple<const char*, std::string, TileKind> rows[] = {
-        {"an overlay", overlay + "GEOD and all the rest", TileKind::Overlay},
-        {"no property of overlays", base, TileKind::Base},
-        {"no property at all", DsfWith(""), TileKind::Base},
-        {"the property is 0", DsfWith("sim/overlay\0000\0"s), TileKind::Base},
-        {"the text as a value", DsfWith("x\0sim/overlay\0001\0y\0"s), TileKind::Base},
+    const std::tuple<const char*, std::string, PackFacts::Tile> rows[] = {
+        {"an overlay", overlay + "GEOD and all the rest", PackFacts::Tile::Overlay},
+        {"no property of overlays", base, PackFacts::Tile::Base},
+        {"no property at all", DsfWith(""), PackFacts::Tile::Base},
+        {"the property is 0", DsfWith("sim/overlay\0000\0"s), PackFacts::Tile::Base},
+        {"the text as a value", DsfWith("x\0sim/overlay\0001\0y\0"s), PackFacts::Tile::Base},
         {"atoms before the head and the properties",
          Dsf(Atom("DOEG", "xyz") + Atom("DAEH", Atom("XXXX", "") + Atom("PORP", "sim/overlay\0001\0"s))),
-         TileKind::Overlay},
-        {"nothing", "", TileKind::Damaged},
-        {"another version", "XPLNEDSF" + Number(2) + overlay.substr(12), TileKind::Damaged},
-        {"cut in the head", overlay.substr(0, overlay.size() - 1), TileKind::Damaged},
-        {"no head", Dsf(Atom("DOEG", "")), TileKind::Damaged},
-        {"properties outside the head", Dsf(Atom("PORP", "sim/overlay\0001\0"s)), TileKind::Damaged},
-        {"a length below that of its own bytes", Dsf("DOEG" + Number(7)) + overlay.substr(12), TileKind::Damaged},
-        {"a length of 4 GiB", Dsf("DAEH" + Number(0xFFFFFFFF)), TileKind::Damaged},
-        {"a name without a value", DsfWith("sim/overlay\0"s), TileKind::Damaged},
-        {"a value without an end", DsfWith("sim/overlay\0001"s), TileKind::Damaged},
-        {"heads in heads", Dsf(nested), TileKind::Damaged},
+         PackFacts::Tile::Overlay},
+        {"nothing", "", PackFacts::Tile::None},
+        {"another version", "XPLNEDSF" + Number(2) + overlay.substr(12), PackFacts::Tile::None},
+        {"cut in the head", overlay.substr(0, overlay.size() - 1), PackFacts::Tile::None},
+        {"no head", Dsf(Atom("DOEG", "")), PackFacts::Tile::None},
+        {"properties outside the head", Dsf(Atom("PORP", "sim/overlay\0001\0"s)), PackFacts::Tile::None},
+        {"a length below that of its own bytes", Dsf("DOEG" + Number(7)) + overlay.substr(12), PackFacts::Tile::None},
+        {"a length of 4 GiB", Dsf("DAEH" + Number(0xFFFFFFFF)), PackFacts::Tile::None},
+        {"a name without a value", DsfWith("sim/overlay\0"s), PackFacts::Tile::None},
+        {"a value without an end", DsfWith("sim/overlay\0001"s), PackFacts::Tile::None},
+        {"heads in heads", Dsf(nested), PackFacts::Tile::None},
     };
     for (const auto& [name, bytes, kind] : rows)
         EXPECT_EQ(TileKindOf(bytes), kind) << name;
