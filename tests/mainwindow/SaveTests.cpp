@@ -1,6 +1,7 @@
 #include "tests/mainwindow/MainWindowTest.h"
 
 #include <algorithm>
+#include <sys/stat.h>
 
 namespace {
 
@@ -186,10 +187,16 @@ TEST_F(Saving, AsksWhereItMustAndNoAnswerButTheRightOneWrites)
     Save({noOldFile, sure}, fresh, 0);
 }
 
-TEST_F(Saving, AReadOnlyFileAndAMissingFolderAreTold)
+TEST_F(Saving, WhatCanNotBeWrittenIsTold)
 {
     fs::permissions(target, fs::perms::owner_read);
     Save({sure, writeFailed}, "old", 1);
+    fs::remove(target);
+    ASSERT_EQ(mkfifo(target.c_str(), 0600), 0);
+    probe.Asked.clear();
+    window->BtnSave_Pressed();
+    ASSERT_EQ(probe.Asked.size(), 3U) << "a pipe can be neither copied nor written";
+    EXPECT_TRUE(probe.Asked[1] == copyFailed && fs::is_fifo(target));
     fs::remove_all(target.parent_path());
     window->BtnSave_Pressed();
     EXPECT_EQ(probe.Asked.back(), U"Impossible de localiser le dossier où sauvegarder le fichier.[Ok]");
