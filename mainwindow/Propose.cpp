@@ -33,6 +33,7 @@ void WinMain::TexteProposer_Action()
     PopMenuAff.SetSelectedRowIndex(rowModel);
     AffArea();
     TextAreaAff.SetFocus();
+    Fncts::Dire({}); // what was said before
     Fncts::MyDialogBox({.message = Txt_PropFait(), .explanation = proposal.report, .btnAction = Btn_Ok(), .win = this});
 }
 

@@ -7,6 +7,8 @@ from choosing import choose, open_chooser
 from desktop import Program, has, nodes, private_environment, xdotool
 from sample import packs, sample
 
+STOPPED = "Arrêté : aucun modèle n'a été proposé"
+
 
 def click(place):
     left, top, width, height = place
@@ -38,7 +40,7 @@ def stop(program, files, model):
     program.screenshot("propose_progress.png")
     click(button)
     program.wait_for("the end", lambda: not has(bar, "showing"))
-    assert program.find(name="Arrêté : aucun modèle n'a été proposé")
+    assert program.find(name=STOPPED)
     files.source_file.write_text(before, "utf-8")
     shutil.rmtree(slow)
 
@@ -66,6 +68,7 @@ def main(command):
                 f"Custom Scenery/{name}/" for name in files.folders_not_listed()
             }
             assert not model.exists(), "nothing is written before one saves"
+            assert not program.all(name=STOPPED)
             assert has(program.find("radio button", "Fichier modèle"), "checked")
             program.keys("ctrl+z")
             program.wait_for("the empty view", lambda: program.text(area) == "")
