@@ -89,6 +89,11 @@ def main(command):
         assert program.text(program.find("text", "Spack Modèle"))
         choose(program, MODEL, other)
         assert program.text(program.find("text", "Spack Modèle")) == ""
+        program.press("Générer")
+        program.answer_until("Générer")
+        program.choose("Spack Après")
+        counts = next(node.get_name() for node in program.all("label") if " · " in node.get_name())
+        assert counts.endswith(" 0 sans équivalent"), counts
         assert (program.close(), program.stderr()) == (0, "")
 
 

@@ -39,9 +39,9 @@ def write(program, field, text, end):
 
 
 @contextlib.contextmanager
-def dropped(program, command, file, field):
-    """Drags a file from another window onto a field, and waits for what that brings."""
-    with subprocess.Popen([pathlib.Path(command).parent / "drag_source", file]) as source:
+def dropped(program, command, field, *items):
+    """Drags items from another window onto a field, and waits for what that brings."""
+    with subprocess.Popen([pathlib.Path(command).parent / "drag_source", *items]) as source:
         number = xdotool("search", "--sync", "--onlyvisible", "--name", "Drag source").split()[0]
         xdotool("windowmove", "--sync", number, 1000, 600)
         left, top, _, height = program.extents(field)
@@ -82,11 +82,11 @@ def check_dropped(program, command, files):
     spack, model, area = program.find("text", SPACK), program.find("text", MODEL), program.find("text", "Spack Après")
     before = program.text(spack), program.text(area)
     (files.home / "photo.png").touch()
-    for item in (files.home / "photo.png", files.archives):
-        with dropped(program, command, item, spack):
+    for items in ([files.home / "photo.png"], [files.archives], [files.model_file, files.source_file]):
+        with dropped(program, command, spack, *items):
             says(program, "Vous ne pouvez glisser déposer qu'un fichier contenant du texte ici.")
         assert (program.text(spack), program.text(area)) == before
-    with dropped(program, command, files.model_file, model):
+    with dropped(program, command, model, files.model_file):
         holds(program, area, "")
     assert program.text(model) == path_form(files.model_file)
     assert has(program.find("radio button", MODEL), "checked")
@@ -118,6 +118,8 @@ def check_desktop(program, files, folder):
     says(program, "Aucun gestionnaire de fichiers ne répond.")
     opener, opened = folder / "xdg-open", folder / "opened"
     opener.write_text(f'#!/bin/sh\necho "$1" >>"{opened}"\n')
+    program.press("Ouvrir Url")
+    says(program, f"Aucun programme n'ouvre ce lien : {program.text(program.find('text', URL))}")
     opener.chmod(0o755)
     program.press("Ouvrir Url")
     address = program.text(program.find("text", URL))

@@ -194,7 +194,8 @@ def main(command):
                     check_alive(program, 7)
                 # Bytes that are no text are told.
                 program.wait_for("the end", lambda: program.windows(dialogs=True) or program.all("push button", "Générer"))
-                if program.windows(dialogs=True):
+                assert bool(program.windows(dialogs=True)) == (name == "binary"), name
+                if name == "binary":
                     program.answer_until("Générer")
                 text = program.text(area)
                 assert text.startswith(REFUSED), f"{name}: {text[:200]}"
@@ -210,9 +211,11 @@ def main(command):
             run(program, server, *TABS)
             program.find("push button", "Générer")
             check_peak(program, "8 MiB of tabs on screen", SHOW)
-            run(program, server, OK + "\r\n", [files.model_file.read_bytes()])
-            program.answer_until("Générer")
-            assert program.text(area) == files.model_file.read_text("utf-8")
+            model = files.model_file.read_bytes()
+            run(program, server, OK + "\r\n", [model + b"# \xff\n"])
+            (told,), *_ = program.answer_until("Générer")
+            assert "octets qui ne sont pas de l'UTF-8" in told, told
+            assert program.text(area) == model.decode("ascii", "ignore") + "# \n"
             other_ways(program, server)
             assert program.close() == 0
         silent_name_server(command, files)

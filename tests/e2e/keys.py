@@ -2,7 +2,7 @@
 
 import sys
 
-from desktop import Program, has, private_environment, xdotool
+from desktop import Program, has, nodes, private_environment, xdotool
 from sample import sample
 
 
@@ -10,6 +10,7 @@ def check_bouncing_return(program):
     program.press("Générer")
     report = program.dialog()
     program.wait_for("an active dialog", lambda: has(report, "active"))
+    assert any(node.get_role_name() == "image" for node in nodes(report)), "no icon"
     program.keys("Return", "Return", "Return")
     program.wait_until_gone(report)
     area = program.find("text", "Spack Après")

@@ -20,6 +20,7 @@ def propose(program, answer):
     for name in ("Texte", "Proposer un modèle…"):
         click(program.extents(program.find("menu item", name)))
     dialog = open_chooser(program)
+    assert dialog.get_name() == "Enregistrer le modèle proposé sous :"
     if answer:
         program.type(str(answer))
     program.keys("Return" if answer else "Escape")

@@ -10,6 +10,8 @@ from desktop import Program, has, needs, nodes, private_environment, wait_for, x
 from sample import sample
 from server import Server
 
+VIEWS = ("Spack Modèle", "Spack Avant", "Spack Après")  # the rows of the closed popup
+
 
 def window_named(name):
     return xdotool("search", "--sync", "--onlyvisible", "--name", name).split()[0]
@@ -61,12 +63,14 @@ def run_from(program, address):
 
 
 def check_busy(command, files):
-    """Close box and Ctrl+Q leave a run, and then a dialog, as they are. A stopped run leaves nothing behind."""
+    """Close box and keys leave a run, and then a dialog, as they are. A stopped run leaves nothing behind."""
     server = Server(files.model_file.read_bytes())
     with Program([command], private_environment(files.home)) as program:
         run_from(program, server.url("/hang"))
         program.wait_for("a hanging fetch", server.hanging.is_set)
-        program.keys("alt+F4", "ctrl+q")
+        program.keys("alt+F4", "ctrl+q", "ctrl+s", "ctrl+o", "ctrl+shift+o", "ctrl+alt+o", "ctrl+comma")
+        usable = [node.get_name() for node in program.all() if has(node, "focusable", "enabled")]
+        assert [name for name in usable if name not in VIEWS] == ["Arrêter"], usable
         program.press("Arrêter")
         program.find("push button", "Générer")
         assert program.text(program.find("text", "Spack Après")) == ""

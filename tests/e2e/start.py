@@ -44,7 +44,7 @@ def main(command, on_small_screen=False):
     refused(command, private_environment("/dev/null"))
     with tempfile.TemporaryDirectory() as home:
         refused(command, private_environment(home, QT_FONT_DPI="192"), "The screen size is too small.")
-    subprocess.run([TOOLS / "screen.sh", "700x400", sys.executable, __file__, command, "small"], check=True)
+    subprocess.run([TOOLS / "screen.sh", "780x459", sys.executable, __file__, command, "small"], check=True)
 
 
 main(*sys.argv[1:])

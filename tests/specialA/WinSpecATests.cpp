@@ -259,6 +259,7 @@ TEST_F(SpecialA, ChoosesAndRevealsItsOriginal)
     const String choose = U"Choisir un fichier :",
                  refused = U"Vous pouvez seulement sélectionner un fichier texte.[Ok]";
     EXPECT_EQ(Asked(), (std::vector{choose, choose, refused, choose, refused, choose}));
+    EXPECT_EQ(probe.Beeps, 3) << "one for each that is refused";
     EXPECT_EQ(window->TextFieldOrg.Text(), U"text.txt") << "none of the others was taken";
     probe.ShiftKey = true;
     window->PushButtSource_Pressed();
