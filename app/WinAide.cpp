@@ -4,9 +4,8 @@
 #include "app/App.h"
 #include "app/Build.h"
 #include "localisation/Localisation.h"
-#include "support/Fncts.h"
-#include "support/Sounds.h"
-#include "toolkit/Desktop.h"
+#include "support/FileHelpers.h"
+#include "support/Status.h"
 
 #include <utility>
 
@@ -27,6 +26,7 @@ WinAide::WinAide()
                      .height = 480,
                      .minimumWidth = 300,
                      .minimumHeight = 300,
+                     .hasStatusBar = true,
                      .movableModal = true,
                      .hasTitleButtons = false})
     // clang-format off
@@ -47,7 +47,7 @@ WinAide::WinAide()
     CancelClosing = [this](bool) { return Event_CancelClosing(); };
     Activated = [this] { Fncts::CmLabBlockUI(Fncts::CoverAct::Activated, this); };
     BoutonOk.Pressed = [this] { BoutonOk_Pressed(); };
-    Web2.Pressed = [this] { System::GotoURL(Web2.Text()); };
+    Web2.Pressed = [this] { Fncts::SuivreLien(Web2.Text()); };
     Email2.Pressed = [this] { FollowEmail2(); };
 }
 
@@ -63,7 +63,7 @@ void WinAide::Event_Opening()
 bool WinAide::Event_CancelClosing()
 {
     if (DrapMovableModal)
-        Fncts::BeepNbT(1);
+        Fncts::Refuser(Dit_ParBouton());
     else
         Fncts::DrapMenu = DrapMenuTemp;
     return DrapMovableModal;
@@ -79,5 +79,5 @@ void WinAide::FollowEmail2() const
 {
     const String subject = Join(
         {{U"A propos de Tarnivel v." + App::Current().Version, U" ", Build::TypeCompil, U" - ", Build::Stamp}}, {});
-    System::GotoURL(U"mailto:" + EncodeURLComponent(Email2.Text()) + U"?Subject=" + EncodeURLComponent(subject));
+    Fncts::SuivreLien(U"mailto:" + EncodeURLComponent(Email2.Text()) + U"?Subject=" + EncodeURLComponent(subject));
 }

@@ -208,6 +208,8 @@ inline constexpr Text Txt_DropQueFichTxt{U"Txt_DropQueFichTxt",
 inline constexpr Text Txt_DropQueDoss{U"Txt_DropQueDoss", U"Vous ne pouvez glisser déposer qu'un dossier ici."};
 inline constexpr Text Dit_AliasMort{U"Dit_AliasMort", U"Cet alias ne mène nulle part."};
 inline constexpr Text Dit_PasGestionnaire{U"Dit_PasGestionnaire", U"Aucun gestionnaire de fichiers ne répond."};
+inline constexpr Text Dit_PasDeLien{U"Dit_PasDeLien", U"Aucun programme n'ouvre ce lien : ¿%"};
+inline constexpr Text Dit_ParBouton{U"Dit_ParBouton", U"Un bouton ferme cette fenêtre."};
 inline constexpr Text Txt_NomNonGarde{U"Txt_NomNonGarde",
     U"Le nom de cet élément ne peut pas être gardé : il n'est pas en UTF-8, ou un autre élément a presque le même."};
 inline constexpr Text Txt_ChoisirUnFich{U"Txt_ChoisirUnFich", U"Choisir un fichier :"};

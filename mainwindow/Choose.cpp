@@ -33,14 +33,15 @@ std::optional<FolderItem> ChooseFolder(const FolderItem& start)
 
 enum class Kind { TextFile, Folder };
 
-/// Why an item can't be dropped on a field for that kind of items, or "".
-String WhyRefused(const FolderItem& item, Kind kind)
+/// Why what is dropped on a field for that kind of items can't be its item, or "".
+String WhyRefused(const std::optional<FolderItem>& item, Kind kind)
 {
     const std::optional<FolderItem> target = Fncts::GetItemMoT_f(item, true);
-    if (!target) return Localisation::Dit_AliasMort();
-    if (kind == Kind::Folder) return Fncts::DossPasPack_f(*target) ? String() : Localisation::Txt_DropQueDoss();
-    const String extension = Fncts::Extension_f(*target);
-    const bool mayBeText = !target->IsFolder() && (extension.empty() || App::ExtInFileType(extension));
+    if (item && !target) return Localisation::Dit_AliasMort();
+    if (kind == Kind::Folder)
+        return target && Fncts::DossPasPack_f(*target) ? String() : Localisation::Txt_DropQueDoss();
+    const String extension = target ? Fncts::Extension_f(*target) : String();
+    const bool mayBeText = target && !target->IsFolder() && (extension.empty() || App::ExtInFileType(extension));
     return mayBeText ? String() : Localisation::Txt_DropQueFichTxt();
 }
 
@@ -85,10 +86,10 @@ void WinMain::BindPathFields()
 {
     const auto bind = [this](DesktopTextField& field, Kind kind, void (WinMain::*take)(const FolderItem& item)) {
         field.Tidied = Fncts::PathOfTyped;
-        field.TakesItem = [kind](const FolderItem& item) { return WhyRefused(item, kind).empty(); };
-        field.ItemDropped = [this, kind, take](const FolderItem& item) {
+        field.TakesItem = [kind](const auto& item) { return WhyRefused(item, kind).empty(); };
+        field.ItemDropped = [this, kind, take](const auto& item) {
             if (const String reason = WhyRefused(item, kind); !reason.empty()) return Fncts::Refuser(reason);
-            (this->*take)(item);
+            (this->*take)(*item);
         };
     };
     bind(TextFieldMod1, Kind::TextFile, &WinMain::TakeModel);

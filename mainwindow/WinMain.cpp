@@ -131,7 +131,7 @@ void WinMain::BindHandlers()
     BtnSelFichModel.Pressed = [this] { ActSelFichModel(Keyboard::AsyncShiftKey()); };
     BtnSelFichSpack.Pressed = [this] { ActSelFichSpack(Keyboard::AsyncShiftKey()); };
     BtnSelArchivDoss.Pressed = [this] { ActSelArchivDoss(Keyboard::AsyncShiftKey()); };
-    BtnOuvUrlModel.Pressed = [this] { System::GotoURL(TextFieldMod2.Text()); };
+    BtnOuvUrlModel.Pressed = [this] { Fncts::SuivreLien(TextFieldMod2.Text()); };
     BtnAffDoss.Pressed = [this] { BtnAffDoss_Pressed(); };
     BtnSave.Pressed = [this] { BtnSave_Pressed(); };
     BtnEnabDis.Pressed = [this] { BtnEnabDis_Pressed(); };
@@ -160,7 +160,7 @@ void WinMain::BindHandlers()
         InRun([&] { RunSuite({.text = String(ErrorMarker) + ToText(error.ErrorNumber) + U" " + error.Message}); });
     };
     PopMenuAff.SelectionChanged = [this] { PopMenuAff_SelectionChanged(); };
-    StaticTextVersion.Pressed = [] { System::GotoURL(Addresses::VersionNotes); };
+    StaticTextVersion.Pressed = [] { Fncts::SuivreLien(Addresses::VersionNotes); };
     BtnAide.Pressed = [this] {
         winAide_ = std::make_unique<WinAide>();
         winAide_->Show();
@@ -301,7 +301,7 @@ void WinMain::ApplePrefs_Action()
         winPrefs_ = std::make_unique<WinPrefs>(*this, SegButtSpecA);
         winPrefs_->Show();
     } else if (Fncts::PasNil_Existe_Alias(Fncts::DossierPref, true))
-        OpenItem(*Fncts::DossierPref);
+        Fncts::Ouvrir(*Fncts::DossierPref);
     else
-        Fncts::BeepNbT(1);
+        Fncts::Refuser(Fncts::Filled(Dit_PasLa(), {Fncts::DossierPref ? Fncts::DossierPref->NativePath() : String()}));
 }

@@ -3,7 +3,7 @@
 #include "app/App.h"
 #include "localisation/Localisation.h"
 #include "support/Fncts.h"
-#include "support/Sounds.h"
+#include "support/Status.h"
 #include "toolkit/Desktop.h"
 
 #include <algorithm>
@@ -21,6 +21,7 @@ WinPrefs::WinPrefs(const DesktopWindow& winMain, DesktopSegmentedButton& segButt
     : DesktopWindow({.title = WinPref_Title(),
                      .width = 400,
                      .height = 131,
+                     .hasStatusBar = true,
                      .resizable = false,
                      .movableModal = true,
                      .hasTitleButtons = false})
@@ -87,7 +88,7 @@ void WinPrefs::FermFenetr()
 bool WinPrefs::Event_CancelClosing()
 {
     if (DrapMovableModal)
-        Fncts::BeepNbT(1);
+        Fncts::Refuser(Dit_ParBouton());
     else
         Fncts::DrapMenu = DrapMenuTemp;
     return DrapMovableModal;

@@ -3,6 +3,7 @@
 #include "localisation/Localisation.h"
 #include "support/Fncts.h"
 #include "support/Status.h"
+#include "support/TextHelpers.h"
 #include "toolkit/Desktop.h"
 #include "toolkit/DesktopApplication.h"
 #include "toolkit/core/Exceptions.h"
@@ -59,11 +60,20 @@ String Extension_f(const FolderItem& item)
 
 void RevealEltFinder(const FolderItem& item)
 {
-    const auto failed = [] { Refuser(Localisation::Dit_PasGestionnaire()); };
     if (item.Parent())
-        RevealItem(item, failed);
-    else if (DossPasPack_f(item) && !OpenItem(item))
-        failed();
+        RevealItem(item, [] { Refuser(Localisation::Dit_PasGestionnaire()); });
+    else if (DossPasPack_f(item))
+        Ouvrir(item);
+}
+
+void Ouvrir(const FolderItem& item)
+{
+    if (!OpenItem(item)) Refuser(Localisation::Dit_PasGestionnaire());
+}
+
+void SuivreLien(StringView url)
+{
+    if (!System::GotoURL(url)) Refuser(Filled(Localisation::Dit_PasDeLien(), {url}));
 }
 
 FolderItem RetDossCetApp(const FolderItem& executable)

@@ -26,6 +26,10 @@ String Extension_f(const FolderItem& item);
 /// Shows the item selected in the file manager; a volume is opened there instead.
 void RevealEltFinder(const FolderItem& item);
 
+/// Opens a folder in the file manager, a link in the browser or the mail program. The user is told where there is none.
+void Ouvrir(const FolderItem& item);
+void SuivreLien(StringView url);
+
 /// The folder that holds the application: the bundle's folder where the executable is in a bundle, else its own.
 FolderItem RetDossCetApp(const FolderItem& executable = ExecutableFile());
 

@@ -7,7 +7,6 @@
 
 #include <chrono>
 #include <thread>
-#include <vector>
 
 namespace {
 
@@ -23,16 +22,6 @@ Sound* BeepSound()
 {
     static Sound* const sound = LoadForGood(U"Beep.wav");
     return sound;
-}
-
-/// Starts a second voice of a sound that plays.
-void PlayOver(const Sound& sound)
-{
-    // Never destroyed, as above.
-    static auto& voices = *new std::vector<std::unique_ptr<Sound>>;
-    std::erase_if(voices, [](const auto& voice) { return !voice->IsPlaying(); });
-    voices.push_back(sound.Clone());
-    voices.back()->Play();
 }
 
 } // namespace
@@ -57,15 +46,12 @@ void Pause(std::uint16_t ticks)
     }
 }
 
-void PlayT(Sound* sound)
+void PlayT(const Sound* sound)
 {
     static SoundThrottle throttle;
     if (!throttle.Admit(System::Ticks()) || sound == nullptr) return;
     try {
-        if (!sound->IsPlaying())
-            sound->Play();
-        else
-            PlayOver(*sound);
+        sound->Play();
     } catch (const std::exception&) {
         throttle.Penalise();
     }

@@ -15,7 +15,7 @@ void Pause(std::uint16_t ticks);
 
 /// Plays a sound without waiting for its end, over itself where it plays already. Null plays nothing. So many sounds in
 /// a short time that they would pile up are dropped; see SoundThrottle.
-void PlayT(Sound* sound);
+void PlayT(const Sound* sound);
 
 /// Sets the volume, 0 to 100 percent, of the five sounds and of the beep.
 void SetVolume(Int16 percent);

@@ -30,7 +30,7 @@ bool IsHeld(Qt::KeyboardModifier key, bool Probe::*inTest)
 
 } // namespace
 
-void System::Beep(Sound* standIn)
+void System::Beep(const Sound* standIn)
 {
     if (Probe* const probe = Probe::Current())
         ++probe->Beeps;
@@ -40,14 +40,15 @@ void System::Beep(Sound* standIn)
         QApplication::beep();
 }
 
-void System::GotoURL(StringView url)
+bool System::GotoURL(StringView url)
 {
     if (Probe* const probe = Probe::Current()) {
         probe->Links.emplace_back(url);
-        return;
+        return true;
     }
     // Without a scheme the desktop would take the text for a file, or for an option of its own.
-    if (const QUrl link(ToQt(url)); link.isValid() && !link.scheme().isEmpty()) QDesktopServices::openUrl(link);
+    const QUrl link(ToQt(url));
+    return link.isValid() && !link.scheme().isEmpty() && QDesktopServices::openUrl(link);
 }
 
 bool Keyboard::AsyncShiftKey() { return IsHeld(Qt::ShiftModifier, &Probe::ShiftKey); }

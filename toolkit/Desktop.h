@@ -10,10 +10,10 @@ class Sound;
 namespace System {
 /// The bell. Linux has none that is heard: X has it off, whatever it tells, and Wayland lacks it; so a sound, if there
 /// is one, stands in.
-void Beep(Sound* standIn);
-/// Opens a link with the program that the desktop uses for it. The text goes out as it stands, but for one that is no
-/// link, such as a name without a scheme: nothing is opened.
-void GotoURL(StringView url);
+void Beep(const Sound* standIn);
+/// Opens a link with the program that the desktop uses for it. The text goes out as it stands. False where there is no
+/// such program, and for a text that is no link, such as a name without a scheme.
+bool GotoURL(StringView url);
 } // namespace System
 
 /// The keys held down at this moment.

@@ -52,10 +52,10 @@ public:
     /// text comes without blanks and line ends around it, and goes in like that where another isn't given; that takes
     /// the place of all that the field holds.
     std::function<String(StringView text)> Tidied;
-    /// An item was dropped on the field; without a handler it takes none.
-    std::function<void(const FolderItem& item)> ItemDropped;
-    /// Whether the pointer shows, over the field, that an item can be dropped; it always can.
-    std::function<bool(const FolderItem& item)> TakesItem;
+    /// An item was dropped on the field, or something else than one that is there; without a handler it takes none.
+    std::function<void(const std::optional<FolderItem>& item)> ItemDropped;
+    /// Whether the pointer shows, over the field, that it can be dropped; it always can.
+    std::function<bool(const std::optional<FolderItem>& item)> TakesItem;
 };
 
 enum class TextAlignment { Left, Center, Right };

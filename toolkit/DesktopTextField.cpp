@@ -87,32 +87,30 @@ protected:
 
     void dropEvent(QDropEvent* event) override
     {
-        if (const std::optional<FolderItem> item = ItemIn(*event->mimeData())) {
+        if (IsForOwner(*event->mimeData())) {
             event->accept();
-            return owner_.ItemDropped(*item);
+            return owner_.ItemDropped(ItemIn(*event->mimeData()));
         }
         QLineEdit::dropEvent(event);
         Tidy();
     }
 
 private:
-    [[nodiscard]] std::optional<FolderItem> ItemIn(const QMimeData& dragged) const
+    [[nodiscard]] bool IsForOwner(const QMimeData& dragged) const { return owner_.ItemDropped && dragged.hasUrls(); }
+
+    [[nodiscard]] static std::optional<FolderItem> ItemIn(const QMimeData& dragged)
     {
-        if (!owner_.ItemDropped || !owner_.TakesInput() || dragged.urls().size() != 1) return {};
+        if (dragged.urls().size() != 1) return {};
         return FolderItem::Named(FromQt(dragged.urls().constFirst().toString()));
     }
 
     void Drag(QDragMoveEvent& event)
     {
-        if (const std::optional<FolderItem> item = ItemIn(*event.mimeData())) {
-            // It can be let go over the field all the same, which is answered with the reason.
-            event.setDropAction(owner_.TakesItem(*item) ? Qt::CopyAction : Qt::IgnoreAction);
-            event.accept();
-        } else if (owner_.ItemDropped && event.mimeData()->hasUrls()) {
-            event.ignore(); // Several items, or none that is there: their addresses are no path.
-        } else {
-            QLineEdit::dragMoveEvent(&event);
-        }
+        if (!IsForOwner(*event.mimeData())) return QLineEdit::dragMoveEvent(&event);
+        if (!owner_.TakesInput()) return event.ignore();
+        // It can be let go over the field all the same, which is answered with the reason.
+        event.setDropAction(owner_.TakesItem(ItemIn(*event.mimeData())) ? Qt::CopyAction : Qt::IgnoreAction);
+        event.accept();
     }
 
     [[nodiscard]] QString TidyOf(const QString& text) const { return ToQt(owner_.Tidied(FromQt(text.trimmed()))); }

@@ -120,7 +120,11 @@ DesktopWindow::Shell::Shell(DesktopWindow& owner, const WindowStyle& style)
     layout->setSizeConstraint(QLayout::SetMinAndMaxSize);
     layout->setMenuBar(menuBar_);
     layout->addWidget(content);
-    if (statusBar) layout->addWidget(statusBar);
+    if (statusBar) {
+        // Without a limit of its own it would let the user widen a window that has one.
+        statusBar->setMaximumWidth(content->maximumWidth());
+        layout->addWidget(statusBar);
+    }
     resize(style.width, style.height + MenuHeight() + StatusHeight());
 }
 

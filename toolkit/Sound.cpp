@@ -10,7 +10,7 @@
 
 namespace {
 
-using SoundPlayer = void(const QUrl& file, float volume, const std::shared_ptr<std::atomic<bool>>& isPlaying);
+using SoundPlayer = void(const QUrl& file, float volume);
 
 /// What plays, or null where the module is missing or its libraries are: sounds are an extra.
 SoundPlayer* LoadPlayer()
@@ -37,23 +37,14 @@ Sound::Sound(FolderItem file)
 {
 }
 
-std::unique_ptr<Sound> Sound::Clone() const
-{
-    std::unique_ptr<Sound> second(new Sound(file_));
-    second->volume_ = volume_;
-    return second;
-}
-
-void Sound::Play()
+void Sound::Play() const
 {
     if (Probe* const probe = Probe::Current()) {
         probe->Sounds.push_back(file_.Name());
         return;
     }
     static SoundPlayer* const play = LoadPlayer();
-    if (!play) return;
-    *isPlaying_ = true;
-    play(QUrl::fromLocalFile(ToQt(file_.NativePath())), static_cast<float>(volume_) / 100, isPlaying_);
+    if (play) play(QUrl::fromLocalFile(ToQt(file_.NativePath())), static_cast<float>(volume_) / 100);
 }
 
 void Sound::SetVolume(int percent) { volume_ = std::clamp(percent, 0, 100); }

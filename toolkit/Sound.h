@@ -3,21 +3,18 @@
 
 #include "toolkit/core/FolderItem.h"
 
-#include <atomic>
 #include <memory>
 
-/// A sound that can be played many times. The platform's sound system is woken by the first `Play`, not before.
+/// A sound that can be played many times, over itself too. The platform's sound system is woken by the first `Play`,
+/// not before.
 class Sound {
 public:
     /// The sound of a 16-bit PCM WAV file, or null when there is no such file. It must end in half a second of silence:
     /// a sound ends when its last sample has been handed over, not when it has been heard.
     static std::unique_ptr<Sound> OpenAsSound(const FolderItem& file);
 
-    /// A second voice of the same sound and volume.
-    [[nodiscard]] std::unique_ptr<Sound> Clone() const;
-    [[nodiscard]] bool IsPlaying() const { return *isPlaying_; }
-    /// Plays from the start; without a sound device, or with a broken file, nothing happens.
-    void Play();
+    /// Starts a voice of its own, whatever plays; without a sound device, or with a broken file, nothing happens.
+    void Play() const;
 
     /// Percent, 0 to 100, from the next `Play` on.
     [[nodiscard]] int Volume() const { return volume_; }
@@ -27,5 +24,4 @@ private:
     explicit Sound(FolderItem file);
     FolderItem file_;
     int volume_ = 100;
-    std::shared_ptr<std::atomic<bool>> isPlaying_ = std::make_shared<std::atomic<bool>>(false);
 };

@@ -6,8 +6,6 @@
 #include <QSoundEffect>
 #include <QThread>
 #include <QUrl>
-#include <atomic>
-#include <memory>
 
 namespace {
 
@@ -38,26 +36,21 @@ QAudioDevice Device()
 
 } // namespace
 
-/// Plays a file, `volume` from 0 to 1; `isPlaying` becomes false at its end, and when it can't be played.
-extern "C" Q_DECL_EXPORT void PlaySound(const QUrl& file, float volume,
-                                        const std::shared_ptr<std::atomic<bool>>& isPlaying);
+/// Plays a file, `volume` from 0 to 1.
+extern "C" Q_DECL_EXPORT void PlaySound(const QUrl& file, float volume);
 
-void PlaySound(const QUrl& file, float volume, const std::shared_ptr<std::atomic<bool>>& isPlaying)
+void PlaySound(const QUrl& file, float volume)
 {
     static QObject* const stage = MakeStage();
-    QMetaObject::invokeMethod(stage, [file, volume, isPlaying] {
+    QMetaObject::invokeMethod(stage, [file, volume] {
         const QAudioDevice device = Device();
-        if (device.isNull()) return void(*isPlaying = false);
+        if (device.isNull()) return;
         auto* const effect = new QSoundEffect(device, stage);
-        const auto end = [effect, isPlaying] {
-            *isPlaying = false;
-            effect->deleteLater();
-        };
-        QObject::connect(effect, &QSoundEffect::playingChanged, effect, [effect, end] {
-            if (!effect->isPlaying()) end();
+        QObject::connect(effect, &QSoundEffect::playingChanged, effect, [effect] {
+            if (!effect->isPlaying()) effect->deleteLater();
         });
-        QObject::connect(effect, &QSoundEffect::statusChanged, effect, [effect, end] {
-            if (effect->status() == QSoundEffect::Error) end();
+        QObject::connect(effect, &QSoundEffect::statusChanged, effect, [effect] {
+            if (effect->status() == QSoundEffect::Error) effect->deleteLater();
         });
         effect->setVolume(volume);
         effect->setSource(file);

@@ -559,6 +559,14 @@ Rückgabewert: 0 alles stimmt überein, 1 etwas wurde gemeldet,
         <source>Aucun gestionnaire de fichiers ne répond.</source>
         <translation>Kein Dateimanager antwortet.</translation>
     </message>
+    <message id="Localisation.Dit_PasDeLien">
+        <source>Aucun programme n'ouvre ce lien : ¿%</source>
+        <translation>Kein Programm öffnet diesen Link: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_ParBouton">
+        <source>Un bouton ferme cette fenêtre.</source>
+        <translation>Dieses Fenster schließt eine Schaltfläche.</translation>
+    </message>
     <message id="Localisation.Txt_NomNonGarde">
         <source>Le nom de cet élément ne peut pas être gardé : il n'est pas en UTF-8, ou un autre élément a presque le même.</source>
         <translation>Der Name dieses Objekts kann nicht behalten werden: Er ist kein UTF-8, oder ein anderes Objekt heißt fast genauso.</translation>

@@ -559,6 +559,14 @@ Exit status: 0 all agrees, 1 something was reported,
         <source>Aucun gestionnaire de fichiers ne répond.</source>
         <translation>No file manager answers.</translation>
     </message>
+    <message id="Localisation.Dit_PasDeLien">
+        <source>Aucun programme n'ouvre ce lien : ¿%</source>
+        <translation>No program opens this link: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_ParBouton">
+        <source>Un bouton ferme cette fenêtre.</source>
+        <translation>A button closes this window.</translation>
+    </message>
     <message id="Localisation.Txt_NomNonGarde">
         <source>Le nom de cet élément ne peut pas être gardé : il n'est pas en UTF-8, ou un autre élément a presque le même.</source>
         <translation>The name of this item can't be kept: it is no UTF-8, or another item has almost the same.</translation>

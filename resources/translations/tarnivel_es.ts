@@ -559,6 +559,14 @@ Estado de salida: 0 todo concuerda, 1 se ha señalado algo,
         <source>Aucun gestionnaire de fichiers ne répond.</source>
         <translation>Ningún gestor de archivos responde.</translation>
     </message>
+    <message id="Localisation.Dit_PasDeLien">
+        <source>Aucun programme n'ouvre ce lien : ¿%</source>
+        <translation>Ningún programa abre este enlace: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_ParBouton">
+        <source>Un bouton ferme cette fenêtre.</source>
+        <translation>Un botón cierra esta ventana.</translation>
+    </message>
     <message id="Localisation.Txt_NomNonGarde">
         <source>Le nom de cet élément ne peut pas être gardé : il n'est pas en UTF-8, ou un autre élément a presque le même.</source>
         <translation>El nombre de este elemento no se puede conservar: no está en UTF-8 u otro elemento tiene casi el mismo.</translation>

@@ -559,6 +559,14 @@ Stato di uscita: 0 tutto concorda, 1 qualcosa è stato segnalato,
         <source>Aucun gestionnaire de fichiers ne répond.</source>
         <translation>Nessun gestore di file risponde.</translation>
     </message>
+    <message id="Localisation.Dit_PasDeLien">
+        <source>Aucun programme n'ouvre ce lien : ¿%</source>
+        <translation>Nessun programma apre questo link: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_ParBouton">
+        <source>Un bouton ferme cette fenêtre.</source>
+        <translation>Un pulsante chiude questa finestra.</translation>
+    </message>
     <message id="Localisation.Txt_NomNonGarde">
         <source>Le nom de cet élément ne peut pas être gardé : il n'est pas en UTF-8, ou un autre élément a presque le même.</source>
         <translation>Il nome di questo elemento non può essere conservato: non è in UTF-8, oppure un altro elemento ha quasi lo stesso.</translation>

@@ -559,6 +559,14 @@ Afsluitstatus: 0 alles stemt overeen, 1 er is iets gemeld,
         <source>Aucun gestionnaire de fichiers ne répond.</source>
         <translation>Er antwoordt geen bestandsbeheerder.</translation>
     </message>
+    <message id="Localisation.Dit_PasDeLien">
+        <source>Aucun programme n'ouvre ce lien : ¿%</source>
+        <translation>Geen programma opent deze link: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_ParBouton">
+        <source>Un bouton ferme cette fenêtre.</source>
+        <translation>Een knop sluit dit venster.</translation>
+    </message>
     <message id="Localisation.Txt_NomNonGarde">
         <source>Le nom de cet élément ne peut pas être gardé : il n'est pas en UTF-8, ou un autre élément a presque le même.</source>
         <translation>De naam van dit onderdeel kan niet worden bewaard: hij is geen UTF-8, of een ander onderdeel heet bijna hetzelfde.</translation>

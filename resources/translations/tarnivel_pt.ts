@@ -559,6 +559,14 @@ Estado de saída: 0 tudo coincide, 1 algo foi assinalado,
         <source>Aucun gestionnaire de fichiers ne répond.</source>
         <translation>Nenhum gestor de ficheiros responde.</translation>
     </message>
+    <message id="Localisation.Dit_PasDeLien">
+        <source>Aucun programme n'ouvre ce lien : ¿%</source>
+        <translation>Nenhum programa abre esta ligação: ¿%</translation>
+    </message>
+    <message id="Localisation.Dit_ParBouton">
+        <source>Un bouton ferme cette fenêtre.</source>
+        <translation>Um botão fecha esta janela.</translation>
+    </message>
     <message id="Localisation.Txt_NomNonGarde">
         <source>Le nom de cet élément ne peut pas être gardé : il n'est pas en UTF-8, ou un autre élément a presque le même.</source>
         <translation>O nome deste item não pode ser guardado: não está em UTF-8, ou outro item tem quase o mesmo.</translation>

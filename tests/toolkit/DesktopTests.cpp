@@ -27,7 +27,7 @@ TEST(Desktop, OpensLinksAndItems)
         QDesktopServices::setUrlHandler(scheme, &opened, "Note");
     for (const StringView text : {U"http://example.invalid/a b?c=d&e#f", U"mailto:somebody@example.invalid", U"", U" ",
                                   U"no link", U"--help", U"http://[::1", U"packs.ini"})
-        System::GotoURL(text);
+        EXPECT_EQ(System::GotoURL(text), text.starts_with(U"http://e") || text.starts_with(U"mailto:"));
     OpenItem(FolderItem("/tmp/100% Alpes"));
     EXPECT_EQ(opened.urls, (QStringList{"http://example.invalid/a%20b?c=d&e#f", "mailto:somebody@example.invalid",
                                         "file:///tmp/100%25%20Alpes"}));
@@ -46,24 +46,6 @@ TEST(Timer, FiresOnceUnlessItIsOff)
         EXPECT_TRUE(QTest::qWaitFor([&, before = ends] { return ends > before; }));
         EXPECT_EQ(shots, 1);
     }
-}
-
-TEST(Sound, IsSilentWithoutASoundDevice)
-{
-    EXPECT_EQ(Sound::OpenAsSound(*ResourceFolder()), nullptr);
-    const auto sound = Sound::OpenAsSound(*ResourceFolder()->Child(U"Bip.wav"));
-    ASSERT_TRUE(sound);
-    sound->SetVolume(30);
-    const auto clone = sound->Clone();
-    EXPECT_EQ(clone->Volume(), 30);
-    testing::internal::CaptureStderr();
-    sound->Play();
-    clone->Play();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !sound->IsPlaying() && !clone->IsPlaying(); }, 60'000));
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
-    Probe probe;
-    sound->Play();
-    EXPECT_EQ(probe.Sounds, std::vector{U"Bip.wav"s});
 }
 
 } // namespace

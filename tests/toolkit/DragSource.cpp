@@ -1,4 +1,4 @@
-/// A window from which one file can be dragged.
+/// A window from which the files that it is started with can be dragged.
 #include <QApplication>
 #include <QDrag>
 #include <QMimeData>
@@ -8,9 +8,12 @@
 struct Source : QWidget {
     void mousePressEvent(QMouseEvent*) override
     {
+        QList<QUrl> urls;
+        for (const QString& item : QApplication::arguments().mid(1))
+            urls << QUrl::fromLocalFile(item);
         auto* const drag = new QDrag(this);
         drag->setMimeData(new QMimeData);
-        drag->mimeData()->setUrls({QUrl::fromLocalFile(QApplication::arguments().at(1))});
+        drag->mimeData()->setUrls(urls);
         drag->exec(Qt::CopyAction);
     }
 };

@@ -60,6 +60,7 @@ TEST(Window, KeepsTheSizesOfItsContent)
         EXPECT_EQ(QSize(window.Width(), window.Height()), expected);
         EXPECT_EQ(QSize(field.Width(), WidgetOf(field).width()), QSize(1, 1) * (expected.width() - 300));
     }
+    EXPECT_EQ(content.window()->maximumWidth(), 800) << "for the user too";
     window.SetTop(100);
     EXPECT_EQ(content.mapToGlobal(QPoint(0, 0)), QPoint(40, 100));
 }
