@@ -8,7 +8,7 @@
 #include <algorithm>
 
 App::App(int& argc, char** argv)
-    : DesktopApplication(argc, argv, U"Tarnivel", String(Build::Version))
+    : DesktopApplication(argc, argv, U"Tarnivel", String(Build::Version), SmallestScreen)
 {
     current_ = this;
     SetDesktopEntry(U"fr.kavesti.tarnivel", U"tarnivel");

@@ -9,6 +9,9 @@ public:
     App(int& argc, char** argv);
     ~App() override { current_ = nullptr; }
 
+    /// The main window at its smallest, with a margin.
+    static constexpr DesktopDisplay SmallestScreen{780, 460};
+
     /// The one application object; it lives as long as `main` runs.
     static App& Current() { return *current_; }
 

@@ -227,9 +227,8 @@ void WinMain::Event_Opening()
 /// What keeps the program from starting, or "".
 String WinMain::StartFailure() const
 {
-    constexpr int margin = 60;
     const DesktopDisplay screen = DesktopDisplay::DisplayAt(0);
-    if (screen.Width - margin < MinimumWidth() || screen.Height - margin < MinimumHeight())
+    if (screen.Width < App::SmallestScreen.Width || screen.Height < App::SmallestScreen.Height)
         return U"The screen size is too small.";
     const Fncts::Outcome folder = Fncts::DefDossAppDataPref();
     return folder ? U"" : U"Impossible to create the Preferences folder.\n" + folder.failure;
@@ -303,5 +302,5 @@ void WinMain::ApplePrefs_Action()
     } else if (Fncts::PasNil_Existe_Alias(Fncts::DossierPref, true))
         Fncts::Ouvrir(*Fncts::DossierPref);
     else
-        Fncts::Refuser(Fncts::Filled(Dit_PasLa(), {Fncts::DossierPref ? Fncts::DossierPref->NativePath() : String()}));
+        Fncts::Refuser(Filled(Dit_PasLa(), {Fncts::DossierPref ? Fncts::DossierPref->NativePath() : String()}));
 }

@@ -3,7 +3,6 @@
 #include "localisation/Localisation.h"
 #include "support/Fncts.h"
 #include "support/Status.h"
-#include "support/TextHelpers.h"
 #include "toolkit/Desktop.h"
 #include "toolkit/DesktopApplication.h"
 #include "toolkit/core/Exceptions.h"
@@ -73,7 +72,7 @@ void Ouvrir(const FolderItem& item)
 
 void SuivreLien(StringView url)
 {
-    if (!System::GotoURL(url)) Refuser(Filled(Localisation::Dit_PasDeLien(), {url}));
+    if (!System::GotoURL(url)) Refuser(Localisation::Filled(Localisation::Dit_PasDeLien(), {url}));
 }
 
 FolderItem RetDossCetApp(const FolderItem& executable)

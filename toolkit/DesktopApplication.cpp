@@ -14,6 +14,7 @@
 #include <QToolTip>
 #include <QTranslator>
 #include <algorithm>
+#include <cmath>
 #include <csignal>
 #include <cstdio>
 #include <utility>
@@ -54,21 +55,33 @@ public:
     }
 };
 
-std::unique_ptr<QApplication> MakeApplication(int& argc, char** argv)
+std::unique_ptr<QApplication> MakeApplication(int& argc, char** argv, const DesktopDisplay& needed)
 {
 #ifndef Q_OS_MACOS
     // Known before the application is made, or the desktop's own style is loaded first.
     QApplication::setStyle(QStringLiteral("Fusion"));
 #endif
-    return std::make_unique<GuardedApplication>(argc, argv);
+    auto application = std::make_unique<GuardedApplication>(argc, argv);
+    const DesktopDisplay screen = DesktopDisplay::DisplayAt(0);
+    const double share = std::min(1.0 * screen.Width / needed.Width, 1.0 * screen.Height / needed.Height);
+    if (share >= 1 || share * application->devicePixelRatio() < 1) return application;
+    // The scale is read when an application is made. Programs that this one starts are to have the desktop's.
+    constexpr const char* variable = "QT_SCALE_FACTOR";
+    const QByteArray desktops = qgetenv(variable);
+    const double scale = desktops.isEmpty() ? 1 : desktops.toDouble();
+    application.reset();
+    qputenv(variable, QByteArray::number(std::floor(100 * scale * share) / 100));
+    application = std::make_unique<GuardedApplication>(argc, argv);
+    qputenv(variable, desktops);
+    return application;
 }
 
 } // namespace
 
-DesktopApplication::DesktopApplication(int& argc, char** argv, String name, String version)
+DesktopApplication::DesktopApplication(int& argc, char** argv, String name, String version, DesktopDisplay needed)
     : Name(std::move(name))
     , Version(std::move(version))
-    , application_(MakeApplication(argc, argv))
+    , application_(MakeApplication(argc, argv, needed))
 {
     current_ = this;
     QApplication::setPalette(LightPalette());

@@ -1,6 +1,7 @@
 /// The application: event loop, windows, menu bar, end.
 #pragma once
 
+#include "toolkit/Desktop.h"
 #include "toolkit/DesktopMenu.h"
 #include "toolkit/DesktopWindow.h"
 
@@ -14,7 +15,8 @@ class QWidget;
 /// The one application object. It must live before the first window and after the last.
 class DesktopApplication {
 public:
-    DesktopApplication(int& argc, char** argv, String name, String version);
+    /// `needed` is the screen that the windows need: if the desktop's scale leaves fewer points, it is lowered.
+    DesktopApplication(int& argc, char** argv, String name, String version, DesktopDisplay needed = {1, 1});
     DesktopApplication(const DesktopApplication&) = delete;
     DesktopApplication& operator=(const DesktopApplication&) = delete;
     virtual ~DesktopApplication();

@@ -123,6 +123,7 @@ DesktopWindow::Shell::Shell(DesktopWindow& owner, const WindowStyle& style)
     if (statusBar) {
         // Without a limit of its own it would let the user widen a window that has one.
         statusBar->setMaximumWidth(content->maximumWidth());
+        statusBar->setSizeGripEnabled(style.resizable);
         layout->addWidget(statusBar);
     }
     resize(style.width, style.height + MenuHeight() + StatusHeight());

@@ -14,6 +14,7 @@
 #include <QHeaderView>
 #include <QOperatingSystemVersion>
 #include <QPointer>
+#include <QScreen>
 #include <QTreeView>
 #include <cstdio>
 #include <memory>
@@ -84,7 +85,10 @@ std::optional<FolderItem> Choose(const String& prompt, const DesktopWindow* wind
     chooser->setOption(QFileDialog::DontResolveSymlinks);
     const bool isMac = QOperatingSystemVersion::currentType() == QOperatingSystemVersion::MacOS;
     chooser->setOption(QFileDialog::DontUseNativeDialog, !isMac);
-    chooser->resize(chooser->sizeHint().expandedTo({820, 480}));
+    // Names, sizes and dates fit beside each other in any font.
+    constexpr int letters = 48, lines = 28;
+    const QSize room = QSize(letters, lines) * chooser->fontMetrics().height();
+    chooser->resize(chooser->sizeHint().expandedTo(room).boundedTo(chooser->screen()->availableSize() * 9 / 10));
     if (auto* const list = chooser->findChild<QTreeView*>()) {
         // By itself each column but the first has the same width, and cuts dates off.
         list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);

@@ -75,6 +75,11 @@ def edit(program):
     program.wait_for("four rows", lambda: rows() == 4)
     program.keys("shift+Delete")
     program.wait_for("three rows", lambda: rows() == 3)
+    for redo in ("ctrl+y", "ctrl+shift+z"):
+        program.keys("ctrl+z")
+        program.wait_for("four rows again", lambda: rows() == 4)
+        program.keys(redo)
+        program.wait_for("three rows again", lambda: rows() == 3)
     for name in ("Édition", "Annuler"):
         place = program.extents(program.find("menu item", name))
         click(place[0] + 5, place[1] + 5)

@@ -43,7 +43,11 @@ def main(command, on_small_screen=False):
     refused(command, private_environment())
     refused(command, private_environment("/dev/null"))
     with tempfile.TemporaryDirectory() as home:
-        refused(command, private_environment(home, QT_FONT_DPI="192"), "The screen size is too small.")
+        # As many pixels as the window needs, in half as many points.
+        with Program([command], private_environment(home, QT_FONT_DPI="192")) as program:
+            left, top, width, height = program.extents(program.window())
+            assert 0 <= left and left + width <= 1280 and top + height <= 900, (left, top, width, height)
+            assert program.close() == 0
     subprocess.run([TOOLS / "screen.sh", "780x459", sys.executable, __file__, command, "small"], check=True)
 
 
