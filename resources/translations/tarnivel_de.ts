@@ -434,8 +434,8 @@ Packs nachher</translation>
         <translation>„¿%“ ist nicht lesbar: ¿%</translation>
     </message>
     <message id="Localisation.Txt_RaisonTuileAbimee">
-        <source>une tuile est abîmée</source>
-        <translation>eine Kachel ist beschädigt</translation>
+        <source>une tuile est abîmée, ou comprimée autrement qu'en LZMA</source>
+        <translation>eine Kachel ist beschädigt oder anders als mit LZMA gepackt</translation>
     </message>
     <message id="Localisation.Txt_RaisonPasUnPack">
         <source>ce n'est pas une ligne de pack</source>

@@ -434,8 +434,8 @@ Packs after</translation>
         <translation>“¿%” can't be read: ¿%</translation>
     </message>
     <message id="Localisation.Txt_RaisonTuileAbimee">
-        <source>une tuile est abîmée</source>
-        <translation>a tile is damaged</translation>
+        <source>une tuile est abîmée, ou comprimée autrement qu'en LZMA</source>
+        <translation>a tile is damaged, or packed otherwise than by LZMA</translation>
     </message>
     <message id="Localisation.Txt_RaisonPasUnPack">
         <source>ce n'est pas une ligne de pack</source>

@@ -434,8 +434,8 @@ Packs después</translation>
         <translation>«¿%» no se puede leer: ¿%</translation>
     </message>
     <message id="Localisation.Txt_RaisonTuileAbimee">
-        <source>une tuile est abîmée</source>
-        <translation>una tesela está dañada</translation>
+        <source>une tuile est abîmée, ou comprimée autrement qu'en LZMA</source>
+        <translation>una tesela está dañada, o comprimida de otro modo que con LZMA</translation>
     </message>
     <message id="Localisation.Txt_RaisonPasUnPack">
         <source>ce n'est pas une ligne de pack</source>

@@ -434,8 +434,8 @@ Pack dopo</translation>
         <translation>«¿%» non può essere letto: ¿%</translation>
     </message>
     <message id="Localisation.Txt_RaisonTuileAbimee">
-        <source>une tuile est abîmée</source>
-        <translation>un riquadro è danneggiato</translation>
+        <source>une tuile est abîmée, ou comprimée autrement qu'en LZMA</source>
+        <translation>un riquadro è danneggiato, o compresso in modo diverso da LZMA</translation>
     </message>
     <message id="Localisation.Txt_RaisonPasUnPack">
         <source>ce n'est pas une ligne de pack</source>

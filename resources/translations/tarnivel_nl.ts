@@ -434,8 +434,8 @@ Packs na</translation>
         <translation>‘¿%’ kan niet worden gelezen: ¿%</translation>
     </message>
     <message id="Localisation.Txt_RaisonTuileAbimee">
-        <source>une tuile est abîmée</source>
-        <translation>een tegel is beschadigd</translation>
+        <source>une tuile est abîmée, ou comprimée autrement qu'en LZMA</source>
+        <translation>een tegel is beschadigd, of anders ingepakt dan met LZMA</translation>
     </message>
     <message id="Localisation.Txt_RaisonPasUnPack">
         <source>ce n'est pas une ligne de pack</source>

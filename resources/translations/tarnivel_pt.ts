@@ -434,8 +434,8 @@ Packs depois</translation>
         <translation>“¿%” não pode ser lido: ¿%</translation>
     </message>
     <message id="Localisation.Txt_RaisonTuileAbimee">
-        <source>une tuile est abîmée</source>
-        <translation>um mosaico está danificado</translation>
+        <source>une tuile est abîmée, ou comprimée autrement qu'en LZMA</source>
+        <translation>um mosaico está danificado, ou comprimido de outro modo que não LZMA</translation>
     </message>
     <message id="Localisation.Txt_RaisonPasUnPack">
         <source>ce n'est pas une ligne de pack</source>

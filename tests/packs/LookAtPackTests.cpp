@@ -64,6 +64,8 @@ TEST(Tile, TileKindOf)
         EXPECT_EQ(TileKindOf(bytes), kind) << name;
 }
 
+constexpr StringView damaged = U"une tuile est abîmée, ou comprimée autrement qu'en LZMA";
+
 class Scenery : public testing::Test {
 protected:
     static constexpr StringView line = U"SCENERY_PACK Custom Scenery/p/";
@@ -106,13 +108,12 @@ TEST_F(Scenery, ShowsWhatItIs)
         {"a head of 200 kB",
          {{tiles / "a.dsf", DsfWith(std::string(200'000, 'x') + "\0x\0sim/overlay\0001\0"s)}},
          U"overlay "},
-        {"a head of 300 kB",
-         {{tiles / "a.dsf", DsfWith(std::string(300'000, 'x') + "\0x\0"s)}},
-         U"une tuile est abîmée"},
-        {"half an archive",
-         {{tiles / "a.dsf", packedOverlay.substr(0, packedOverlay.size() / 2)}},
-         U"une tuile est abîmée"},
-        {"an empty tile", {{tiles / "a.dsf", ""}}, U"une tuile est abîmée"},
+        {"a head of 300 kB", {{tiles / "a.dsf", DsfWith(std::string(300'000, 'x') + "\0x\0"s)}}, damaged},
+        {"half an archive", {{tiles / "a.dsf", packedOverlay.substr(0, packedOverlay.size() / 2)}}, damaged},
+        {"an archive that points nowhere",
+         {{tiles / "a.dsf", std::string(packedOverlay).replace(12, 8, 8, '\xff')}},
+         damaged},
+        {"an empty tile", {{tiles / "a.dsf", ""}}, damaged},
         {"a library and a plugin", {{"p/library.txt", ""}, {"p/plugins/64/lin.xpl", ""}}, U"library plugins "},
         {"a file named like the folder of plugins", {{"p/plugins", ""}}, U"rien n'y dit ce que c'est"},
         {"nothing", {{"p/readme.txt", ""}, {"p/Earth nav data/+40+000/readme.txt", ""}}, U"rien n'y dit ce que c'est"},
