@@ -38,6 +38,14 @@ def check_toggle(program, area):
     """By the mouse, above all orange lines: they stay orange, and Ctrl+Z and Ctrl+Shift+Z work at once."""
     before, orange = program.text(area), orange_lines(program, area)
     assert orange, before
+    for shift in (True, False):
+        program.keys("ctrl+a")
+        with program.held(*["shift"] * shift):
+            click(program, program.find("push button", TOGGLE)) if shift else program.keys("Delete")
+        program.wait_for("another text", lambda: program.text(area) != before)
+        program.keys("ctrl+z")
+        program.wait_for("all lines", lambda: program.text(area) == before)
+        assert orange_lines(program, area) == orange and not program.windows(dialogs=True)
     at = before.index("\n" + ENABLED) + 4
     program.select(area, at, at)
     click(program, program.find("push button", TOGGLE))
@@ -105,6 +113,20 @@ def check_typing(program, area):
     program.wait_for("the text before", lambda: program.text(area) == text)
 
 
+def check_failed_run(program, files):
+    """Its save is asked about, and Enter gives it up."""
+    before = files.source_file.read_bytes()
+    files.model_file.write_bytes(b"I\r\n")
+    program.keys("F5")
+    program.wait_for("the error", lambda: program.text(program.find("text", "Spack Après")) == "### Error ###")
+    program.keys("ctrl+s")
+    question = program.dialog()
+    program.wait_for("the question in front", lambda: has(question, "active"))
+    program.keys("Return")
+    program.find("notification", "Rien n'a été enregistré")
+    assert files.source_file.read_bytes() == before
+
+
 def main(command):
     with sample() as files, Program([command], private_environment(files.home)) as program:
         program.press("Générer")
@@ -114,6 +136,7 @@ def main(command):
         area = check_views(program, area, edited)
         check_typing(program, area)
         check_run_is_taken_back(program, area, edited)
+        check_failed_run(program, files)
         assert (program.close(), program.stderr()) == (0, "")
 
 

@@ -173,19 +173,24 @@ def ask_for_log_out():
 
 
 def check_log_out(command, files):
-    """A real session manager ends the log-in."""
+    """A real session manager ends the log-in, after the question about an edit."""
     needs("xsm")
     environment = private_environment(files.home, SM_SAVE_DIR=str(files.home))
     (files.home / ".xsmstartup").write_text(f"{command}\n")
     manager = subprocess.Popen(["xsm", "-session", "first"], env=environment, stderr=subprocess.DEVNULL)
     try:
         panel = window_named("xsm: Default")
-        window_named("^Tarnivel$")
+        xdotool("windowactivate", "--sync", window_named("^Tarnivel$"), "type", "x")
+        window_named("^Tarnivel[*]$")
         files.preferences.unlink()
         xdotool("windowmove", panel, 1000, 300, "windowactivate", "--sync", panel)
         dialog = wait_for("the question of the session manager", ask_for_log_out)
         xdotool("mousemove", "--window", dialog, 150, 18, "click", 1, "type", "any name")
         xdotool("mousemove", "--window", dialog, 50, 137, "click", 1)
+        front = ["xdotool", "getactivewindow", "getwindowname"]
+        wait_for("the question", lambda: subprocess.run(front, capture_output=True).stdout == b"Tarnivel\n")
+        assert not files.preferences.exists()
+        xdotool("key", "Tab", "Return")
         wait_for("the preferences", files.preferences.exists)
         manager.wait(60)
     finally:

@@ -2,7 +2,8 @@
 
 import sys
 
-from desktop import Program, has, nodes, private_environment, xdotool
+from desktop import Program, has, nodes, pixel, private_environment, xdotool
+from gi.repository import Atspi
 from sample import DISABLED, ENABLED, sample
 
 ORANGE, FIRST = "255,127,0", "SCENERY_PACK Custom Scenery/{}/"
@@ -96,6 +97,27 @@ def check_search(editor):
     assert program.selection(editor.area) == before
 
 
+def check_wrapped_search(editor):
+    """Where lines wrap, since the wheel made the text large, the previous match too stands five lines below the top."""
+    program, area = editor.program, editor.area
+    box = lambda: Atspi.Text.get_character_extents(area, program.selection(area)[0], Atspi.CoordType.SCREEN)  # noqa: E731
+    left, top, width, height = program.extents(area)
+    middle = len(program.text(area)) // 2
+    program.select(area, middle, middle)
+    small = box().height
+    xdotool("mousemove", left + width // 2, top + height // 2)
+    with program.held("ctrl"):
+        xdotool("click", "--repeat", 12, 4)
+    program.wait_for("a large text", lambda: box().height > 2 * small)
+    program.set_text(program.find("text", "Chercher"), "SCENERY_PACK Custom")
+    program.keys("shift+F3")
+    program.wait_for("the match", lambda: program.selection(area)[0] != middle)
+    white = lambda line: pixel(left + 10, top + 12 + line * box().height) == "srgb(255,255,255)"  # noqa: E731
+    program.wait_for("the match below five lines", lambda: [white(line) for line in (4, 5, 6)] == [True, False, True])
+    program.keys("ctrl+0")
+    program.wait_for("a small text", lambda: box().height == small)
+
+
 def check_folders(editor, files):
     program, before = editor.program, editor.lines()
     missing = files.folders_not_listed()
@@ -120,6 +142,7 @@ def main(command):
         check_marks(editor, marked)
         check_lines(editor)
         check_search(editor)
+        check_wrapped_search(editor)
         check_folders(editor, files)
         choose(program, "Dernier rapport")
         report = next(node for node in nodes(program.dialog()) if node.get_role_name() == "text")
