@@ -1,10 +1,6 @@
-#include "engine/SceneryText.h"
 #include "engine/Sections.h"
-#include "localisation/Localisation.h"
-#include "tests/engine/Outcome.h"
+#include "tests/engine/RunLaws.h"
 #include "toolkit/core/FolderItem.h"
-
-#include <algorithm>
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include "engine/Checks.h"
 #include "engine/Proposal.h"
 #include "tests/TemporaryFolder.h"
-#include "tests/engine/Outcome.h"
+#include "tests/engine/RunLaws.h"
 
 #include <random>
 #include <set>

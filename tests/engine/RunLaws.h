@@ -1,12 +1,41 @@
-/// What holds for every run over two accepted texts.
+/// A run, and what holds for every one over two accepted texts.
 #pragma once
 
+#include "engine/CreerSpack.h"
 #include "engine/SceneryText.h"
 #include "localisation/Localisation.h"
-#include "tests/engine/Outcome.h"
 
 #include <algorithm>
+#include <gtest/gtest.h>
 #include <set>
+#include <utility>
+
+/// All that a run gives.
+struct Outcome {
+    String text;
+    std::vector<Int64> modelMarks, resultMarks;
+    /// Message and explanation of each report.
+    std::vector<std::pair<String, String>> reports;
+
+    friend bool operator==(const Outcome&, const Outcome&) = default;
+};
+
+inline Outcome RunEngine(StringView model, StringView source, const FolderItem& dossier)
+{
+    Outcome outcome;
+    SceneryTexts texts{String(model), String(source), {}, {}, {}};
+    CreerSpack(texts, dossier, [&outcome](const String& message, const String& explanation) {
+        outcome.reports.emplace_back(message, explanation);
+    });
+    EXPECT_TRUE(texts.TextModel == model && texts.TextSrcSpack == source) << "a run changed what it only reads";
+    outcome.text = std::move(texts.TextDestSpack);
+    outcome.modelMarks = std::move(texts.CoulModSpack);
+    outcome.resultMarks = std::move(texts.CoulDestSpack);
+    return outcome;
+}
+
+/// The reordering once more, as slow and as plain as can be: arrays that are searched from end to end.
+Outcome RunNaively(StringView model, StringView source, const std::vector<String>& folders);
 
 /// The lines from number `first` on without regard to their order and case; the last line end begins no other line.
 inline std::multiset<String> BagOfLines(StringView text, std::size_t first = 0)

@@ -48,6 +48,8 @@ TEST_F(MainWindow, ARunDisablesTheOtherWindowToo)
     window->SegButtSpecA.SetSelected(0, true);
     window->SegButtSpecA.Pressed(0);
     const auto& special = dynamic_cast<WinSpecA&>(*DesktopWindow::All().back());
+    window->BtnSave_Pressed();
+    EXPECT_EQ(probe.Asked.size(), 1U) << "a question, and nothing of a window without a cover";
     for (const bool idle : {false, true}) {
         App::Current().EnableMenuBoutons(idle);
         EXPECT_TRUE(special.TextFieldDest1.Enabled() == idle && special.PushButtTrait.Enabled() == idle) << idle;
