@@ -4,7 +4,7 @@ SearchResult SearchNext(StringView text, StringView word, const Selection& selec
 {
     const Int64 end = selection.start + selection.length;
     Int64 found = IndexOf(text, word, end - 1);
-    const bool wraps = found < 0 && end > 0;
+    const bool wraps = found < 0;
     if (wraps) found = IndexOf(text, word);
     if (found < 0) return {SearchOutcome::NotFound, {0, 0}};
     const Selection match{found, std::ssize(word)};

@@ -51,17 +51,20 @@ def check_special(program):
     program.front = "Tarnivel"
 
 
-def check_preferences_stay(program):
-    """Minimised, the window would take the main window along."""
+def check_preferences_stay(program, area):
+    """Minimised, the window would take the main window along, which takes no key meanwhile."""
+    text, (left, top, _, height) = program.text(area), program.extents(area)
     program.keys("ctrl+comma")
     program.front = "Préférences"
     preferences = program.window()
     program.wait_for("an active window", lambda: has(preferences, "active"))
+    xdotool("mousemove", left + 5, top + height - 5, "click", 1, "type", "z")
     xdotool("getactivewindow", "windowminimize")
     program.keys("Escape")
     program.wait_until_gone(preferences)
     program.front = "Tarnivel"
     program.wait_for("the main window", lambda: has(program.window(), "active"))
+    assert program.text(area) == text
 
 
 def main(command):
@@ -71,7 +74,7 @@ def main(command):
         check_menus(program, area)
         check_undo(program, area, text)
         check_special(program)
-        check_preferences_stay(program)
+        check_preferences_stay(program, area)
         program.process.terminate()
         assert program.wait_for_end() == 0
 

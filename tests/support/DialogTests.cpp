@@ -75,6 +75,7 @@ TEST_F(Dialogs, ASheetCoversTheOtherVisibleWindowsAlone)
     };
     other_.field.SetFocus();
     Ask(&asking_);
+    Fncts::MyDialogSave(U"name", U"Where?", &asking_);
     EXPECT_EQ(other_.Focus(), &other_.field);
     other_.SetWidth(500);
     EXPECT_TRUE(other_.IsFree() && other_.Height() == 100);
@@ -83,7 +84,7 @@ TEST_F(Dialogs, ASheetCoversTheOtherVisibleWindowsAlone)
     Ask(nullptr);
     Ask(&hidden);
     Ask(&asking_, false);
-    EXPECT_EQ(probe_.Asked.size(), 4U);
+    EXPECT_EQ(probe_.Asked.size(), 5U);
 }
 
 TEST_F(Dialogs, AFaultInADialogLeavesNothingLocked)
