@@ -34,6 +34,8 @@ void URLConnection::Send(StringView method, StringView url, int timeout)
     if (!manager_) manager_ = std::make_unique<QNetworkAccessManager>();
     QNetworkRequest request(QUrl(ToQt(url).trimmed()));
     request.setRawHeader("User-Agent", "Tarnivel");
+    // Of a connection that lives on, Qt now and then loses the answer to a redirection.
+    request.setRawHeader("Connection", "close");
     QNetworkReply* const reply = reply_ = manager_->sendCustomRequest(request, ToQt(method).toUpper().toLatin1());
     reply->setReadBufferSize(2 * MaximumSize);
     if (!AllowCertificateValidation) reply->ignoreSslErrors();

@@ -90,9 +90,9 @@ TEST(URLConnection, GivesTheAnswerOrAnError)
         {"a missing page is content too", Page("404 Not Found", "nothing"), false, Fine, 404, "nothing"},
         {"a page for those who log in is content too", Page("401 Unauthorized", "who?"), false, Fine, 401, "who?"},
         {"a failure of the server is content too", Page("500 Oops", "oops"), false, Fine, 500, "oops"},
-        {"a redirection is followed", Page(moved + "/elsewhere", ""), false, Fine, 200, "elsewhere"},
-        {"a redirection to itself comes to an end", Page(moved + "/page", ""), false, Redirects, 0, ""},
-        {"a redirection to a file is not followed", Page(moved + "file:///etc/fstab", ""), false, Unknown, 0, ""},
+        {"a redirection is followed", Page(moved + "/elsewhere", ""), true, Fine, 200, "elsewhere"},
+        {"a redirection to itself comes to an end", Page(moved + "/page", ""), true, Redirects, 0, ""},
+        {"a redirection to a file is not followed", Page(moved + "file:///etc/fstab", ""), true, Unknown, 0, ""},
         {"a page that breaks off is an error", Page("200 OK", "hel", 2), true, HungUp, 0, ""},
         {"so is one that breaks off late", Page("200 OK", std::string(300'000, '.'), 1), true, HungUp, 0, ""},
         {"a server that hangs up is an error", "", true, HungUp, 0, ""},
@@ -113,6 +113,7 @@ TEST(URLConnection, GivesTheAnswerOrAnError)
         EXPECT_EQ(client.status, status);
         EXPECT_EQ(client.content, content);
         EXPECT_EQ(server.requests.left(15), "GET /page HTTP/");
+        EXPECT_TRUE(server.requests.contains("\r\nConnection: close\r\n"));
     }
 }
 
