@@ -65,7 +65,7 @@ private:
                           owner_.TakesInput();
         if (!over)
             Leave();
-        else if (!std::exchange(inside_, true) && owner_.DragEnter)
+        else if (!std::exchange(inside_, true))
             owner_.DragEnter();
         // The content goes on being told where the pointer is.
         event.setDropAction(over ? Qt::CopyAction : Qt::IgnoreAction);
@@ -74,7 +74,7 @@ private:
 
     void Leave()
     {
-        if (std::exchange(inside_, false) && owner_.DragExit) owner_.DragExit();
+        if (std::exchange(inside_, false)) owner_.DragExit();
     }
 
     void Drop(QDropEvent& event)
@@ -84,7 +84,7 @@ private:
         event.accept();
         // The other program waits for the end of this event, and the handler may ask the user.
         QTimer::singleShot(0, this, [this, dropped = ItemOf(*event.mimeData())] {
-            if (owner_.DropObject && owner_.TakesInput()) owner_.DropObject(dropped);
+            if (owner_.TakesInput()) owner_.DropObject(dropped);
         });
     }
 

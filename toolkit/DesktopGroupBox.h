@@ -17,7 +17,7 @@ class DesktopGroupBox : public DesktopUIControl {
 public:
     DesktopGroupBox(DesktopWindow& window, const Placement& placement, StringView caption);
 
-    /// Files are dragged into the frame, or out of it again.
+    /// Files are dragged into the frame, or out of it again, or dropped. All three are to be set.
     std::function<void()> DragEnter, DragExit;
     std::function<void(const DragItem& item)> DropObject;
 };

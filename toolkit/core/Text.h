@@ -18,7 +18,6 @@ using Int64 = std::int64_t;
 
 namespace EndOfLine {
 inline constexpr StringView UNIX = U"\n";
-inline constexpr StringView CR = U"\r";
 /// The line end of the platform: LF on Linux and on macOS.
 inline constexpr StringView Native = UNIX;
 } // namespace EndOfLine
