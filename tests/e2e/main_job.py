@@ -82,10 +82,6 @@ def main(command):
         model = program.find("text", "Spack Modèle")
         assert program.text(model).rstrip("\n").split("\n") == files.model
         assert ORANGE in check_colors(program, model, files.unknown_to_source())
-        program.choose("Spack Après")
-        after = program.find("text", "Spack Après")
-        assert program.text(after) == edited
-        check_colors(program, after, unknown)
 
         program.keys("ctrl+q")
         assert program.answer() == [MODIFIED]
