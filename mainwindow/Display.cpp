@@ -6,6 +6,7 @@
 #include "support/Sounds.h"
 
 #include <algorithm>
+#include <utility>
 
 void WinMain::PopMenuAff_SelectionChanged()
 {
@@ -30,10 +31,15 @@ void WinMain::ShowStatus()
 {
     const TextDocument& shown = Document(PopMenuAff.SelectedRowIndex());
     const Int64 line = std::min(TextAreaAff.CaretLine() + 1, std::max(shown.LineCount(), Int64{1}));
-    SetStatus(StatusSentence(line, {.lines = shown.LineCount(),
-                                    .enabled = shown.LinesIn(Colouring::EnabledKeyword),
-                                    .disabled = shown.LinesIn(Colouring::DisabledKeyword),
-                                    .marked = shown.MarkedLines()}));
+    const bool marked = TextAreaAff.CaretLineShowsMark();
+    SetStatus(StatusSentence(line, marked,
+                             {.lines = shown.LineCount(),
+                              .enabled = shown.LinesIn(Colouring::EnabledKeyword),
+                              .disabled = shown.LinesIn(Colouring::DisabledKeyword),
+                              .marked = shown.MarkedLines()}));
+    // The colour alone tells nothing to the ear.
+    const std::pair place(&shown, line);
+    if (std::exchange(placeTold_, place) != place) SayUnseen(marked ? Unmatched() : String());
 }
 
 void WinMain::ShowRun(const SceneryTexts& texts, std::initializer_list<int> rows, bool modelIsCleaned,

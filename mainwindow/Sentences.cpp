@@ -10,9 +10,11 @@ String Counted(Int64 number, StringView forms)
     return ToText(number) + U" " + String(NthField(forms, U"|", number == 1 ? 1 : 2));
 }
 
-String StatusSentence(Int64 line, const LineCounts& counts)
+String Unmatched() { return String(NthField(Nb_SansEquiv(), U"|", 1)); }
+
+String StatusSentence(Int64 line, bool marked, const LineCounts& counts)
 {
-    return Filled(Dit_Ligne(), {ToText(line)}) + U" · " +
+    return Filled(Dit_Ligne(), {ToText(line)}) + (marked ? U", " + Unmatched() : String()) + U" · " +
            Join({{Counted(counts.lines, Nb_Lignes()), Counted(counts.enabled, Nb_Activees()),
                   Counted(counts.disabled, Nb_Desactivees()), Counted(counts.marked, Nb_SansEquiv())}},
                 U", ");

@@ -11,5 +11,8 @@ struct LineCounts {
 /// "12 lines": the number, and the one of two forms "line|lines" that goes with it.
 String Counted(Int64 number, StringView forms);
 
-/// "Line 3 · 12 lines, 7 enabled, 2 disabled, 1 unmatched".
-String StatusSentence(Int64 line, const LineCounts& counts);
+/// What is told of a marked line: "unmatched".
+String Unmatched();
+
+/// "Line 3, unmatched · 12 lines, 7 enabled, 2 disabled, 1 unmatched", the first only of a line that is `marked`.
+String StatusSentence(Int64 line, bool marked, const LineCounts& counts);

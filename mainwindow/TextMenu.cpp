@@ -57,14 +57,15 @@ void WinMain::MoveLines(bool down)
 void WinMain::GoToMark(bool forward)
 {
     TextAreaAff.SetFocus();
-    switch (TextAreaAff.GoToMark(forward, linesAbove)) {
-    case DesktopTextArea::Jump::None:
-        return Fncts::Refuser(Dit_AucuneMarque());
-    case DesktopTextArea::Jump::Around:
-        return Fncts::Dire(forward ? Dit_RepriseDebut() : Dit_RepriseFin());
-    case DesktopTextArea::Jump::Ahead:
-        return Fncts::Dire({});
-    }
+    const DesktopTextArea::Jump jump = TextAreaAff.GoToMark(forward, linesAbove);
+    if (jump == DesktopTextArea::Jump::None) return Fncts::Refuser(Dit_AucuneMarque());
+    if (jump == DesktopTextArea::Jump::Ahead)
+        Fncts::Dire({});
+    else
+        Fncts::Dire(forward ? Dit_RepriseDebut() : Dit_RepriseFin());
+    // Screen readers read out a line that an arrow key leads to, not that of another key.
+    constexpr std::size_t mostCharacters = 200;
+    SayUnseen(Unmatched() + U" : " + TextAreaAff.TextOfCaretLine().substr(0, mostCharacters));
 }
 
 void WinMain::SearchFromAnywhere(SearchWay way)

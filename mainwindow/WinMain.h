@@ -194,6 +194,8 @@ private:
     bool AsksToLose(std::initializer_list<int> rows);
     /// Brings the status bar in line with the text on screen.
     void ShowStatus();
+    /// The text and the line that the status bar told last.
+    std::pair<const TextDocument*, Int64> placeTold_;
     /// After a press by the mouse the keyboard is the text's again; a button that the Tab key led to keeps it.
     void ReturnFocus(const DesktopUIControl& button);
 

@@ -39,6 +39,10 @@ void DesktopTextArea::SetReadOnly(bool readOnly) { editor().setReadOnly(readOnly
 
 Int64 DesktopTextArea::CaretLine() const { return editor().textCursor().blockNumber(); }
 
+String DesktopTextArea::TextOfCaretLine() const { return FromDocument(editor().textCursor().block().text()); }
+
+bool DesktopTextArea::CaretLineShowsMark() const { return editor().Body().ShowsMark(editor().textCursor().block()); }
+
 Int64 DesktopTextArea::SelectionStart() const { return editor().Body().Offset(editor().textCursor().selectionStart()); }
 
 Int64 DesktopTextArea::SelectionLength() const

@@ -24,6 +24,8 @@ public:
 
     /// The line of the caret, counted from 0; a wrapped line is one.
     [[nodiscard]] Int64 CaretLine() const;
+    [[nodiscard]] String TextOfCaretLine() const;
+    [[nodiscard]] bool CaretLineShowsMark() const;
     std::function<void()> CaretMoved;
     [[nodiscard]] Int64 SelectionStart() const;
     [[nodiscard]] Int64 SelectionLength() const;

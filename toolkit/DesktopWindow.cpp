@@ -255,6 +255,11 @@ void DesktopWindow::Say(StringView sentence)
     if (where) where->shell_->statusBar->Say(ToQt(sentence));
 }
 
+void DesktopWindow::SayUnseen(StringView words)
+{
+    if (shell_->statusBar) shell_->statusBar->SayUnseen(ToQt(words));
+}
+
 bool DesktopWindow::Visible() const { return shell_->isVisible(); }
 
 bool DesktopWindow::Active() const { return shell_->isActiveWindow(); }

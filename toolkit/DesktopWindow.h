@@ -63,6 +63,8 @@ public:
     /// Shows a sentence for a while in the status bar of the window that the user works in; where that has none, in
     /// another's. A screen reader reads it out, the focus stays where it is. An empty one takes the last away.
     static void Say(StringView sentence);
+    /// A screen reader reads the words out, the screen doesn't show them. Empty ones take back what isn't read yet.
+    void SayUnseen(StringView words);
 
     [[nodiscard]] bool Visible() const;
     /// Whether the keyboard goes to this window.

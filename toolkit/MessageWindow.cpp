@@ -118,7 +118,8 @@ QDialog* MakeMessageWindow(const MessageDialog& content, QWidget* parent)
     auto* const dialog = new QDialog(parent);
     auto* const text = MakeReadOnlyText(dialog);
     const String message = Shown(content.Message);
-    AddText(*text, message, Shown(content.Explanation));
+    const String explanation = Shown(content.Explanation);
+    AddText(*text, message, explanation);
     text->setAccessibleName(ToQt(NthField(message, U"\n", 1)));
     auto* const buttons = new QDialogButtonBox(dialog);
     AddButtons(*dialog, *buttons, content);
@@ -138,5 +139,6 @@ QDialog* MakeMessageWindow(const MessageDialog& content, QWidget* parent)
     const QMargins margins = rows->contentsMargins();
     FitToScreen(*dialog, *text, buttons->sizeHint().height() + rows->spacing() + margins.top() + margins.bottom());
     dialog->setAccessibleName(ToQt(message));
+    dialog->setAccessibleDescription(ToQt(explanation));
     return dialog;
 }

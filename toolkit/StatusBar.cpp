@@ -4,10 +4,14 @@
 
 #include <QAccessibleWidget>
 #include <QLabel>
+#include <utility>
 
 namespace {
 
 constexpr int secondsOfSentence = 20;
+/// Milliseconds: a screen reader that is told at once of all that a window enables or shows drops what comes along, and
+/// of a caret that goes on only the line where it stays is of interest.
+constexpr int calmBeforeReading = 300;
 /// Points between a window's left edge and its controls.
 constexpr int leftOfControls = 18;
 
@@ -30,6 +34,7 @@ StatusBar::StatusBar(QWidget* window)
     : QStatusBar(window)
     , sentence_(new Sentence)
     , status_(new QLabel)
+    , unseen_(new Sentence)
 {
     SetControlFont(*this);
     for (QLabel* const label : {sentence_, status_})
@@ -38,12 +43,17 @@ StatusBar::StatusBar(QWidget* window)
     setContentsMargins(leftOfControls, 0, 0, 0);
     addWidget(sentence_, 1);
     addPermanentWidget(status_);
+    unseen_->setParent(this);
+    unseen_->hide();
     // No text makes the window wider or the content lower.
     setMinimumWidth(1);
     setFixedHeight(sizeHint().height());
     end_.setSingleShot(true);
     end_.setInterval(secondsOfSentence * 1000);
     connect(&end_, &QTimer::timeout, this, [this] { Say({}); });
+    calm_.setSingleShot(true);
+    calm_.setInterval(calmBeforeReading);
+    connect(&calm_, &QTimer::timeout, this, &StatusBar::ReadOut);
 }
 
 void StatusBar::SetStatus(const QString& status)
@@ -54,12 +64,29 @@ void StatusBar::SetStatus(const QString& status)
 
 void StatusBar::Say(const QString& sentence)
 {
-    sentence_->setAccessibleName(sentence);
+    SetWords(sentence_, sentence);
     Fit();
     if (sentence.isEmpty()) return end_.stop();
     end_.start();
-    QAccessibleEvent shown(sentence_, QAccessible::ObjectShow);
-    QAccessible::updateAccessibility(&shown);
+}
+
+void StatusBar::SayUnseen(const QString& words) { SetWords(unseen_, words); }
+
+void StatusBar::SetWords(QLabel* label, const QString& words)
+{
+    label->setAccessibleName(words);
+    untold_.removeOne(label);
+    if (words.isEmpty()) return;
+    untold_.append(label);
+    calm_.start();
+}
+
+void StatusBar::ReadOut()
+{
+    for (QLabel* const label : std::exchange(untold_, {})) {
+        QAccessibleEvent shown(label, QAccessible::ObjectShow);
+        QAccessible::updateAccessibility(&shown);
+    }
 }
 
 void StatusBar::resizeEvent(QResizeEvent* event)

@@ -15,13 +15,19 @@ public:
     void SetStatus(const QString& status);
     /// A screen reader reads the sentence out, wherever the focus is. An empty one takes the last away.
     void Say(const QString& sentence);
+    /// Is read out like a sentence, but not shown. An empty one takes back what isn't read yet.
+    void SayUnseen(const QString& words);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
     void Fit();
+    void SetWords(QLabel* label, const QString& words);
+    void ReadOut();
 
-    QLabel *const sentence_, *const status_;
-    QTimer end_;
+    QLabel *const sentence_, *const status_, *const unseen_;
+    QTimer end_, calm_;
+    /// What is to be read out.
+    QList<QLabel*> untold_;
 };

@@ -23,7 +23,7 @@ from gi.repository import Atspi, GLib  # noqa: E402
 
 DEADLINE = 60  # seconds: a sanitized program on a busy machine is slow to start
 UP, DOWN, RETURN = 0xFF52, 0xFF54, 0xFF0D  # X key symbols
-SESSION = ("PATH", "DISPLAY", "DBUS_SESSION_BUS_ADDRESS", "XDG_RUNTIME_DIR")
+SESSION = ("PATH", "DISPLAY", "WAYLAND_DISPLAY", "DBUS_SESSION_BUS_ADDRESS", "XDG_RUNTIME_DIR")
 SANITIZERS = ("ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS")
 
 

@@ -42,8 +42,8 @@ TEST(ReportSeries, FromTheFourthOfItsKindOnTheyAreGathered)
 
 TEST(Sentences, ANumberHasItsFormOfTheWord)
 {
-    EXPECT_EQ(StatusSentence(12, {.lines = 612, .enabled = 580, .disabled = 1, .marked = 0}),
-              U"Ligne 12 · 612 lignes, 580 activées, 1 désactivée, 0 sans équivalent");
+    EXPECT_EQ(StatusSentence(12, true, {.lines = 612, .enabled = 580, .disabled = 1, .marked = 0}),
+              U"Ligne 12, sans équivalent · 612 lignes, 580 activées, 1 désactivée, 0 sans équivalent");
 }
 
 TEST(ArchiveNames, TheMomentStandsBeforeTheExtension)
