@@ -122,7 +122,8 @@ def main(command, document=None):
     if document:
         text = pathlib.Path(document).read_text("utf-8")
         wanted = text.split(MARK)[1].split("\n```")[0].split("\n")
-        sys.exit("\n".join(difflib.unified_diff(wanted, "\n".join(lines).split("\n"), "wanted", "heard", lineterm="")))
+        heard = "\n".join(lines).split("\n")
+        sys.exit("\n".join(difflib.unified_diff(wanted, heard, "wanted", "heard", lineterm="")) or 0)
 
 
 main(*sys.argv[1:])

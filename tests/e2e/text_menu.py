@@ -14,12 +14,13 @@ def status(program, area):
     text = program.text(area)
     lines = text.removesuffix("\n").split("\n")
     starts = [sum(len(line) + 1 for line in lines[:i]) for i in range(len(lines))]
-    marked = sum(bool(line) and program.color_at(area, at + len(line) - 1) == ORANGE for at, line in zip(starts, lines))
+    marked = [bool(line) and program.color_at(area, at + len(line) - 1) == ORANGE for at, line in zip(starts, lines)]
     count = lambda prefix: sum(line.startswith(prefix) for line in lines)  # noqa: E731
     line = text[: program.selection(area)[1]].count("\n") + 1
     forms = [f"{n} {word}{'' if n == 1 else 's'}" for n, word in
              ((len(lines), "ligne"), (count(ENABLED), "activée"), (count(DISABLED), "désactivée"))]
-    return f"Ligne {line} · {', '.join(forms)}, {marked} sans équivalent"
+    here = ", sans équivalent" if marked[line - 1] else ""
+    return f"Ligne {line}{here} · {', '.join(forms)}, {sum(marked)} sans équivalent"
 
 
 def choose(program, item):
