@@ -136,7 +136,7 @@ String WinMain::Reorder(SceneryTexts& texts, const FolderItem& dossier)
     lastReport_ = reports.All();
     if (BeginsWith(texts.TextDestSpack, ErrorMarker))
         return Filled(Dit_ModeleRefuse(), {NthField(lastReport_, EndOfLine::Native, 1)});
-    const auto lines = CountFields(texts.TextDestSpack, TxtEoF) - (texts.TextDestSpack.ends_with(TxtEoF) ? 1 : 0);
+    const auto lines = CountFields(texts.TextDestSpack, TxtEoF) - 1; // each has its line end
     const auto marked = std::ssize(texts.CoulDestSpack);
     return Filled(Dit_Reordonne(), {Join({{Counted(lines, Nb_Lignes()), Counted(marked, Nb_SansEquiv()),
                                            Counted(reports.Count(), Nb_Remarques())}},

@@ -35,6 +35,7 @@ TEST_F(MainWindow, ARefusedTextStandsWhereItsViewIs)
         Run();
         const String said = probe.Said.back();
         EXPECT_TRUE(said.find(row.forms[0]) != String::npos && said.ends_with(row.forms[1]));
+        EXPECT_EQ(said.starts_with(U"Réordonné : 4 lignes, 1 sans équivalent, "), row.model == header);
         EXPECT_EQ(CountFields(said, U"simple texte"), 1 + !row.forms[0].empty() + !row.forms[1].empty());
         for (const int view : {0, 1, 2})
             EXPECT_EQ(View(view), row.views[view]);
