@@ -99,6 +99,7 @@ TEST_F(ListBoxTest, TheKeysChangeTheTable)
         {"Delete removes a whole row", 0, 1, {"Shift+Space", "Del"}, U"d|e|"},
         {"after a move only its cell is selected", 0, 1, {"Shift+Space", "Down", "Del"}, U"a|b|c/d||"},
         {"Shift+Delete removes the row", 0, 1, {"Shift+Del"}, U"d|e|"},
+        {"the row that is left is gone to", 0, 1, {"Shift+Del", "Del"}, U"|e|"},
         {"all rows are removed, and undone", 0, 1, {"Ctrl+A", "Del", "Ctrl+Z"}, U"a|b|c/d|e|"},
         {"a cell is copied to a cell", 0, 0, {"Ctrl+C", "Down", "Ctrl+V"}, U"a|b|c/a|e|"},
         {"a row is cut, and pasted below another", 0, 0, {"Shift+Space", "Ctrl+X", "Ctrl+V"}, U"d|e|/a|b|c"},
