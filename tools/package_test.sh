@@ -18,7 +18,7 @@ if [[ ${1-} != --on-screen ]]; then
     export SOURCE_DATE_EPOCH
     make_packages() { # make_packages OPTION OF CMAKE...
         rm -rf build/packages
-        (cmake --preset release "$@" && cmake --build --preset release && cpack --preset release) >build/packages.log ||
+        (cmake --preset release "$@" && cmake --build --preset release && cpack --preset release) >build/packages.log 2>&1 ||
             { cat build/packages.log && return 1; }
     }
     mkdir -p "$elsewhere/build"
