@@ -1,6 +1,7 @@
 #include "tests/TemporaryFolder.h"
 #include "toolkit/core/Exceptions.h"
 #include "toolkit/core/TextInputStream.h"
+#include "toolkit/core/TextOutputStream.h"
 
 #include <cerrno>
 #include <gtest/gtest.h>
@@ -62,6 +63,20 @@ TEST(TextInputStream, OpensFilesAlone)
     }
     std::filesystem::create_symlink(folder.File("real", "text"), folder.Path() / "link");
     EXPECT_EQ(TextInputStream::Open(FolderItem(folder.Path() / "link")).ReadAll(), "text");
+}
+
+TEST(TextOutputStream, ReplacesAFileWhenItIsClosed)
+{
+    const TemporaryFolder folder;
+    const FolderItem file(folder.File("file", "old"));
+    TextOutputStream(file).Write("given up");
+    EXPECT_EQ(folder.Content("file"), "old");
+    TextOutputStream stream(file);
+    stream.Write("new");
+    stream.Close();
+    file.CopyTo(FolderItem(folder.Path() / "copy"));
+    EXPECT_EQ(folder.Content("file") + folder.Content("copy"), "newnew");
+    EXPECT_EQ(FolderItem(folder.Path()).Children().size(), 2U) << "something is left over";
 }
 
 } // namespace
