@@ -11,7 +11,7 @@
 namespace {
 
 /// The second of the names wherever several are the same, in sorted order.
-std::vector<String> Repeated(std::span<const Listing> listings)
+std::vector<String> NamesTwice(std::span<const Listing> listings)
 {
     std::vector<StringView> names, seconds;
     std::ranges::transform(listings, std::back_inserter(names), &Listing::name);
@@ -31,7 +31,7 @@ std::vector<String> Repeated(std::span<const Listing> listings)
 String TestModelScen(std::span<const SceneryLine> lignes)
 {
     String report;
-    AppendSection(report, Localisation::Txt_ScenPlusDuneFois(), Repeated(ListingsOf(lignes)));
+    AppendSection(report, Localisation::Txt_ScenPlusDuneFois(), NamesTwice(ListingsOf(lignes)));
     return report;
 }
 
