@@ -116,6 +116,10 @@ inline constexpr Text Dit_SansEntete{U"Dit_SansEntete", U"ne commence pas comme 
 inline constexpr Text Dit_Enregistre{U"Dit_Enregistre", U"Enregistré : ¿%"};
 inline constexpr Text Dit_Archive{U"Dit_Archive", U"ancien fichier : ¿%"};
 inline constexpr Text Dit_PasEnregistre{U"Dit_PasEnregistre", U"Rien n'a été enregistré"};
+inline constexpr Text Err_PasDeReponse{U"Err_PasDeReponse", U"Pas de réponse complète en 10 secondes"};
+inline constexpr Text Err_ReponseTropLongue{U"Err_ReponseTropLongue",
+    U"La réponse a plus de 8 Mio ou de 250000 lignes"};
+inline constexpr Text Err_ReponseCoupee{U"Err_ReponseCoupee", U"La réponse a été coupée"};
 inline constexpr Text Dit_Introuvable{U"Dit_Introuvable", U"“¿%” introuvable"};
 inline constexpr Text Dit_SeulTrouve{U"Dit_SeulTrouve", U"“¿%” : pas d'autre occurrence"};
 inline constexpr Text Dit_RepriseDebut{U"Dit_RepriseDebut", U"Reprise au début du texte"};

@@ -2,6 +2,7 @@
 
 #include "localisation/Localisation.h"
 #include "support/TextHelpers.h"
+#include "toolkit/URLConnection.h"
 
 using namespace Localisation;
 
@@ -18,4 +19,18 @@ String StatusSentence(Int64 line, bool marked, const LineCounts& counts)
            Join({{Counted(counts.lines, Nb_Lignes()), Counted(counts.enabled, Nb_Activees()),
                   Counted(counts.disabled, Nb_Desactivees()), Counted(counts.marked, Nb_SansEquiv())}},
                 U", ");
+}
+
+String WhyNoAnswer(const RuntimeException& error)
+{
+    switch (error.ErrorNumber) {
+    case URLConnection::BrokeOff:
+        return Err_ReponseCoupee();
+    case URLConnection::TooLate:
+        return Err_PasDeReponse();
+    case URLConnection::TooLong:
+        return Err_ReponseTropLongue();
+    default:
+        return error.Message;
+    }
 }

@@ -1,7 +1,7 @@
 /// What the status bar says of a text and of a run.
 #pragma once
 
-#include "toolkit/core/Text.h"
+#include "toolkit/core/Exceptions.h"
 
 /// How many lines a text has, and how many of them are enabled packs, disabled packs, and marked.
 struct LineCounts {
@@ -16,3 +16,6 @@ String Unmatched();
 
 /// "Line 3, unmatched · 12 lines, 7 enabled, 2 disabled, 1 unmatched", the first only of a line that is `marked`.
 String StatusSentence(Int64 line, bool marked, const LineCounts& counts);
+
+/// Why a fetch failed, in the user's language where that is ours to say.
+String WhyNoAnswer(const RuntimeException& error);

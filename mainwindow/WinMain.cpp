@@ -6,6 +6,7 @@
 #include "app/WinAide.h"
 #include "engine/SceneryText.h"
 #include "localisation/Localisation.h"
+#include "mainwindow/Sentences.h"
 #include "preferences/WinPrefs.h"
 #include "specialA/WinSpecA.h"
 #include "support/Diagnostics.h"
@@ -157,7 +158,7 @@ void WinMain::BindHandlers()
         InRun([&] { RunSuite(Fncts::TextOfBytes(content)); });
     };
     URLCnctLirePage.Error = [this](const RuntimeException& error) {
-        InRun([&] { RunSuite({.text = String(ErrorMarker) + ToText(error.ErrorNumber) + U" " + error.Message}); });
+        InRun([&] { RunSuite({.text = String(ErrorMarker) + ToText(error.ErrorNumber) + U" " + WhyNoAnswer(error)}); });
     };
     PopMenuAff.SelectionChanged = [this] { PopMenuAff_SelectionChanged(); };
     StaticTextVersion.Pressed = [] { Fncts::SuivreLien(Addresses::VersionNotes); };

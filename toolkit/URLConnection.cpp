@@ -2,6 +2,7 @@
 
 #include "toolkit/core/QtText.h"
 
+#include <QDeadlineTimer>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QTimer>
@@ -30,22 +31,30 @@ URLConnection::~URLConnection() { Disconnect(); }
 
 void URLConnection::Send(StringView method, StringView url, int timeout)
 {
-    Disconnect();
-    if (!manager_) manager_ = std::make_unique<QNetworkAccessManager>();
     QNetworkRequest request(QUrl(ToQt(url).trimmed()));
     request.setRawHeader("User-Agent", "Tarnivel");
     // Of a connection that lives on, Qt now and then loses the answer to a redirection.
     request.setRawHeader("Connection", "close");
-    QNetworkReply* const reply = reply_ = manager_->sendCustomRequest(request, ToQt(method).toUpper().toLatin1());
+    request.setRawHeader("Accept-Encoding", "identity"); // of what it unpacks, Qt tells no length
+    Ask(request, ToQt(method).toUpper().toLatin1(), std::chrono::seconds(timeout));
+}
+
+void URLConnection::Ask(const QNetworkRequest& request, const QByteArray& method, std::chrono::milliseconds time)
+{
+    Disconnect();
+    if (!manager_) manager_ = std::make_unique<QNetworkAccessManager>();
+    QNetworkReply* const reply = reply_ = manager_->sendCustomRequest(request, method);
     reply->setReadBufferSize(2 * MaximumSize);
     if (!AllowCertificateValidation) reply->ignoreSslErrors();
-    const auto read = [this, reply] {
-        if (reply == reply_ && (reply->isFinished() || reply->bytesAvailable() > MaximumSize)) Read();
+    const QDeadlineTimer end(time);
+    const auto read = [this, reply, method, end] {
+        if (reply == reply_ && (reply->isFinished() || reply->bytesAvailable() > MaximumSize))
+            Read(*reply, method, std::chrono::milliseconds(end.remainingTime()));
     };
     QObject::connect(reply, &QNetworkReply::readyRead, reply, read);
     QObject::connect(reply, &QNetworkReply::finished, reply, read);
-    QTimer::singleShot(std::chrono::seconds(timeout), reply, [this, reply, timeout] {
-        if (reply == reply_) Fail(QNetworkReply::TimeoutError, U"No answer within " + ToText(timeout) + U" seconds");
+    QTimer::singleShot(time, reply, [this, reply] {
+        if (reply == reply_) Fail(TooLate, U"No whole answer in time");
     });
 }
 
@@ -59,27 +68,30 @@ void URLConnection::Disconnect()
     reply->deleteLater();
 }
 
-void URLConnection::Read()
+void URLConnection::Read(QNetworkReply& reply, const QByteArray& method, std::chrono::milliseconds time)
 {
-    QNetworkReply& reply = *reply_;
+    QNetworkRequest request = reply.request();
+    if (reply.hasRawHeader("Content-Encoding") && request.hasRawHeader("Accept-Encoding")) {
+        request.setRawHeader("Accept-Encoding", {}); // packed all the same: once more, for Qt to unpack it
+        return Ask(request, method, time);
+    }
     const Bytes content = reply.read(MaximumSize + 1).toStdString();
     const Int64 lines = std::max(std::ranges::count(content, '\n'), std::ranges::count(content, '\r'));
     if (std::ssize(content) > MaximumSize || lines > MaximumLines)
-        return Fail(QNetworkReply::UnknownContentError, U"The answer has more than 8 MiB or 250000 lines");
+        return Fail(TooLong, U"The answer has more than 8 MiB or 250000 lines");
     const auto status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     const bool saysNo = status >= 400 && reply.error() >= QNetworkReply::ContentAccessDenied;
     if (reply.error() != QNetworkReply::NoError && !saysNo) return Fail(reply.error(), FromQt(reply.errorString()));
     const QVariant length = reply.header(QNetworkRequest::ContentLengthHeader);
     // Now and then Qt takes a broken connection for the end.
-    if (length.isValid() && length.toLongLong() != std::ssize(content))
-        return Fail(QNetworkReply::RemoteHostClosedError, U"Connection closed");
+    if (length.isValid() && length.toLongLong() != std::ssize(content)) return Fail(BrokeOff, U"Connection closed");
     const String url = FromQt(reply.url().toString());
     Disconnect();
     // A copy: what is called may set the event anew.
     if (const auto event = ContentReceived) event(url, status, content);
 }
 
-void URLConnection::Fail(int number, const String& message)
+void URLConnection::Fail(Int64 number, const String& message)
 {
     Disconnect();
     if (const auto event = Error) event({number, message});

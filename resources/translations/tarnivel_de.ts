@@ -285,6 +285,18 @@ Packs nachher</translation>
         <source>Rien n'a été enregistré</source>
         <translation>Nichts wurde gespeichert</translation>
     </message>
+    <message id="Localisation.Err_PasDeReponse">
+        <source>Pas de réponse complète en 10 secondes</source>
+        <translation>Keine vollständige Antwort in 10 Sekunden</translation>
+    </message>
+    <message id="Localisation.Err_ReponseTropLongue">
+        <source>La réponse a plus de 8 Mio ou de 250000 lignes</source>
+        <translation>Die Antwort hat mehr als 8 MiB oder 250000 Zeilen</translation>
+    </message>
+    <message id="Localisation.Err_ReponseCoupee">
+        <source>La réponse a été coupée</source>
+        <translation>Die Antwort brach ab</translation>
+    </message>
     <message id="Localisation.Dit_Introuvable">
         <source>“¿%” introuvable</source>
         <translation>„¿%“ nicht gefunden</translation>

@@ -285,6 +285,18 @@ Packs after</translation>
         <source>Rien n'a été enregistré</source>
         <translation>Nothing was saved</translation>
     </message>
+    <message id="Localisation.Err_PasDeReponse">
+        <source>Pas de réponse complète en 10 secondes</source>
+        <translation>No whole answer within 10 seconds</translation>
+    </message>
+    <message id="Localisation.Err_ReponseTropLongue">
+        <source>La réponse a plus de 8 Mio ou de 250000 lignes</source>
+        <translation>The answer has more than 8 MiB or 250000 lines</translation>
+    </message>
+    <message id="Localisation.Err_ReponseCoupee">
+        <source>La réponse a été coupée</source>
+        <translation>The answer broke off</translation>
+    </message>
     <message id="Localisation.Dit_Introuvable">
         <source>“¿%” introuvable</source>
         <translation>“¿%” not found</translation>

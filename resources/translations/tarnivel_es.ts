@@ -285,6 +285,18 @@ Packs después</translation>
         <source>Rien n'a été enregistré</source>
         <translation>No se ha guardado nada</translation>
     </message>
+    <message id="Localisation.Err_PasDeReponse">
+        <source>Pas de réponse complète en 10 secondes</source>
+        <translation>Sin respuesta completa en 10 segundos</translation>
+    </message>
+    <message id="Localisation.Err_ReponseTropLongue">
+        <source>La réponse a plus de 8 Mio ou de 250000 lignes</source>
+        <translation>La respuesta tiene más de 8 MiB o de 250000 líneas</translation>
+    </message>
+    <message id="Localisation.Err_ReponseCoupee">
+        <source>La réponse a été coupée</source>
+        <translation>La respuesta se cortó</translation>
+    </message>
     <message id="Localisation.Dit_Introuvable">
         <source>“¿%” introuvable</source>
         <translation>“¿%” no se encuentra</translation>

@@ -285,6 +285,18 @@ Pack dopo</translation>
         <source>Rien n'a été enregistré</source>
         <translation>Nulla è stato salvato</translation>
     </message>
+    <message id="Localisation.Err_PasDeReponse">
+        <source>Pas de réponse complète en 10 secondes</source>
+        <translation>Nessuna risposta completa in 10 secondi</translation>
+    </message>
+    <message id="Localisation.Err_ReponseTropLongue">
+        <source>La réponse a plus de 8 Mio ou de 250000 lignes</source>
+        <translation>La risposta ha più di 8 MiB o di 250000 righe</translation>
+    </message>
+    <message id="Localisation.Err_ReponseCoupee">
+        <source>La réponse a été coupée</source>
+        <translation>La risposta si è interrotta</translation>
+    </message>
     <message id="Localisation.Dit_Introuvable">
         <source>“¿%” introuvable</source>
         <translation>“¿%” non trovato</translation>

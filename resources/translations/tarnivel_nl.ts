@@ -285,6 +285,18 @@ Packs na</translation>
         <source>Rien n'a été enregistré</source>
         <translation>Er is niets opgeslagen</translation>
     </message>
+    <message id="Localisation.Err_PasDeReponse">
+        <source>Pas de réponse complète en 10 secondes</source>
+        <translation>Geen volledig antwoord binnen 10 seconden</translation>
+    </message>
+    <message id="Localisation.Err_ReponseTropLongue">
+        <source>La réponse a plus de 8 Mio ou de 250000 lignes</source>
+        <translation>Het antwoord heeft meer dan 8 MiB of 250000 regels</translation>
+    </message>
+    <message id="Localisation.Err_ReponseCoupee">
+        <source>La réponse a été coupée</source>
+        <translation>Het antwoord is afgebroken</translation>
+    </message>
     <message id="Localisation.Dit_Introuvable">
         <source>“¿%” introuvable</source>
         <translation>“¿%” niet gevonden</translation>

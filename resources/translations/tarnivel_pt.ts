@@ -285,6 +285,18 @@ Packs depois</translation>
         <source>Rien n'a été enregistré</source>
         <translation>Nada foi guardado</translation>
     </message>
+    <message id="Localisation.Err_PasDeReponse">
+        <source>Pas de réponse complète en 10 secondes</source>
+        <translation>Sem resposta completa em 10 segundos</translation>
+    </message>
+    <message id="Localisation.Err_ReponseTropLongue">
+        <source>La réponse a plus de 8 Mio ou de 250000 lignes</source>
+        <translation>A resposta tem mais de 8 MiB ou de 250000 linhas</translation>
+    </message>
+    <message id="Localisation.Err_ReponseCoupee">
+        <source>La réponse a été coupée</source>
+        <translation>A resposta foi cortada</translation>
+    </message>
     <message id="Localisation.Dit_Introuvable">
         <source>“¿%” introuvable</source>
         <translation>“¿%” não encontrado</translation>

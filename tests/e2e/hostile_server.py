@@ -42,7 +42,7 @@ def drip():
 
 PACKED = OK + "Content-Encoding: gzip\r\n\r\n"
 # Qt's own words are in the language of the program.
-LONG, LATE = "###299 The answer has more than 8 MiB or 250000 lines", "###4 No answer within 10 seconds"
+LONG, LATE = "###299 .+ 8 Mi?[oB] .+ 250000 .+", "###4 .+ 10 .+"
 CUT, CIRCLE, AWAY, BOMB = (f"###{number} .+" for number in (2, 10, 301, 299))
 # The head, the pieces behind it, how the model on screen ends, as a pattern. Where the pieces come to an end, so does the connection.
 ENDED = {
