@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # The checks of a change beside its tests: format, lint, what a room may see, file sizes, shell scripts.
-# clang-tidy reads how files are compiled from build/sanitize, where ten at a time come as one: half the time.
+# clang-tidy reads how files are compiled from build/sanitize, where ten at a time come as one: a fifth of the time.
 # shellcheck disable=SC2317  # `check` calls the functions
 set -uo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit

@@ -22,12 +22,11 @@ TEST(SceneryText, AcceptanceOrTheReasonOfARefusal)
         {"the connection's error", U"### Error ###3 Host not found\nmore", U"", U"3 Host not found"},
         {"NULs are characters", header + String(U"\n\0\r\0", 4), header + String(U"\n\0\n\0", 4), U""},
     };
+    const String refusal =
+        U"### Error ###  Content should begin with :\n" + header + U"\n\n" + String(89, U'*') + U"\n";
     for (const auto& [name, raw, text, reason] : rows) {
         const Acceptance acceptance = AcceptSceneryText(raw);
-        EXPECT_EQ(acceptance.text, !text.empty() ? text
-                                                 : U"### Error ###  Content should begin with :\n" + header + U"\n\n" +
-                                                       String(89, U'*') + U"\n" + raw)
-            << name;
+        EXPECT_EQ(acceptance.text, text.empty() ? refusal + raw : text) << name;
         EXPECT_EQ(acceptance.accepted, reason.empty()) << name;
         EXPECT_EQ(acceptance.accepted ? U"" : ReasonOfRefusal(raw), reason) << name;
     }

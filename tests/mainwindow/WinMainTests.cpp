@@ -155,7 +155,8 @@ TEST_F(MainWindow, AStoppedRunLeavesNothingBehindButASourceThatItHasNotTouched)
 
 TEST_F(MainWindow, ThePreferencesFillTheControls)
 {
-    const std::string large(25'000'000, 'x');
+    std::string large;
+    large.resize(25'000'000, 'x');
     Open("Fenetre WinMain :@: 40,50,800,600\nSource Model :@: 1\nSource Model :@: 7\nSourceFile_Path :@: a\xFF\n"
          "SourceFile_Path :@: " +
          large.substr(0, 70'000) + "\nArchiv Old File :@: true\nArchivFolder_Path :@: b\r\nSceneryPack_Path :@: " +

@@ -118,6 +118,24 @@ TEST(URLConnection, GivesTheAnswerOrAnError)
     }
 }
 
+TEST(URLConnection, AsksByIPv6WithUserAndPasswordOrByTheProxyOfTheSystem)
+{
+    TestServer server(Page("401 Who?\r\nWWW-Authenticate: Basic realm=x", ""));
+    const quint16 number = server.server.serverPort();
+    const String port = U":" + ToText(number);
+    qputenv("http_proxy", "http://127.0.0.1" + QString::fromStdU32String(port).toLatin1());
+    Client().Fetch(U"http://name.invalid/x");
+    qunsetenv("http_proxy");
+    EXPECT_TRUE(server.requests.startsWith("GET http://name.invalid/x HTTP")) << server.requests.toStdString();
+    EXPECT_TRUE(server.requests.contains("Accept-Encoding: identity\r\n")) << server.requests.toStdString();
+    server.requests.clear();
+    server.server.close();
+    server.server.listen(QHostAddress::LocalHostIPv6, number);
+    Client().Fetch(U" http://u%20:p@[::1]" + port + U"?q=é x#part");
+    EXPECT_TRUE(server.requests.startsWith("GET /?q=%C3%A9%20x HTTP/1.1\r\n")) << server.requests.toStdString();
+    EXPECT_TRUE(server.requests.contains("Authorization: Basic dSA6cA==\r\n")) << server.requests.toStdString();
+}
+
 TEST(URLConnection, TellsAnAddressWithoutAServerByAnErrorAfterSend)
 {
     const std::pair<String, Int64> rows[] = {{TestServer("").url, Refused},
