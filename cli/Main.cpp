@@ -33,6 +33,8 @@ Bytes ReadAll(std::string_view name)
         return TextInputStream::Open(FolderItem(std::filesystem::absolute(name))).ReadAll();
     } catch (const IOException& error) {
         throw Refusal{error.Message};
+    } catch (const std::filesystem::filesystem_error& error) { // of no name, or without a working directory
+        throw Refusal{Encodings::UTF8.Decode(error.code().message())};
     }
 }
 
@@ -120,5 +122,10 @@ Status Run(std::span<const std::string_view> arguments)
 int main(int argc, char** argv)
 {
     const std::vector<std::string_view> arguments(argv + 1, argv + argc);
-    return Run(arguments);
+    try {
+        return Run(arguments);
+    } catch (const std::exception& error) {
+        Say(Encodings::UTF8.Decode(error.what()));
+        return Refused;
+    }
 }

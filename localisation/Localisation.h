@@ -116,6 +116,8 @@ inline constexpr Text Dit_SansEntete{U"Dit_SansEntete", U"ne commence pas comme 
 inline constexpr Text Dit_Enregistre{U"Dit_Enregistre", U"Enregistré : ¿%"};
 inline constexpr Text Dit_Archive{U"Dit_Archive", U"ancien fichier : ¿%"};
 inline constexpr Text Dit_PasEnregistre{U"Dit_PasEnregistre", U"Rien n'a été enregistré"};
+inline constexpr Text Dit_ModelePasEnregistre{U"Dit_ModelePasEnregistre",
+    U"Le modèle affiché n'est pas encore enregistré : enregistrez-le d'abord"};
 inline constexpr Text Err_PasDeReponse{U"Err_PasDeReponse", U"Pas de réponse complète en 10 secondes"};
 inline constexpr Text Err_ReponseTropLongue{U"Err_ReponseTropLongue",
     U"La réponse a plus de 8 Mio ou de 250000 lignes"};

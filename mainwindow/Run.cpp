@@ -43,6 +43,10 @@ void WinMain::BtnRun_Pressed()
     if (DrapProposer) {
         DrapProposer = false;
     } else if (Fncts::DrapMenu) {
+        const auto model = Fncts::GetFitemAbsPath(TextFieldMod1.Text(), false);
+        const bool isOnScreenOnly = Document(rowModel).Modified() && !(model && model->Exists());
+        if (RadGrpSrc.SelectedIndex() == 0 && isOnScreenOnly)
+            return Fncts::Refuser(Localisation::Dit_ModelePasEnregistre());
         TextAreaAff.SetFocus();
         run_ = RunState::Asked;
         App::Current().EnableMenuBoutons(false);
@@ -88,6 +92,7 @@ void WinMain::RunSuite(Fncts::Reading model)
     const bool isEmpty = texts.TextModel.empty();
     std::vector<String> refusals;
     Accept(texts.TextModel, Localisation::Dit_ModeleRefuse(), refusals);
+    if (!model.failure.empty()) refusals.back().append(U" (").append(model.failure).append(U")");
     if (isEmpty) refusals.back().append(U" (").append(Localisation::Dit_OffreModele()).append(U")");
     const std::optional<FolderItem> spack = Fncts::GetFitemAbsPath(TextFieldSpack.Text(), false);
     Fncts::Reading source = ReadFile(spack);
@@ -95,6 +100,7 @@ void WinMain::RunSuite(Fncts::Reading model)
     if (sourceIsCleaned) Tell(Fncts::CleaningReport(source, TextFieldSpack.Text()));
     texts.TextSrcSpack = std::move(source.text);
     Accept(texts.TextSrcSpack, Localisation::Dit_SpackRefuse(), refusals);
+    if (!source.failure.empty()) refusals.back().append(U" (").append(source.failure).append(U")");
     String sentence;
     if (refusals.empty()) {
         sentence = Reorder(texts, *spack->Parent());

@@ -71,7 +71,8 @@ bool WinMain::DecideOnArchive(const FolderItem& target, std::optional<FolderItem
     const bool usable = Fncts::PasNil_Existe_Alias(folder, true) && Fncts::DossPasPack_f(*folder);
     if (usable && target.Exists()) return true;
     folder.reset();
-    return AsksToContinue(usable ? Txt_PasAncFichAsauv() : Txt_ImpLocDossSauvAnc(), Btn_Cont());
+    if (usable) return AsksToContinue(Txt_PasAncFichAsauv(), Btn_Cont());
+    return AsksToLose(Txt_ImpLocDossSauvAnc(), Btn_Cont());
 }
 
 bool WinMain::ConfirmsSave(const FolderItem& target)
@@ -98,7 +99,8 @@ bool WinMain::Archive(const FolderItem& target, const FolderItem& folder, const 
         target.CopyTo(folder.Child(wanted, false).value());
         name = wanted;
         return true;
-    } catch (const std::exception&) {
-        return AsksToContinue(Txt_ErreurCopiAncScen(), Btn_Cont());
+    } catch (const std::exception& error) {
+        const String reason = Fncts::DefAppEncod.Decode(error.what());
+        return AsksToLose(Txt_ErreurCopiAncScen() + U"\n" + reason, Btn_Cont());
     }
 }

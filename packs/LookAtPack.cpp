@@ -8,6 +8,7 @@
 #include "toolkit/core/TextEncoding.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 
 namespace fs = std::filesystem;
 
@@ -26,6 +27,9 @@ PackFacts::Tile KindOf(const fs::path& tile)
     // What opens only when somebody writes to it must not stop the program.
     const Descriptor file(::open(tile.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     Check(file.number >= 0);
+    struct stat status = {};
+    Check(::fstat(file.number, &status) == 0);
+    if (!S_ISREG(status.st_mode)) throw SystemError(EINVAL);
     PackFacts::Tile kind = PackFacts::Tile::None;
     // The short beginning does for nearly all.
     for (const std::size_t size : {std::size_t{4} << 10, std::size_t{256} << 10}) {

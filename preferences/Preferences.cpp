@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <span>
 
 namespace {
 
@@ -140,19 +141,44 @@ bool ReadPreference(Preferences& preferences, StringView line)
     return key == keys.end() || key->read(preferences, value);
 }
 
+namespace {
+
+constexpr std::array tableColumns = {&Preferences::TabSpecAorg, &Preferences::TabSpecAdest1,
+                                     &Preferences::TabSpecAdest2};
+
+/// Whether the rows of the table differ. What stands before the first of them is no row, but a file's name.
+bool RowsDiffer(const Preferences& some, const Preferences& others)
+{
+    const auto rows = [](const std::vector<String>& column) { return std::span(column).subspan(!column.empty()); };
+    return std::ranges::any_of(
+        tableColumns, [&](const auto column) { return !std::ranges::equal(rows(some.*column), rows(others.*column)); });
+}
+
+} // namespace
+
+bool TablesClash(const Preferences& ours, const Preferences& oursBefore, const Preferences& theirs,
+                 const Preferences& theirsBefore)
+{
+    return RowsDiffer(ours, oursBefore) && RowsDiffer(theirs, theirsBefore) && RowsDiffer(ours, theirs);
+}
+
 Preferences MergedPreferences(const Preferences& ours, const Preferences& oursBefore, const Preferences& theirs,
                               const Preferences& theirsBefore)
 {
     const auto isOurs = [&](const Key& key) { return key.Differs(ours, oursBefore); };
     const auto isTheirs = [&](const Key& key) { return key.Differs(theirs, theirsBefore); };
-    const bool tableIsOurs = std::ranges::any_of(keys, [&](const Key& key) { return key.isOfTable && isOurs(key); });
-    const bool tableIsTheirs =
-        std::ranges::any_of(keys, [&](const Key& key) { return key.isOfTable && isTheirs(key); });
+    const bool rowsAreTheirs = !RowsDiffer(ours, oursBefore) && RowsDiffer(theirs, theirsBefore);
     Preferences merged = ours;
-    for (const Key& key : keys) {
-        const bool changedHere = key.isOfTable ? tableIsOurs : isOurs(key);
-        const bool changedThere = key.isOfTable ? tableIsTheirs : isTheirs(key);
-        if (changedThere && !changedHere) key.copy(theirs, merged);
+    for (const Key& key : keys)
+        if (!key.isOfTable && isTheirs(key) && !isOurs(key)) key.copy(theirs, merged);
+    for (const auto column : tableColumns) {
+        const auto name = [column](const Preferences& settings) {
+            return (settings.*column).empty() ? String() : (settings.*column).front();
+        };
+        const bool nameIsTheirs = name(theirs) != name(theirsBefore) && name(ours) == name(oursBefore);
+        const String chosen = name(nameIsTheirs ? theirs : ours);
+        if (rowsAreTheirs) merged.*column = theirs.*column;
+        if (!(merged.*column).empty()) (merged.*column).front() = chosen;
     }
     return merged;
 }

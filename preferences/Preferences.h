@@ -39,8 +39,12 @@ struct Preferences {
 /// than 65,536 characters, which no field could show in good time.
 bool ReadPreference(Preferences& preferences, StringView line);
 
-/// Our settings, with what another program has changed meanwhile and we haven't. The columns of the replacement table
-/// stay together.
+/// Whether two programs have changed the rows of the replacement table, each in its own way.
+bool TablesClash(const Preferences& ours, const Preferences& oursBefore, const Preferences& theirs,
+                 const Preferences& theirsBefore);
+
+/// Our settings, with what another program has changed meanwhile and we haven't. The rows of the replacement table stay
+/// together; the file names above them are settings of their own.
 Preferences MergedPreferences(const Preferences& ours, const Preferences& oursBefore, const Preferences& theirs,
                               const Preferences& theirsBefore);
 

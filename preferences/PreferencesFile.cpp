@@ -86,14 +86,15 @@ Fncts::Outcome PreferencesFile::Write(const Preferences& settings) const
     const FileLock lock(file_);
     const bool isThere = file_.Exists();
     const Read present = ReadFile(file_);
-    if (isThere && present.IsWhole())
-        return Fncts::SauvFichier(
-            file_, WritePreferences(MergedPreferences(settings, shown_, present.settings, read_.settings)));
+    const bool merges = isThere && present.IsWhole();
+    const String text =
+        WritePreferences(merges ? MergedPreferences(settings, shown_, present.settings, read_.settings) : settings);
+    const bool clash = merges && TablesClash(settings, shown_, present.settings, read_.settings);
     try {
-        if (read_.IsWhole() && !present.IsWhole()) TellProblem(present);
-        if (isThere) file_.Rename(otherName_);
+        if (clash || (read_.IsWhole() && !present.IsWhole())) TellProblem(present);
+        if (isThere && (clash || !merges)) file_.Rename(otherName_);
     } catch (const std::exception& error) {
         return {Fncts::DefAppEncod.Decode(error.what())};
     }
-    return Fncts::SauvFichier(file_, WritePreferences(settings));
+    return Fncts::SauvFichier(file_, text);
 }

@@ -6,6 +6,8 @@
 #include "support/TextHelpers.h"
 
 #include <algorithm>
+#include <functional>
+#include <numeric>
 
 using namespace Localisation;
 
@@ -60,12 +62,16 @@ Int16 WinSpecA::FaireTab()
 
 bool WinSpecA::ListboxRR_Accepts(const std::vector<CellRow>& rows)
 {
-    if (rows.size() > mostRows) return Fncts::Refuser(Dit_TropLignes()), false;
+    // What was read with more may be made smaller.
+    const std::vector<CellRow>& present = ListboxRR.Rows();
+    if (rows.size() > std::max(mostRows, present.size())) return Fncts::Refuser(Dit_TropLignes()), false;
     for (std::size_t column = 0; column < 3; ++column) {
-        std::size_t characters = 0;
-        for (const CellRow& row : rows)
-            characters += row[column].size();
-        if (characters > mostCharacters) return Fncts::Refuser(Dit_TropLong()), false;
+        const auto characters = [column](const std::vector<CellRow>& table) {
+            return std::transform_reduce(table.begin(), table.end(), std::size_t{0}, std::plus(),
+                                         [column](const CellRow& row) { return row[column].size(); });
+        };
+        if (characters(rows) > std::max(mostCharacters, characters(present)))
+            return Fncts::Refuser(Dit_TropLong()), false;
     }
     return true;
 }
@@ -96,7 +102,7 @@ void WinSpecA::PushButtCopiList_Pressed()
 void WinSpecA::ListboxRR_RowsPasted(std::vector<CellRow> rows)
 {
     if (BeginsWithHeading(rows)) rows.erase(rows.begin(), rows.begin() + 2);
-    const std::size_t room = mostRows - ListboxRR.Rows().size();
+    const std::size_t room = mostRows - std::min(mostRows, ListboxRR.Rows().size());
     if (std::ranges::any_of(rows, [](const CellRow& row) { return row.size() > 3; }))
         Fncts::Refuser(Dit_TropColonnes());
     if (rows.size() > room) {

@@ -182,7 +182,9 @@ bool WinSpecA::MayReplace(const FolderItem& target)
         return AsksToLose(question, Btn_NePasRempl(), Btn_Remplacer());
     };
     if (!replaces(Filled(Txt_NomExiste(), {target.Name()}))) return false;
-    if (target.Path() == FichOrg->Path()) return replaces(Filled(Txt_RemplOriginal(), {target.Name()}));
+    std::error_code none; // a disk may not tell upper from lower case
+    if (!target.IsAlias() && std::filesystem::equivalent(target.Path(), FichOrg->Path(), none))
+        return replaces(Filled(Txt_RemplOriginal(), {target.Name()}));
     const Int64 items = target.IsFolder() ? std::ssize(target.Children()) : 0;
     return items == 0 || replaces(Filled(Txt_DossierPlein(), {target.Name(), ToText(items)}));
 }

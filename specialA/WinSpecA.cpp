@@ -99,7 +99,7 @@ void WinSpecA::BindHandlers()
     ListboxRR.PaintCellBackground = [](Graphics& graphics, int row, int /*column*/, int width, int height) {
         return PaintStripe(graphics, row, width, height);
     };
-    ListboxRR.Accepts = &WinSpecA::ListboxRR_Accepts;
+    ListboxRR.Accepts = [this](const std::vector<CellRow>& rows) { return ListboxRR_Accepts(rows); };
     ListboxRR.RowsPasted = [this](std::vector<CellRow> rows) { ListboxRR_RowsPasted(std::move(rows)); };
     PushButtTrait.Pressed = [this] { PushButtTrait_Pressed(); };
     CanvDrag.Paint = [](Graphics& graphics, int width, int height) {

@@ -80,7 +80,7 @@ private:
     // Table.cpp
     void ShowTable();
     /// Whether the table may have these rows; if not, it was told.
-    static bool ListboxRR_Accepts(const std::vector<CellRow>& rows);
+    bool ListboxRR_Accepts(const std::vector<CellRow>& rows);
     /// Brings the lists of `App` in line with the window; the result is the number of rows.
     Int16 FaireTab();
 

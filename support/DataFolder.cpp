@@ -25,7 +25,12 @@ void MoveAnywhere(const FolderItem& item, const FolderItem& place)
     // Complete before it has its name: half a copy would pass for all of it.
     const fs::path copy = place.Path().native() + ".part";
     fs::remove_all(copy);
-    fs::copy(item.Path(), copy, fs::copy_options::recursive | fs::copy_options::copy_symlinks);
+    try {
+        fs::copy(item.Path(), copy, fs::copy_options::recursive | fs::copy_options::copy_symlinks);
+    } catch (...) {
+        fs::remove_all(copy);
+        throw;
+    }
     fs::rename(copy, place.Path());
     Fncts::RemoveFileOrFolder(item, false);
 }

@@ -285,6 +285,10 @@ Packs nachher</translation>
         <source>Rien n'a été enregistré</source>
         <translation>Nichts wurde gespeichert</translation>
     </message>
+    <message id="Localisation.Dit_ModelePasEnregistre">
+        <source>Le modèle affiché n'est pas encore enregistré : enregistrez-le d'abord</source>
+        <translation>Das gezeigte Modell ist noch nicht gespeichert: speichern Sie es zuerst</translation>
+    </message>
     <message id="Localisation.Err_PasDeReponse">
         <source>Pas de réponse complète en 10 secondes</source>
         <translation>Keine vollständige Antwort in 10 Sekunden</translation>

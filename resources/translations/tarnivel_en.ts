@@ -285,6 +285,10 @@ Packs after</translation>
         <source>Rien n'a été enregistré</source>
         <translation>Nothing was saved</translation>
     </message>
+    <message id="Localisation.Dit_ModelePasEnregistre">
+        <source>Le modèle affiché n'est pas encore enregistré : enregistrez-le d'abord</source>
+        <translation>The model shown isn't saved yet: save it first</translation>
+    </message>
     <message id="Localisation.Err_PasDeReponse">
         <source>Pas de réponse complète en 10 secondes</source>
         <translation>No whole answer within 10 seconds</translation>

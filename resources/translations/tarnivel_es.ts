@@ -285,6 +285,10 @@ Packs después</translation>
         <source>Rien n'a été enregistré</source>
         <translation>No se ha guardado nada</translation>
     </message>
+    <message id="Localisation.Dit_ModelePasEnregistre">
+        <source>Le modèle affiché n'est pas encore enregistré : enregistrez-le d'abord</source>
+        <translation>El modelo mostrado aún no está guardado: guárdelo primero</translation>
+    </message>
     <message id="Localisation.Err_PasDeReponse">
         <source>Pas de réponse complète en 10 secondes</source>
         <translation>Sin respuesta completa en 10 segundos</translation>

@@ -285,6 +285,10 @@ Pack dopo</translation>
         <source>Rien n'a été enregistré</source>
         <translation>Nulla è stato salvato</translation>
     </message>
+    <message id="Localisation.Dit_ModelePasEnregistre">
+        <source>Le modèle affiché n'est pas encore enregistré : enregistrez-le d'abord</source>
+        <translation>Il modello mostrato non è ancora salvato: salvatelo prima</translation>
+    </message>
     <message id="Localisation.Err_PasDeReponse">
         <source>Pas de réponse complète en 10 secondes</source>
         <translation>Nessuna risposta completa in 10 secondi</translation>

@@ -285,6 +285,10 @@ Packs na</translation>
         <source>Rien n'a été enregistré</source>
         <translation>Er is niets opgeslagen</translation>
     </message>
+    <message id="Localisation.Dit_ModelePasEnregistre">
+        <source>Le modèle affiché n'est pas encore enregistré : enregistrez-le d'abord</source>
+        <translation>Het getoonde model is nog niet opgeslagen: sla het eerst op</translation>
+    </message>
     <message id="Localisation.Err_PasDeReponse">
         <source>Pas de réponse complète en 10 secondes</source>
         <translation>Geen volledig antwoord binnen 10 seconden</translation>

@@ -285,6 +285,10 @@ Packs depois</translation>
         <source>Rien n'a été enregistré</source>
         <translation>Nada foi guardado</translation>
     </message>
+    <message id="Localisation.Dit_ModelePasEnregistre">
+        <source>Le modèle affiché n'est pas encore enregistré : enregistrez-le d'abord</source>
+        <translation>O modelo mostrado ainda não está guardado: guarde-o primeiro</translation>
+    </message>
     <message id="Localisation.Err_PasDeReponse">
         <source>Pas de réponse complète en 10 secondes</source>
         <translation>Sem resposta completa em 10 segundos</translation>

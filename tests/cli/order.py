@@ -61,6 +61,7 @@ def test_what_it_is_given(program, folder):
         ("no UTF-8", ["-", good], HEADER + b"\xff", REFUSED, "“-”: ce n'est pas de l'UTF-8"),
         ("no such file", [good, folder / "gone"], b"", REFUSED, f"“{folder}/gone”: "),
         ("a pipe under its name", [pipe, good], b"", REFUSED, f"“{pipe}”: "),
+        ("no name", ["--propose", ""], b"", REFUSED, "“”: "),
         ("one name", [good], b"", WRONG_USE, "Utilisation : "),
         ("three names", [good, good, good], b"", WRONG_USE, "Utilisation : "),
         ("both from standard input", ["-", "-"], b"", WRONG_USE, "Utilisation : "),

@@ -44,7 +44,8 @@ inline void ExpectLawfulToggles(StringView text, Selection selection)
     const std::optional<AfterToggle> once = Toggle(text, selection, ToggleMode::Invert);
     if (selection.length == 0) {
         // Up to the line end, or short of the text's last character.
-        const auto start = static_cast<Int64>(text.substr(0, selection.start).rfind(U'\n') + 1);
+        const auto start =
+            static_cast<Int64>(text.substr(0, static_cast<std::size_t>(selection.start)).rfind(U'\n') + 1);
         const Int64 end = IndexOf(text, TxtEoF, start);
         selection = {start, (end < 0 ? std::max(std::ssize(text) - 1, start) : end) - start};
     }

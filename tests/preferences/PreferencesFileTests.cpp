@@ -66,9 +66,14 @@ TEST_F(File, OfTwoCopiesEachKeepsWhatTheOtherChanged)
     EXPECT_EQ(both.modelFile, U"mine") << "of two changes the last stays";
     EXPECT_EQ(both.TabSpecAorg, theirs.TabSpecAorg);
     EXPECT_EQ(both.TabSpecAdest1, theirs.TabSpecAdest1);
+    ours.TabSpecAorg.front() = U"renamed";
+    EXPECT_TRUE(first.Write(ours));
+    EXPECT_EQ(Written().TabSpecAorg, (std::vector<String>{U"renamed", U"x", U"y"})) << "a name is no row";
     ours.TabSpecAdest1 = {U"d", U"c"};
     EXPECT_TRUE(first.Write(ours));
     EXPECT_EQ(Written().TabSpecAorg, ours.TabSpecAorg) << "the columns of a table go together";
+    EXPECT_NE(folder.Content(other).find("\tx\ty"), std::string::npos) << "of two tables the other's is kept";
+    EXPECT_EQ(probe.Asked.size(), 1U);
 }
 
 TEST_F(File, WhatCouldNotBeReadAsItIsStaysUnderAnotherName)
