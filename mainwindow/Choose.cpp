@@ -7,7 +7,6 @@
 #include "support/FileHelpers.h"
 #include "support/PathForm.h"
 #include "support/Status.h"
-#include "support/TextHelpers.h"
 #include "toolkit/Desktop.h"
 
 namespace {

@@ -2,7 +2,6 @@
 #include "mainwindow/Sentences.h"
 #include "mainwindow/WinMain.h"
 #include "support/Diagnostics.h"
-#include "support/DialogHelpers.h"
 #include "support/Sounds.h"
 
 #include <algorithm>

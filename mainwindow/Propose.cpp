@@ -7,7 +7,6 @@
 #include "support/PathForm.h"
 #include "support/Status.h"
 #include "support/TextFiles.h"
-#include "support/TextHelpers.h"
 #include "toolkit/DesktopApplication.h"
 #include "toolkit/core/System.h"
 

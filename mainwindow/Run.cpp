@@ -10,7 +10,6 @@
 #include "support/Sounds.h"
 #include "support/Status.h"
 #include "support/TextFiles.h"
-#include "support/TextHelpers.h"
 
 namespace {
 

@@ -4,7 +4,6 @@
 #include "support/Fncts.h"
 #include "support/Sounds.h"
 #include "support/Status.h"
-#include "support/TextHelpers.h"
 #include "toolkit/Desktop.h"
 
 using namespace Localisation;

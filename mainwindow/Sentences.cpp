@@ -1,7 +1,6 @@
 #include "mainwindow/Sentences.h"
 
 #include "localisation/Localisation.h"
-#include "support/TextHelpers.h"
 #include "toolkit/URLConnection.h"
 
 using namespace Localisation;

@@ -5,7 +5,6 @@
 #include "mainwindow/Sentences.h"
 #include "mainwindow/WinMain.h"
 #include "support/DialogHelpers.h"
-#include "support/FileHelpers.h"
 #include "support/Fncts.h"
 #include "support/PathForm.h"
 #include "support/Status.h"

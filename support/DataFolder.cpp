@@ -1,7 +1,5 @@
 #include "localisation/Localisation.h"
 #include "support/FileHelpers.h"
-#include "support/Fncts.h"
-#include "support/TextHelpers.h"
 #include "toolkit/Dialogs.h"
 #include "toolkit/core/Exceptions.h"
 

@@ -5,7 +5,6 @@
 #include "support/Covers.h"
 #include "support/Diagnostics.h"
 #include "support/FileHelpers.h"
-#include "support/Fncts.h"
 #include "toolkit/Dialogs.h"
 
 #include <array>

@@ -1,7 +1,6 @@
 #include "support/FileHelpers.h"
 
 #include "localisation/Localisation.h"
-#include "support/Fncts.h"
 #include "support/Status.h"
 #include "toolkit/Desktop.h"
 #include "toolkit/DesktopApplication.h"

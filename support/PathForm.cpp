@@ -1,9 +1,6 @@
 #include "support/PathForm.h"
 
 #include "toolkit/DesktopApplication.h"
-#include "toolkit/core/FolderItem.h"
-
-#include <algorithm>
 
 namespace {
 

@@ -2,7 +2,6 @@
 
 #include "localisation/Localisation.h"
 #include "support/FileHelpers.h"
-#include "support/Fncts.h"
 #include "support/TextHelpers.h"
 #include "toolkit/core/TextInputStream.h"
 #include "toolkit/core/TextOutputStream.h"

@@ -6,7 +6,6 @@
     build_packages=(g++ cmake ninja-build ccache qt6-base-dev qt6-multimedia-dev qt6-tools-dev qt6-l10n-tools qt6-translations-l10n
         libgtest-dev liblzma-dev fonts-dejavu-core python3)
     screen_packages=(xvfb openbox dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi xdotool imagemagick)
-    bench_packages=(libbenchmark-dev) # for the preset "dev", which builds the benchmarks
     test_packages=(openssl pulseaudio pulseaudio-utils x11-session-utils x11-xserver-utils weston qt6-wayland orca)
     package_packages=(qt6-wayland libssl3 dpkg-dev file lintian desktop-file-utils appstream devscripts python3-xlib)
     check_packages=(clang-format clang-tidy clang-14 libclang-rt-14-dev shellcheck git)
