@@ -23,7 +23,7 @@ void App::EnableMenuBoutons(bool idle) const
 
 bool App::ExtInFileType(StringView ext)
 {
-    return !ext.empty() && std::ranges::any_of(Split(FileTypes::TextPlain.Extensions, U";"),
+    return !ext.empty() && std::ranges::any_of(Split(FileTypes::TextPlain, U";"),
                                                [ext](StringView extension) { return SameText(extension, ext); });
 }
 

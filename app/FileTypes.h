@@ -1,14 +1,9 @@
-/// The kinds of files that the program takes.
+/// The kinds of files that the program takes: their extensions, with their dots, separated by ";".
 #pragma once
 
 #include "toolkit/core/Text.h"
 
-struct FileType {
-    /// With their dots, separated by ";".
-    StringView Extensions;
-};
-
 namespace FileTypes {
-inline constexpr FileType TextPlain{
-    U".asc;.ascii;.bas;.c;.class;.cp;.cpp;.h;.hp;.hpp;.i3;.java;.m2;.m3;.mak;.text;.txt;.ini;.acf"};
+inline constexpr StringView TextPlain =
+    U".asc;.ascii;.bas;.c;.class;.cp;.cpp;.h;.hp;.hpp;.i3;.java;.m2;.m3;.mak;.text;.txt;.ini;.acf";
 } // namespace FileTypes

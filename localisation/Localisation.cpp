@@ -4,7 +4,7 @@
 
 String Localisation::Text::operator()(StringView language) const
 {
-    return SystemGetLocalizedString(U"Localisation." + String(name_), french_, language);
+    return SystemGetLocalizedString(U"Localisation." + String(name), french, language);
 }
 
 String Localisation::Filled(StringView text, std::initializer_list<StringView> fillings)

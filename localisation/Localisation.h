@@ -8,20 +8,12 @@
 namespace Localisation {
 
 /// A text and the name that translations know it by. Called like a function it gives the text for the user.
-class Text {
-public:
-    constexpr Text(StringView name, StringView french)
-        : name_(name)
-        , french_(french)
-    {
-    }
+struct Text {
+    StringView name, french;
 
     /// Looked up anew at each call: in `language` ("de"), or in the user's language when that is empty, and in French
     /// where the program has no translation.
     String operator()(StringView language = {}) const;
-
-private:
-    StringView name_, french_;
 };
 
 /// The text with its placeholders "¿%" filled, one after the other.

@@ -21,13 +21,12 @@ void RevealOrRefuse(const std::optional<FolderItem>& item, bool checkAlias, Stri
 
 std::optional<FolderItem> ChooseFile(const FolderItem& start)
 {
-    return Fncts::MyDialogLoad(start, Localisation::Txt_ChoisirUnFich(), FileTypes::TextPlain.Extensions, nullptr,
-                               true);
+    return Fncts::MyDialogLoad(start, Localisation::Txt_ChoisirUnFich(), FileTypes::TextPlain, nullptr);
 }
 
 std::optional<FolderItem> ChooseFolder(const FolderItem& start)
 {
-    return Fncts::MyDialogFolder(start, Localisation::Txt_ChoisirDossArchiv(), nullptr, true);
+    return Fncts::MyDialogFolder(start, Localisation::Txt_ChoisirDossArchiv());
 }
 
 enum class Kind { TextFile, Folder };

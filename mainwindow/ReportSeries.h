@@ -1,18 +1,13 @@
 /// Many reports in a row, told one by one as long as a person can be asked to answer each.
 #pragma once
 
-#include "toolkit/core/Text.h"
-
-#include <functional>
-#include <vector>
+#include "engine/CreerSpack.h"
 
 /// Shows the first reports of each kind one at a time. What comes after them is shown as one report at the end, so that
 /// a file with many faults doesn't ask again and again. Reports with the same message are of one kind.
 class ReportSeries {
 public:
-    using Show = std::function<void(const String& message, const String& explanation)>;
-
-    explicit ReportSeries(Show show)
+    explicit ReportSeries(Report show)
         : show_(std::move(show))
     {
     }
@@ -36,7 +31,7 @@ private:
     /// The reports from number `first` of each kind on.
     [[nodiscard]] String Text(std::size_t first) const;
 
-    Show show_;
+    Report show_;
     std::vector<Kind> kinds_;
     Int64 count_ = 0;
 };

@@ -1,5 +1,4 @@
 #include "app/App.h"
-#include "engine/CreerSpack.h"
 #include "engine/SceneryText.h"
 #include "localisation/Localisation.h"
 #include "mainwindow/ReportSeries.h"
@@ -36,6 +35,20 @@ void Accept(String& text, const String& why, std::vector<String>& refusals)
 }
 
 } // namespace
+
+void WinMain::BindRun()
+{
+    BtnRun.Pressed = [this] { BtnRun_Pressed(); };
+    TimerDebRun.Action = [this] { InRun([&] { TimerDebRun_Action(); }); };
+    URLCnctLirePage.AllowCertificateValidation = false;
+    // An error page is content like any other: the header test refuses it.
+    URLCnctLirePage.ContentReceived = [this](const String& /*url*/, Int64 /*httpStatus*/, const Bytes& content) {
+        InRun([&] { RunSuite(Fncts::TextOfBytes(content)); });
+    };
+    URLCnctLirePage.Error = [this](const RuntimeException& error) {
+        InRun([&] { RunSuite({.text = String(ErrorMarker) + ToText(error.ErrorNumber) + U" " + WhyNoAnswer(error)}); });
+    };
+}
 
 void WinMain::BtnRun_Pressed()
 {
@@ -135,8 +148,7 @@ String WinMain::Reorder(SceneryTexts& texts, const FolderItem& dossier)
 {
     using namespace Localisation;
     ReportSeries reports([this](const String& message, const String& explanation) { Tell(message, explanation); });
-    CreerSpack(texts, dossier,
-               [&reports](const String& message, const String& explanation) { reports.Add(message, explanation); });
+    CreerSpack(texts, dossier, std::bind_front(&ReportSeries::Add, &reports));
     reports.Finish();
     lastReport_ = reports.All();
     if (BeginsWith(texts.TextDestSpack, ErrorMarker))

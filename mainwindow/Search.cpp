@@ -8,6 +8,18 @@
 
 using namespace Localisation;
 
+void WinMain::BindSearch()
+{
+    PushButtCherch.Pressed = [this] { PushButtCherch_Pressed(); };
+    PushButtInitCherch.Pressed = [this] { PushButtInitCherch_Pressed(); };
+    TextFieldCherch.Entered = [this] { TextFieldCherch_Entered(); };
+    TextFieldCherch.Escaped = [this] { TextAreaAff.SetFocus(); };
+    FindRequested = [this] {
+        TextFieldCherch.SetFocus();
+        TextFieldCherch.SelectAll();
+    };
+}
+
 void WinMain::PushButtCherch_Pressed() { Search(SearchWay::Button); }
 
 void WinMain::Search(SearchWay way)

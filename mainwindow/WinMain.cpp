@@ -6,7 +6,6 @@
 #include "app/WinAide.h"
 #include "engine/SceneryText.h"
 #include "localisation/Localisation.h"
-#include "mainwindow/Sentences.h"
 #include "preferences/WinPrefs.h"
 #include "specialA/WinSpecA.h"
 #include "support/Diagnostics.h"
@@ -15,7 +14,6 @@
 #include "support/Fncts.h"
 #include "support/Sounds.h"
 #include "support/Status.h"
-#include "support/TextFiles.h"
 #include "support/TextHelpers.h"
 #include "toolkit/Desktop.h"
 
@@ -74,7 +72,6 @@ WinMain::WinMain()
 {
     PushButtDebug.SetVisible(false);
     ProgressProposer.SetVisible(false);
-    URLCnctLirePage.AllowCertificateValidation = false;
     NameControls();
     BindHandlers();
     BindMenus();
@@ -117,8 +114,6 @@ void WinMain::Tell(StringView message, StringView explanation)
 
 void WinMain::BindHandlers()
 {
-    for (TextDocument& document : documents_)
-        document.ModifiedChanged = [this] { SetModified(std::ranges::any_of(documents_, &TextDocument::Modified)); };
     for (DesktopUIControl* const control : std::initializer_list<DesktopUIControl*>{
              &BtnEnabDis, &BtnAffDoss, &BtnSave, &PushButtCherch, &PushButtInitCherch, &PopMenuAff})
         control->SetFocusByTabAlone();
@@ -136,30 +131,17 @@ void WinMain::BindHandlers()
     BtnAffDoss.Pressed = [this] { BtnAffDoss_Pressed(); };
     BtnSave.Pressed = [this] { BtnSave_Pressed(); };
     BtnEnabDis.Pressed = [this] { BtnEnabDis_Pressed(); };
-    PushButtCherch.Pressed = [this] { PushButtCherch_Pressed(); };
-    PushButtInitCherch.Pressed = [this] { PushButtInitCherch_Pressed(); };
+    BindRun();
+    BindSearch();
     BindPathFields();
-    TextFieldCherch.Entered = [this] { TextFieldCherch_Entered(); };
-    TextFieldCherch.Escaped = [this] { TextAreaAff.SetFocus(); };
-    FindRequested = [this] {
-        TextFieldCherch.SetFocus();
-        TextFieldCherch.SelectAll();
-    };
     TextAreaAff.CaretMoved = [this] { ShowStatus(); };
-    for (TextDocument& document : documents_)
+    for (TextDocument& document : documents_) {
+        document.ModifiedChanged = [this] { SetModified(std::ranges::any_of(documents_, &TextDocument::Modified)); };
         document.Changed = [this] {
             Fncts::Dire({}); // what was said of the text before
             ShowStatus();
         };
-    BtnRun.Pressed = [this] { BtnRun_Pressed(); };
-    TimerDebRun.Action = [this] { InRun([&] { TimerDebRun_Action(); }); };
-    // An error page is content like any other: the header test refuses it.
-    URLCnctLirePage.ContentReceived = [this](const String& /*url*/, Int64 /*httpStatus*/, const Bytes& content) {
-        InRun([&] { RunSuite(Fncts::TextOfBytes(content)); });
-    };
-    URLCnctLirePage.Error = [this](const RuntimeException& error) {
-        InRun([&] { RunSuite({.text = String(ErrorMarker) + ToText(error.ErrorNumber) + U" " + WhyNoAnswer(error)}); });
-    };
+    }
     PopMenuAff.SelectionChanged = [this] { PopMenuAff_SelectionChanged(); };
     StaticTextVersion.Pressed = [] { Fncts::SuivreLien(Addresses::VersionNotes); };
     BtnAide.Pressed = [this] {

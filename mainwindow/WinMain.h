@@ -24,7 +24,7 @@ struct DateTime;
 /// The controls hold the settings; a path is kept as text in its field and turned into a file at each use. The three
 /// texts live in documents, of which the text area shows one.
 class WinMain final : public DesktopWindow {
-    /// By row; the text area, which shows one of them, goes first.
+    /// By row. They outlive the text area, which shows one of them.
     std::array<TextDocument, 3> documents_{TextDocument(SceneryColours()), TextDocument(SceneryColours()),
                                            TextDocument(SceneryColours())};
 
@@ -125,6 +125,7 @@ private:
     [[nodiscard]] Preferences ShownPreferences() const;
 
     // Run.cpp
+    void BindRun();
     /// The second half of a run, wherever the model came from.
     void RunSuite(Fncts::Reading model);
     Fncts::Reading ReadFile(const std::optional<FolderItem>& file);
@@ -158,6 +159,7 @@ private:
     void SelLigneEnt();
 
     // Search.cpp
+    void BindSearch();
     /// Selects, and scrolls until that stands so many lines below the top.
     void ShowInText(const struct Selection& selection, Int64 lines);
 

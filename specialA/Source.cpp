@@ -39,7 +39,7 @@ bool WinSpecA::FairePath()
 
 void WinSpecA::ActButtSource(std::optional<FolderItem> item)
 {
-    if (!item) item = Fncts::MyDialogLoad(FichOrg, Txt_ChoisirUnFich(), FileTypes::TextPlain.Extensions, this, true);
+    if (!item) item = Fncts::MyDialogLoad(FichOrg, Txt_ChoisirUnFich(), FileTypes::TextPlain, this);
     if (!item) return;
     if (item->IsFolder() || item->IsAlias())
         Tell(Txt_SelectQueFichTxt());

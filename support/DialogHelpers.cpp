@@ -7,7 +7,6 @@
 #include "support/FileHelpers.h"
 #include "toolkit/Dialogs.h"
 
-#include <array>
 #include <utility>
 
 namespace {
@@ -29,13 +28,6 @@ auto InFrame(DesktopWindow* win, bool sheet, const Ask& ask)
     return ask(useWin ? win : nullptr);
 }
 
-/// The platform's number of an icon.
-int IconType(Fncts::DialogIcon icon)
-{
-    constexpr std::array iconTypes = {0, 1, 3, 2};
-    return iconTypes.at(static_cast<std::size_t>(icon));
-}
-
 std::optional<FolderItem> InitialFolder(const std::optional<FolderItem>& start)
 {
     if (start) return Fncts::DossPasPack_f(*start) ? start : start->Parent();
@@ -52,17 +44,17 @@ Int16 MyDialogBox(const Question& question)
     return InFrame(question.win, question.sheet, [&](DesktopWindow* window) {
         if (question.btnAction.empty()) TellAuthors(U"My DialogBox, BtnAct = ''");
         const MessageDialog dialog{
-            IconType(question.icon),      String(question.message.empty() ? U" " : question.message),
-            String(question.explanation), String(question.btnAction),
-            String(question.btnCancel),   String(question.btnAlternate)};
+            static_cast<int>(question.icon), String(question.message.empty() ? U" " : question.message),
+            String(question.explanation),    String(question.btnAction),
+            String(question.btnCancel),      String(question.btnAlternate)};
         return static_cast<Int16>(dialog.ShowModal(window));
     });
 }
 
 std::optional<FolderItem> MyDialogLoad(const std::optional<FolderItem>& start, StringView prompt, StringView filter,
-                                       DesktopWindow* win, bool sheet)
+                                       DesktopWindow* win)
 {
-    return InFrame(win, sheet, [&](DesktopWindow* window) {
+    return InFrame(win, true, [&](DesktopWindow* window) {
         const bool isFile = start && start->Exists() && !DossPasPack_f(*start);
         return OpenFileDialog{String(prompt),
                               InitialFolder(start),
@@ -81,10 +73,9 @@ std::optional<FolderItem> MyDialogSave(StringView name, StringView prompt, Deskt
     });
 }
 
-std::optional<FolderItem> MyDialogFolder(const std::optional<FolderItem>& start, StringView prompt, DesktopWindow* win,
-                                         bool sheet)
+std::optional<FolderItem> MyDialogFolder(const std::optional<FolderItem>& start, StringView prompt)
 {
-    return InFrame(win, sheet, [&](DesktopWindow* window) {
+    return InFrame(nullptr, true, [&](DesktopWindow* window) {
         return SelectFolderDialog{String(prompt), InitialFolder(start)}.ShowModal(window);
     });
 }

@@ -11,7 +11,8 @@ class DesktopWindow;
 
 namespace Fncts {
 
-enum class DialogIcon { Note, Warning, Question, Failure };
+/// By the platform's numbers.
+enum class DialogIcon { Note = 0, Warning = 1, Failure = 2 };
 
 struct Question {
     StringView message, explanation = {};
@@ -31,13 +32,12 @@ Int16 MyDialogBox(const Question& question);
 /// folder that holds the file `start`, which is selected, or in the user's documents. `filter` holds extensions as in
 /// ".txt;.ini".
 std::optional<FolderItem> MyDialogLoad(const std::optional<FolderItem>& start, StringView prompt, StringView filter,
-                                       DesktopWindow* win, bool sheet);
+                                       DesktopWindow* win);
 
 /// Lets the user name a file to be written, `name` beside the documents at first; nothing when the user gave up.
 std::optional<FolderItem> MyDialogSave(StringView name, StringView prompt, DesktopWindow* win);
 
 /// Lets the user choose a folder; nothing when the user gave up. It begins where `MyDialogLoad` does.
-std::optional<FolderItem> MyDialogFolder(const std::optional<FolderItem>& start, StringView prompt, DesktopWindow* win,
-                                         bool sheet);
+std::optional<FolderItem> MyDialogFolder(const std::optional<FolderItem>& start, StringView prompt);
 
 } // namespace Fncts

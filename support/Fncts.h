@@ -21,13 +21,13 @@ inline bool ArretUrg = false;
 inline bool AffHelpTag = false;
 /// The encoding of every text file that the program reads or writes.
 inline constexpr TextEncoding DefAppEncod = Encodings::UTF8;
+/// The data folder, or nothing when it can't be had.
+inline std::optional<FolderItem> DossierPref;
+
 /// Whether something was done; false with the reason, in the words of the system.
 struct Outcome {
     String failure = {};
     explicit operator bool() const { return failure.empty(); }
 };
-
-/// The data folder, or nothing when it can't be had.
-inline std::optional<FolderItem> DossierPref;
 
 } // namespace Fncts
