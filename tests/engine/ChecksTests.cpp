@@ -1,6 +1,5 @@
 #include "engine/Checks.h"
 #include "engine/Folders.h"
-#include "engine/ManyTexts.h"
 #include "engine/SceneryText.h"
 #include "tests/TemporaryFolder.h"
 #include "toolkit/core/FolderItem.h"
@@ -43,7 +42,7 @@ TEST(Folders, OnlyThoseOfTheFolderItselfAndWhatLeadsToOneCount)
     EXPECT_TRUE(nowhere.starts_with(U"Ces Sceneries") && nowhere.ends_with(U"\n - o\u0301"));
 }
 
-TEST(Folders, LinesThatTheTextLacks)
+TEST(Folders, LinesThatTheTextLacksAndThoseThatLackAFolder)
 {
     TemporaryFolder temporary;
     for (const char* folder : {"b", "A", "c:d", "listed", "é"})
@@ -61,31 +60,11 @@ TEST(Folders, LinesThatTheTextLacks)
         EXPECT_EQ(FirstPlace(text), place) << name;
         EXPECT_EQ(UnlistedLines(text, dossier), lines) << name;
     }
-}
-
-TEST(Folders, EnabledWithoutFolder)
-{
-    TemporaryFolder temporary;
-    temporary.Folder("a");
-    const String text = U"SCENERY_PACK /x/\n" + TextFor({U"z", U"a", U"-y", U"A", U"m/n"});
     String found;
-    for (const Int64 start : EnabledWithoutFolder(text, FolderItem(temporary.Path())))
+    const String text = U"SCENERY_PACK /x/\n" + TextFor({U"z", U"b", U"-y", U"B", U"m/n"});
+    for (const Int64 start : EnabledWithoutFolder(text, dossier))
         found += NthField(Middle(text, start), U"/", 2);
     EXPECT_EQ(found, U"zm") << "of two lines of a name neither lacks its folder";
-}
-
-TEST(ManyTexts, SortedOrder)
-{
-    const StringView nul(U"a\0", 2);
-    const std::tuple<const char*, std::vector<StringView>, std::vector<std::size_t>> rows[] = {
-        {"equal texts keep their order", {U"b", U"A", U"a", U"", U"B", U"a", U""}, {3, 6, 1, 2, 5, 0, 4}},
-        {"a beginning comes first, even before a NUL", {U"ab", nul, U"a", U"aa"}, {2, 1, 3, 0}},
-        {"characters count in full, in the order of their numbers",
-         {U"\U00010061", U"\u0161", U"a", U"\u2161", U"\uFF41", U"\u0160"},
-         {2, 1, 5, 3, 4, 0}},
-    };
-    for (const auto& [name, texts, order] : rows)
-        EXPECT_EQ(SortedOrder(texts), order) << name;
 }
 
 } // namespace

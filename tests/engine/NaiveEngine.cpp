@@ -44,10 +44,11 @@ Int64 OffsetOf(const Lines& lines, std::size_t index)
 
 String CheckModel(const Lines& model)
 {
-    Lines names = Reduce(model), seconds;
-    for (std::size_t i = 0; i < names.size(); ++i)
-        if (Count({names.begin(), names.begin() + static_cast<std::ptrdiff_t>(i)}, names[i]) == 1)
-            seconds.push_back(names[i]);
+    Lines met, seconds;
+    for (const String& name : Reduce(model)) {
+        met.push_back(name);
+        if (Count(met, name) == 2) seconds.push_back(name);
+    }
     Sort(seconds);
     String report;
     AppendSection(report, Localisation::Txt_ScenPlusDuneFois(), seconds);
@@ -56,26 +57,21 @@ String CheckModel(const Lines& model)
 
 String CheckFolders(const Lines& sorted, const Lines& folders)
 {
-    Lines names = Reduce(sorted), unlisted, otherCase;
-    const auto isOf = [](StringView one) {
-        return [one = CanonicalForm(one)](StringView other) { return SameText(one, CanonicalForm(other)); };
-    };
-    for (const String& name : names) {
-        const auto folder = std::ranges::find_if(folders, isOf(name));
-        if (folder == folders.end() || std::ranges::count(folders, CanonicalForm(name)) > 0) continue;
-        const auto before = std::ranges::count_if(std::span(names.data(), &name), isOf(name));
-        if (before < std::ranges::count_if(folders, isOf(name))) otherCase.push_back(name + U" (" + *folder + U")");
-    }
-    for (const String& folder : folders) {
-        const auto found = std::ranges::find_if(names, isOf(folder));
-        if (found == names.end())
-            unlisted.push_back(folder);
-        else
-            names.erase(found);
+    Lines unlisted = folders, missing, otherCase;
+    for (const String& name : Reduce(sorted)) {
+        const auto isNamedSo = [form = CanonicalForm(name)](StringView folder) { return SameText(folder, form); };
+        const auto listed = std::ranges::find_if(unlisted, isNamedSo);
+        if (listed == unlisted.end()) {
+            missing.push_back(name);
+            continue;
+        }
+        unlisted.erase(listed);
+        if (std::ranges::count(folders, CanonicalForm(name)) == 0)
+            otherCase.push_back(name + U" (" + *std::ranges::find_if(folders, isNamedSo) + U")");
     }
     String report;
     AppendSection(report, Localisation::Txt_DossDsDossPasDsScen(), unlisted);
-    AppendSection(report, Localisation::Txt_ScenDsScenIniPasDsDoss(), names);
+    AppendSection(report, Localisation::Txt_ScenDsScenIniPasDsDoss(), missing);
     AppendSection(report, Localisation::Txt_ScenAutreCasse(), otherCase);
     return report;
 }
@@ -148,8 +144,8 @@ Outcome RunNaively(StringView modelText, StringView sourceText, const std::vecto
 {
     Outcome outcome;
     const Lines model = Cut(modelText);
-    Lines source = Cut(sourceText);
     if (const String refusal = CheckModel(model); !refusal.empty()) return {U"### Error ###", {}, {}, {{refusal, {}}}};
+    Lines source = Cut(sourceText);
     Lines destination = PlaceModel(model, source, outcome);
     AddTheRest(destination, source, outcome);
     for (const String& line : destination)

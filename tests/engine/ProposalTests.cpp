@@ -3,6 +3,7 @@
 #include "tests/TemporaryFolder.h"
 #include "tests/engine/RunLaws.h"
 
+#include <map>
 #include <random>
 #include <set>
 
@@ -10,32 +11,22 @@ namespace {
 
 constexpr StringView head = U"I\n1000 version\nSCENERY\n";
 
-PackFacts Facts(char32_t kind)
-{
-    using Tile = PackFacts::Tile;
-    switch (kind) {
-    case U'a':
-        return {.airports = true, .library = true, .doubt = {}};
-    case U'o':
-        return {.library = true, .tile = Tile::Overlay, .doubt = {}};
-    case U'm':
-        return {.plugins = true, .tile = Tile::Base, .doubt = {}};
-    case U'l':
-        return {.library = true, .plugins = true, .doubt = {}};
-    case U'p':
-        return {.plugins = true, .doubt = {}};
-    default:
-        return {.doubt = U"doubt"};
-    }
-}
-
 /// Each pack is what the last letter of its name says, a folder or not.
 std::vector<Pack> Look(const std::vector<String>& lines)
 {
+    using Tile = PackFacts::Tile;
+    static const std::map<char32_t, PackFacts> kinds = {
+        {U'a', {.airports = true, .library = true, .doubt = {}}},
+        {U'o', {.library = true, .tile = Tile::Overlay, .doubt = {}}},
+        {U'm', {.plugins = true, .tile = Tile::Base, .doubt = {}}},
+        {U'l', {.library = true, .plugins = true, .doubt = {}}},
+        {U'p', {.plugins = true, .doubt = {}}},
+    };
     std::vector<Pack> packs;
-    packs.reserve(lines.size());
-    for (const String& line : lines)
-        packs.push_back({line, Facts(line.size() < 2 ? U'?' : line[line.size() - 2])});
+    for (const String& line : lines) {
+        const auto kind = kinds.find(*(line.end() - 2));
+        packs.push_back({line, kind == kinds.end() ? PackFacts{.doubt = U"doubt"} : kind->second});
+    }
     return packs;
 }
 
@@ -66,23 +57,6 @@ TEST(Proposal, TellsTheKindsInTheirOrder)
                                U"Omis, une ligne plus haut nommant la même scène : 2\n - A\n - /far/o/");
 }
 
-/// Sceneries of all kinds, some without a folder, in any order, with blank lines between them.
-String RandomText(std::mt19937& random)
-{
-    std::vector<String> lines(random() % 4);
-    for (const StringView name : Split(U"1a|2o|3m|4l|5p|6x|7a|8o|9m|10x|Global Airports|éa", U"|"))
-        if (random() % 4 > 0)
-            lines.push_back(
-                String(random() % 3 > 0 ? EnabledPrefix : DisabledPrefix).append(CustomScenery).append(name) + U"/");
-    lines.emplace_back(U"SCENERY_PACK *GLOBAL_AIRPORTS*");
-    lines.emplace_back(U"SCENERY_PACK /far/11o/");
-    std::ranges::shuffle(lines, random);
-    String text(head);
-    for (const String& line : lines)
-        text.append(line).append(U"\n");
-    return text;
-}
-
 TEST(Proposal, IsAModelForTheTextThatItIsMadeOf)
 {
     TemporaryFolder temporary;
@@ -90,8 +64,20 @@ TEST(Proposal, IsAModelForTheTextThatItIsMadeOf)
         temporary.Folder(folder);
     const FolderItem dossier(temporary.Path());
     std::mt19937 random(17);
+    std::vector<StringView> rests =
+        Split(U"Custom Scenery/1a/|Custom Scenery/2o/|Custom Scenery/3m/|Custom Scenery/4l/|Custom Scenery/5p/|Custom "
+              U"Scenery/6x/|Custom Scenery/7a/|Custom Scenery/9m/|Custom Scenery/10x/|Custom Scenery/Global "
+              U"Airports/|Custom Scenery/éa/|/far/11o/|*GLOBAL_AIRPORTS*|||",
+              U"|");
     for (int run = 0; run < 200; ++run) {
-        const String text = RandomText(random);
+        std::ranges::shuffle(rests, random);
+        String text(head);
+        for (const StringView rest : std::span(rests).first(random() % rests.size()))
+            text.append(rest.empty()       ? rest
+                        : random() % 3 > 0 ? EnabledPrefix
+                                           : DisabledPrefix)
+                .append(rest)
+                .append(TxtEoF);
         const std::vector<String> lines = LinesToPropose(text, dossier);
         const Proposal proposal = ProposeModel(text, Look(lines));
 

@@ -13,18 +13,15 @@ const String header = U"I\n1000 version\nSCENERY";
 /// The marks and reports in the form of the files: "model 23 41", "result", then each report.
 std::string Findings(const Outcome& outcome)
 {
-    std::string findings;
-    for (const auto& [name, marks] : {std::pair("model", &outcome.modelMarks), {"result", &outcome.resultMarks}}) {
-        findings += name;
-        for (const Int64 mark : *marks)
-            findings += ' ' + std::to_string(mark);
-        findings += '\n';
-    }
-    for (const auto& [message, explanation] : outcome.reports) {
-        findings += "--- report\n" + Encodings::UTF8.Encode(message) + '\n';
-        if (!explanation.empty()) findings += "--- explanation\n" + Encodings::UTF8.Encode(explanation) + '\n';
-    }
-    return findings;
+    String findings = U"model";
+    for (const Int64 mark : outcome.modelMarks)
+        findings += U' ' + ToText(mark);
+    findings += U"\nresult";
+    for (const Int64 mark : outcome.resultMarks)
+        findings += U' ' + ToText(mark);
+    for (const auto& [message, explanation] : outcome.reports)
+        findings += U"\n--- report\n" + message + (explanation.empty() ? U"" : U"\n--- explanation\n" + explanation);
+    return Encodings::UTF8.Encode(findings) + '\n';
 }
 
 TEST(Runs, GiveTheExpectedTextMarksAndReports)
@@ -59,15 +56,6 @@ public:
         return text.append(Roll(3), U'\n');
     }
 
-    /// A text of many sceneries, about half of which are in any other such text.
-    String LongText(std::size_t lines)
-    {
-        String text = header;
-        for (Int64 number = 0; lines > 0; --lines, number += 1 + static_cast<Int64>(Roll(2)))
-            text += U"\nSCENERY_PACK Custom Scenery/Région " + ToText(number) + U"/";
-        return Variant(text);
-    }
-
     /// The lines of a text in another order, some in another state or case.
     String Variant(StringView text)
     {
@@ -91,14 +79,15 @@ private:
                   U"|");
         static const std::vector<StringView> rests =
             Split(U"Custom Scenery/a/|Custom Scenery/é/|Custom Scenery/e\u0301/|Custom Scenery/B b/x/y|Custom "
-                  U"Scenery/c|Custom Scenery/d:e/|Custom Scenery/f/|Custom Scenery/g/|*GLOBAL_AIRPORTS*|/x/y/|x|||"
-                  U"SCENERY_PACK x|I|scenery_x",
+                  U"Scenery/c|Custom Scenery/d:e/|Custom Scenery/f/|Custom Scenery/g/|Custom Scenery/\u0161/|"
+                  U"Custom Scenery/\U00010061/|*GLOBAL_AIRPORTS*|/x/y/|x|||SCENERY_PACK x|I|scenery_x",
                   U"|");
         String line = String(prefixes[Roll(prefixes.size())]).append(rests[Roll(rests.size())]);
         if (Roll(4) == 0) line = FoldCase(line);
         if (Roll(4) == 0 && !line.empty()) {
             char32_t& letter = line[Roll(line.size())];
             if (letter >= U'a' && letter <= U'z') letter -= U'a' - U'A';
+            if (Roll(9) == 0) letter = U"\0\r\uFFFE"[Roll(3)];
         }
         return line;
     }
@@ -119,15 +108,13 @@ TEST(CreerSpack, DoesWhatTheNaiveEngineDoes)
     Dice dice;
     std::map<String, int> messages;
     for (int run = 0; run < 6000; ++run) {
-        const bool isLong = run % 500 == 0;
         const std::size_t mostLines = 1 + dice.Roll(12);
-        const String model = isLong ? dice.LongText(300) : dice.Text(mostLines);
-        const String source = isLong              ? dice.LongText(300)
-                              : dice.Roll(2) == 0 ? dice.Variant(model)
-                                                  : dice.Text(mostLines);
-        const Outcome outcome = ExpectLawfulRun(model, source, dossier, folders);
-        ASSERT_FALSE(HasFailure()) << "run " << run << "\nmodel " << testing::PrintToString(model) << "\nsource "
-                                   << testing::PrintToString(source);
+        const String model = dice.Text(mostLines);
+        const String source = dice.Roll(2) == 0 ? dice.Variant(model) : dice.Text(mostLines);
+        const Outcome outcome = RunEngine(model, source, dossier);
+        ASSERT_EQ(outcome, RunNaively(model, source, folders))
+            << "run " << run << "\nmodel " << testing::PrintToString(model) << "\nsource "
+            << testing::PrintToString(source);
         for (const auto& [message, explanation] : outcome.reports)
             ++messages[message.substr(0, message.find(U'\n'))];
     }
@@ -135,22 +122,6 @@ TEST(CreerSpack, DoesWhatTheNaiveEngineDoes)
     EXPECT_EQ(messages.size(), 5U);
     for (const auto& [message, count] : messages)
         EXPECT_GT(count, 20) << testing::PrintToString(message);
-}
-
-TEST(CreerSpack, TakesBadTexts)
-{
-    const String oneLine = String(U"SCENERY_PACK ").append(10'000'000, U'x');
-    const std::tuple<const char*, String, String> rows[] = {
-        {"less than a header", U"I\n1000 version", U""},
-        {"nothing but line ends", String(9, U'\n'), String(5, U'\n')},
-        {"NULs", header + String(U"\nSCENERY_PACK a\0b\n\0", 19), header + String(U"\n\0\nSCENERY_PACK a\0c", 19)},
-        {"CR in lines", header + U"\nSCENERY_PACK a\r\n\r", header + U"\r\n\r\nSCENERY_PACK a"},
-        {"ten million characters in one line", oneLine, header + U"\n" + oneLine},
-        {"what no text should hold", header + U"\n\U0010FFFF\n\uFFFE", header + U"\n\uFFFE\n" + char32_t{0xD800}},
-    };
-    const TemporaryFolder empty;
-    for (const auto& [name, model, source] : rows)
-        EXPECT_TRUE(RunEngine(model, source, FolderItem(empty.Path())) == RunNaively(model, source, {})) << name;
 }
 
 } // namespace

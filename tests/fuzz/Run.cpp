@@ -33,5 +33,5 @@ void Fuzz(Input& input)
         return names;
     }();
     const String model = Accepted(input.Text()), source = Accepted(input.Text());
-    ExpectLawfulRun(model, source, FolderItem(temporary.Path()), folders);
+    EXPECT_EQ(RunEngine(model, source, FolderItem(temporary.Path())), RunNaively(model, source, folders));
 }
