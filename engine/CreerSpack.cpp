@@ -47,7 +47,7 @@ std::vector<PlacedLine> PlaceInModelOrder(std::span<const SceneryLine> model, Le
     std::vector<PlacedLine> placed;
     if (model.size() <= HeaderLines) return placed;
     placed.reserve(model.size() - HeaderLines);
-    Int64 offset = LongTxtTab(model, LgTxtEoF, HeaderLines - 1);
+    Int64 offset = LongTxtTab(model.first(HeaderLines));
     for (std::size_t i = HeaderLines; i < model.size(); offset += std::ssize(model[i++].text) + LgTxtEoF) {
         const SceneryLine& line = model[i];
         Entry& entry = ledger.OfModel(i);
@@ -80,7 +80,7 @@ std::size_t LengthOf(std::span<const PlacedLine> lines)
 void WeaveInTheRest(std::span<const PlacedLine> placed, std::span<const SceneryLine> source, Ledger& ledger,
                     std::vector<Int64>& unplaced, String& text)
 {
-    text.reserve(LengthOf(placed) + static_cast<std::size_t>(LongTxtTab(source, LgTxtEoF, std::ssize(source) - 1)));
+    text.reserve(LengthOf(placed) + static_cast<std::size_t>(LongTxtTab(source)));
     text.assign(TxtDebSpack).append(TxtEoF);
     std::size_t lines = HeaderLines;
     const auto append = [&](const auto& line) {

@@ -119,7 +119,7 @@ Int64 FirstPlace(StringView text)
     const std::vector<SceneryLine> lines = LinesOf(text);
     const bool blank = lines.size() > HeaderLines && lines[HeaderLines].text.empty();
     const std::size_t before = std::min(HeaderLines + (blank ? 1 : 0), lines.size());
-    return std::min(LongTxtTab(lines, LgTxtEoF, static_cast<Int64>(before) - 1), std::ssize(text));
+    return std::min(LongTxtTab(std::span(lines).first(before)), std::ssize(text));
 }
 
 std::vector<Int64> EnabledWithoutFolder(StringView text, const FolderItem& dossier)

@@ -80,10 +80,10 @@ std::vector<SceneryLine> LinesWithoutBlankEnd(StringView text)
     return lines;
 }
 
-Int64 LongTxtTab(std::span<const SceneryLine> lignes, Int64 lgEoF, Int64 dernier)
+Int64 LongTxtTab(std::span<const SceneryLine> lignes)
 {
     Int64 length = 0;
-    for (Int64 k = 0; k <= dernier; ++k)
-        length += std::ssize(lignes[static_cast<std::size_t>(k)].text) + lgEoF;
+    for (const SceneryLine& ligne : lignes)
+        length += std::ssize(ligne.text) + LgTxtEoF;
     return length;
 }

@@ -77,6 +77,5 @@ std::vector<SceneryLine> LinesOf(StringView text);
 /// The same without the blank lines at the end.
 std::vector<SceneryLine> LinesWithoutBlankEnd(StringView text);
 
-/// The characters of lines 0 to `dernier` with a line end of `lgEoF` behind each: where the line behind them begins.
-/// 0 for -1.
-Int64 LongTxtTab(std::span<const SceneryLine> lignes, Int64 lgEoF, Int64 dernier);
+/// The characters of the lines with a line end behind each: where the line behind them begins.
+Int64 LongTxtTab(std::span<const SceneryLine> lignes);

@@ -25,13 +25,14 @@ String FormsOf(std::initializer_list<std::pair<String, String>> namesAndForms)
     return sentences;
 }
 
-/// Replaces `text` by its accepted form, or by an error text: adds then to `refusals` the sentence `why` with the
-/// reason.
-void Accept(String& text, const String& why, std::vector<String>& refusals)
+/// Replaces the text by its accepted form, or by an error text: adds then to `refusals` the sentence `why` with the
+/// reasons.
+void Accept(Fncts::Reading& reading, const String& why, std::vector<String>& refusals)
 {
-    Acceptance acceptance = AcceptSceneryText(text);
-    if (!acceptance.accepted) refusals.push_back(Localisation::Filled(why, {ReasonOfRefusal(text)}));
-    text = std::move(acceptance.text);
+    Acceptance acceptance = AcceptSceneryText(reading.text);
+    if (!acceptance.accepted) refusals.push_back(Localisation::Filled(why, {ReasonOfRefusal(reading.text)}));
+    if (!reading.failure.empty()) refusals.back().append(U" (").append(reading.failure).append(U")");
+    reading.text = std::move(acceptance.text);
 }
 
 } // namespace
@@ -99,20 +100,16 @@ void WinMain::RunSuite(Fncts::Reading model)
     const DesktopTextField& field = RadGrpSrc.SelectedIndex() == 0 ? TextFieldMod1 : TextFieldMod2;
     const bool modelIsCleaned = model.cleanedLines > 0;
     if (modelIsCleaned) Tell(Fncts::CleaningReport(model, field.Text()));
-    SceneryTexts texts;
-    texts.TextModel = std::move(model.text);
-    const bool isEmpty = texts.TextModel.empty();
+    const bool isEmpty = model.text.empty();
     std::vector<String> refusals;
-    Accept(texts.TextModel, Localisation::Dit_ModeleRefuse(), refusals);
-    if (!model.failure.empty()) refusals.back().append(U" (").append(model.failure).append(U")");
+    Accept(model, Localisation::Dit_ModeleRefuse(), refusals);
     if (isEmpty) refusals.back().append(U" (").append(Localisation::Dit_OffreModele()).append(U")");
     const std::optional<FolderItem> spack = Fncts::GetFitemAbsPath(TextFieldSpack.Text(), false);
     Fncts::Reading source = ReadFile(spack);
     const bool sourceIsCleaned = source.cleanedLines > 0;
     if (sourceIsCleaned) Tell(Fncts::CleaningReport(source, TextFieldSpack.Text()));
-    texts.TextSrcSpack = std::move(source.text);
-    Accept(texts.TextSrcSpack, Localisation::Dit_SpackRefuse(), refusals);
-    if (!source.failure.empty()) refusals.back().append(U" (").append(source.failure).append(U")");
+    Accept(source, Localisation::Dit_SpackRefuse(), refusals);
+    SceneryTexts texts{std::move(model.text), std::move(source.text), {}, {}, {}};
     String sentence;
     if (refusals.empty()) {
         sentence = Reorder(texts, *spack->Parent());

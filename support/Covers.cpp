@@ -56,21 +56,12 @@ void Uncover(DesktopWindow& window)
     }
 }
 
-void MakeCover(const DesktopWindow* win, DesktopLabel& first, DesktopLabel& clone)
-{
-    if (&first.Parent() != win) TellAuthors(U"LabBlockUI, LabBlockUI(0).Parent is not Nil");
-    clone.SetName(first.Name() + U"1");
-    clone.SetText(U" ");
-    clone.Place(first.Left(), first.Top(), first.Width(), first.Height());
-    first.SetText(U" ");
-}
-
 } // namespace
 
 namespace Fncts {
 
 LabBlockUISet::LabBlockUISet(DesktopWindow& window, int tab)
-    : first_(window, {uncovered.left, uncovered.top, uncovered.width, uncovered.height, uncovered.locks, tab}, U"UI",
+    : first_(window, {uncovered.left, uncovered.top, uncovered.width, uncovered.height, uncovered.locks, tab}, U" ",
              labelStyle)
 {
     first_.SetName(firstName);
@@ -80,9 +71,9 @@ LabBlockUISet::LabBlockUISet(DesktopWindow& window, int tab)
 void LabBlockUISet::Opening()
 {
     if (!clone_) {
-        clone_ = std::make_unique<DesktopLabel>(first_.Parent(), uncovered, U"UI", labelStyle);
+        clone_ = std::make_unique<DesktopLabel>(first_.Parent(), uncovered, U" ", labelStyle);
+        clone_->SetName(coverName);
         clone_->SetVisible(false);
-        CmLabBlockUI(CoverAct::Make, &first_.Parent(), &first_, clone_.get());
     }
     if (!ControlsNamed(first_.Parent(), strangerName).empty()) TellAuthors(U"LabBlockUI, LabBlockUI(2) is not Nil");
 }
@@ -101,23 +92,16 @@ bool CtrlDsFenetrDiag(DesktopWindow* win, bool opening)
     return opening;
 }
 
-bool CmLabBlockUI(CoverAct act, DesktopWindow* win, DesktopLabel* first, DesktopLabel* clone)
+bool CmLabBlockUI(CoverAct act, DesktopWindow* win)
 {
     static DesktopWindow* MemFenetr = nullptr;
     static Int64 TpDerTicks = 0;
     constexpr Int64 ticksOfOneAct = 12;
-    switch (act) {
-    case CoverAct::Make:
-        MakeCover(win, *first, *clone);
-        break;
-    case CoverAct::Remember:
+    if (act == CoverAct::Remember) {
         MemFenetr = win;
-        break;
-    case CoverAct::Activated:
-        if (MemFenetr == nullptr || MemFenetr == win) break;
+    } else if (MemFenetr != nullptr && MemFenetr != win) {
         if (System::Ticks() - TpDerTicks > ticksOfOneAct) BeepNbT(1);
         MemFenetr->Show();
-        break;
     }
     TpDerTicks = System::Ticks();
     return MemFenetr == nullptr;

@@ -30,8 +30,6 @@ private:
 bool CtrlDsFenetrDiag(DesktopWindow* win, bool opening);
 
 enum class CoverAct {
-    /// The label `clone` becomes the cover that belongs to `first`.
-    Make,
     /// The dialog's window `win` is remembered, or forgotten (null).
     Remember,
     /// `win` was activated: the user is sent back to the dialog's window, with one beep unless the last call is no more
@@ -40,7 +38,7 @@ enum class CoverAct {
 };
 
 /// Knows the window that a dialog hangs on. The result is true when no window is remembered.
-bool CmLabBlockUI(CoverAct act, DesktopWindow* win, DesktopLabel* first = nullptr, DesktopLabel* clone = nullptr);
+bool CmLabBlockUI(CoverAct act, DesktopWindow* win);
 
 /// Moves each control to where its class looks best beside the others: text fields one point up, sliders two down. Once
 /// for each window.

@@ -11,8 +11,8 @@ cmake --build $build | tail -n 1
 tools/ctest.sh coverage -E EndToEnd | tail -n 1
 
 cd $build
-for source in ../../{engine,support}/*.cpp ../../preferences/Preferences.cpp ../../specialA/{FoldedText,Treatment}.cpp \
-    ../../mainwindow/{ArchiveName,Colouring,ReportSeries,Searching,Toggling}.cpp; do
+for source in ../../{engine,packs,support}/*.cpp ../../preferences/Preferences.cpp ../../specialA/{FoldedText,Treatment}.cpp \
+    ../../mainwindow/{ArchiveName,Colouring,ReportSeries,Searching,Sentences,Toggling}.cpp; do
     source=${source#../../}
     gcov -t "${source%/*}"/CMakeFiles/*.dir/"${source##*/}.gcda"
 done | awk -F: '
