@@ -52,25 +52,17 @@ function(house_bundle name)
     VERBATIM)
 endfunction()
 
-# house_program(name SOURCES ... LINKS rooms...): the program itself, at the top of the build folder.
+# house_program(name SOURCES ... LINKS rooms...): a program, at the top of the build folder, where all find the resources.
 function(house_program name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   target_link_libraries(${name} PRIVATE ${ARG_LINKS})
   add_dependencies(${name} resources)
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR})
-  if(APPLE)
-    house_bundle(${name})
-  endif()
 endfunction()
 
-# house_test(name SOURCES ... LINKS rooms... [QT modules...]): a GoogleTest program, each of its tests known to ctest.
-# It lies beside the program, so that it finds the same resources.
+# house_test(name SOURCES ... LINKS rooms and modules of Qt...): a GoogleTest program, each of its tests known to ctest.
 function(house_test name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;QT" ${ARGN})
-  add_executable(${name} ${ARG_SOURCES})
-  target_link_libraries(${name} PRIVATE ${ARG_LINKS} GTest::gtest GTest::gtest_main ${ARG_QT})
-  add_dependencies(${name} resources)
-  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR})
+  house_program(${name} ${ARGN} GTest::gtest_main)
   gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
 endfunction()

@@ -6,23 +6,23 @@
 #include "toolkit/core/System.h"
 
 #include <chrono>
+#include <map>
 #include <thread>
 
 namespace {
 
 /// Never destroyed: the platform's sound system is gone before the program's last objects are.
-Sound* LoadForGood(StringView fileName)
+Sound* Permanent(StringView fileName)
 {
-    const auto folder = ResourceFolder();
+    static auto& sounds = *new std::map<StringView, std::unique_ptr<Sound>>;
+    const auto [sound, isNew] = sounds.try_emplace(fileName);
+    const auto folder = isNew ? ResourceFolder() : std::nullopt;
     const auto file = folder ? folder->Child(fileName) : std::nullopt;
-    return file ? Sound::OpenAsSound(*file).release() : nullptr;
+    if (file) sound->second = Sound::OpenAsSound(*file);
+    return sound->second.get();
 }
 
-Sound* BeepSound()
-{
-    static Sound* const sound = LoadForGood(U"Beep.wav");
-    return sound;
-}
+Sound* BeepSound() { return Permanent(U"Beep.wav"); }
 
 } // namespace
 
@@ -64,34 +64,14 @@ void SetVolume(Int16 percent)
         if (sound != nullptr) sound->SetVolume(percent);
 }
 
-Sound* _x_Bip::Bip()
-{
-    static Sound* const permaSound = LoadForGood(U"Bip.wav");
-    return permaSound;
-}
+Sound* _x_Bip::Bip() { return Permanent(U"Bip.wav"); }
 
-Sound* _x_Whit::Whit()
-{
-    static Sound* const permaSound = LoadForGood(U"Whit.wav");
-    return permaSound;
-}
+Sound* _x_Whit::Whit() { return Permanent(U"Whit.wav"); }
 
-Sound* _x_Glass_t::Glass_t()
-{
-    static Sound* const permaSound = LoadForGood(U"Glass_t.wav");
-    return permaSound;
-}
+Sound* _x_Glass_t::Glass_t() { return Permanent(U"Glass_t.wav"); }
 
-Sound* _x_Agrafeuse_t::Agrafeuse_t()
-{
-    static Sound* const permaSound = LoadForGood(U"Agrafeuse_t.wav");
-    return permaSound;
-}
+Sound* _x_Agrafeuse_t::Agrafeuse_t() { return Permanent(U"Agrafeuse_t.wav"); }
 
-Sound* _x_Msg::Msg()
-{
-    static Sound* const permaSound = LoadForGood(U"Msg.wav");
-    return permaSound;
-}
+Sound* _x_Msg::Msg() { return Permanent(U"Msg.wav"); }
 
 } // namespace Fncts

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Prints each include by which a room sees another one that its link line doesn't reach.
 
-A room is a folder with a house_library in its CMakeLists.txt. It sees the rooms that it links, and those that they link.
+A room is a folder with a house_library or a house_program in its CMakeLists.txt. It sees the rooms that it links, and those that they link.
 Files that git doesn't know yet count too.
 """
 
@@ -9,7 +9,7 @@ import pathlib
 import re
 import subprocess
 
-LIBRARY = re.compile(r"house_library\((\w+)\s([^)]*)\)")
+ROOM = re.compile(r"house_(?:library|program)\(([\w-]+)\s([^)]*)\)")
 INCLUDE = re.compile(r'\s*#\s*include\s*"(.+)/[^/"]+"')
 
 
@@ -23,7 +23,7 @@ def rooms():
     """The folder of each room, and the names of the rooms that its link line has."""
     folders, links = {}, {}
     for file in git_files("*CMakeLists.txt"):
-        for name, arguments in LIBRARY.findall(pathlib.Path(file).read_text("utf-8")):
+        for name, arguments in ROOM.findall(pathlib.Path(file).read_text("utf-8")):
             folders[str(pathlib.Path(file).parent)] = name
             named = re.search(r"\bLINKS\s+((?:[a-z]\w*\s*)+)", arguments)
             links[name] = named[1].split() if named else []
