@@ -172,14 +172,4 @@ TEST_F(Scenery, TellsWhyATileOrAFolderCanNotBeRead)
     }
 }
 
-TEST_F(Scenery, TakesTheFirstTileOfMany)
-{
-    const fs::path tiles = custom / "p/Earth nav data/+40+000";
-    Put(tiles / "+20000.dsf", overlay);
-    Put(tiles / "+40000.dsf", base);
-    for (int number = 20'001; number < 40'000; ++number)
-        fs::create_hard_link(tiles / "+40000.dsf", tiles / ("+" + std::to_string(number) + ".dsf"));
-    EXPECT_EQ(Seen(line), U"overlay ");
-}
-
 } // namespace
