@@ -5,7 +5,7 @@
 #include "toolkit/core/Exceptions.h"
 #include "toolkit/core/TextInputStream.h"
 
-#include <clocale>
+#include <cstdio>
 #include <iostream>
 #include <iterator>
 
@@ -91,8 +91,12 @@ Status Propose(std::string_view spackName)
 {
     const std::optional<String> spack = Accepted(spackName);
     if (!spack) return Refused;
-    Progress progress;
-    const Proposal proposal = ProposeModel(*spack, LookAtPacks(*spack, FolderOf(spackName), progress));
+    const FolderItem dossier = FolderOf(spackName);
+    PackFolders folders(dossier);
+    std::vector<Pack> packs;
+    for (const String& line : LinesToPropose(*spack, dossier))
+        packs.push_back({line, folders.LookAt(line)});
+    const Proposal proposal = ProposeModel(*spack, packs);
     Say(proposal.report);
     return Write(proposal.model, proposal.complete ? Agrees : Reported);
 }
@@ -117,7 +121,6 @@ Status Run(std::span<const std::string_view> arguments)
 
 int main(int argc, char** argv)
 {
-    std::setlocale(LC_ALL, ""); // the system's reasons in the user's language
     const std::vector<std::string_view> arguments(argv + 1, argv + argc);
     try {
         return Run(arguments);

@@ -1,5 +1,6 @@
 #include "toolkit/Desktop.h"
 #include "toolkit/Probe.h"
+#include "toolkit/core/QtText.h"
 
 #include <QFile>
 #include <QUrl>

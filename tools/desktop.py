@@ -60,12 +60,19 @@ def pixel(x, y):
     return subprocess.check_output(crop, text=True)
 
 
-def needs(*commands):
-    """Ends the test as one that was skipped (see tests/e2e/CMakeLists.txt) if a command is missing."""
-    for command in commands:
-        if shutil.which(command) is None:
-            print(f"skipped: there is no {command}")
+def needs(*files):
+    """Ends the test as one that was skipped (see tests/e2e/CMakeLists.txt) if a command or a file is missing."""
+    for file in files:
+        if shutil.which(file, os.F_OK) is None:
+            print(f"skipped: there is no {file}")
             sys.exit(77)
+
+
+def drag(start, end):
+    """Presses the button of the mouse and moves, without letting go: a drag takes its steps from movements that are apart."""
+    xdotool("mousemove", *start, "mousedown", 1)
+    for step in range(1, 11):
+        xdotool("mousemove", *(a + (b - a) * step // 10 for a, b in zip(start, end, strict=True)), "sleep", 0.05)
 
 
 def wait_for(what, condition, ended=lambda: None):
@@ -172,6 +179,11 @@ class Program:
             self.wait_until_gone(dialog)
         return texts
 
+    def run(self):
+        """The texts of each dialog of a run."""
+        self.press("Générer")
+        return self.answer_until("Générer")
+
     def answer_until(self, caption):
         """Answers one dialog, and all that follow until the run button has its caption back; the texts of each."""
         answers = [self.answer()]
@@ -214,6 +226,16 @@ class Program:
 
     def act(self, node):
         Atspi.Action.do_action(node, 0)
+
+    def click(self, node, *button):
+        """The mouse in the middle of a node; behind the options of xdotool the button, by default the first."""
+        left, top, width, height = self.extents(node)
+        xdotool("mousemove", left + width // 2, top + height // 2, "click", *(button or [1]))
+
+    def pick(self, *items):
+        """A menu and what is in it, by the mouse."""
+        for item in items:
+            self.click(self.find("menu item", item))
 
     def focus(self, node):
         Atspi.Component.grab_focus(node)
@@ -267,6 +289,15 @@ class Program:
     def color_at(self, node, offset):
         """The text colour at an offset, as "red,green,blue"; black where the text has no colour of its own."""
         return Atspi.Text.get_attribute_run(node, offset, False)[0].get("fg-color", "0,0,0")
+
+    def lines(self, node):
+        """Each line of a text, and the colours of its first and its last character."""
+        offset, found = 0, []
+        for line in self.text(node).split("\n"):
+            end = offset + max(len(line) - 1, 0)
+            found.append((line, self.color_at(node, offset), self.color_at(node, end)))
+            offset += len(line) + 1
+        return found
 
     def screenshot(self, path):
         """The screen without its empty border."""

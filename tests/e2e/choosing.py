@@ -1,7 +1,10 @@
-"""A user who chooses files, folders and preferences in the dialogs for that."""
+"""A user who chooses files and folders in the dialogs for that, or drops them."""
 
-from desktop import has
-from gi.repository import Atspi
+import contextlib
+import pathlib
+import subprocess
+
+from desktop import drag, has, xdotool
 
 
 def path_form(path):
@@ -31,16 +34,15 @@ def choose(program, name, path):
     program.wait_for(f"{path_form(path)}", lambda: program.text(field) == path_form(path))
 
 
-def set_preferences(program, volume, button="Ok", check=False):
-    """Sets the slider and, if so wanted, the check box of the preferences."""
-    program.keys("ctrl+comma")
-    program.front = "Préférences"
-    slider, window = program.find("slider", "Effets sonores :"), program.window()
-    Atspi.Value.set_current_value(slider, volume)
-    program.wait_for("the volume", lambda: Atspi.Value.get_current_value(slider) == volume)
-    if check:
-        program.act(program.find("check box"))
-        program.wait_for("the check", lambda: has(program.find("check box"), "checked"))
-    program.press(button)
-    program.wait_until_gone(window)
-    program.front = "Tarnivel"
+@contextlib.contextmanager
+def dropped(program, command, node, *items, over=lambda: None):
+    """Drags items from another window onto a node, calls `over`, and drops them; what that brings is waited for."""
+    with subprocess.Popen([pathlib.Path(command).parent / "drag_source", *items]) as source:
+        number = xdotool("search", "--sync", "--onlyvisible", "--name", "Drag source").split()[0]
+        xdotool("windowmove", "--sync", number, 1000, 600)
+        left, top, _, height = program.extents(node)
+        drag((1100, 700), (left + 50, top + height // 2))
+        over()
+        xdotool("mouseup", 1)
+        yield
+        source.kill()

@@ -2,36 +2,25 @@
 
 import sys
 
-from desktop import Program, has, private_environment, xdotool
-from sample import DISABLED, ENABLED, pack, sample
+from desktop import has
+from sample import ENABLED, pack, result
 
 TOGGLE, ORANGE, GREEN = "Activer / Désactiver", "255,127,0", "0,200,0"
-VIEWS = ["Spack Modèle", "Spack Avant", "Spack Après"]
-
-
-def click(program, node, button=1):
-    left, top, width, height = program.extents(node)
-    xdotool("mousemove", left + width // 2, top + height // 2, "click", button)
 
 
 def pick(program, view):
     """A view, by the mouse alone."""
     popup = program.find("combo box")
-    click(program, popup)
+    program.click(popup)
     row = program.wait_for(view, lambda: next((n for n in program.all("list item", view) if has(n, "showing")), None))
-    click(program, row)
+    program.click(row)
     area = program.find("text", view)
     program.wait_for("the focus in the text", lambda: has(area, "focused"))
     return area
 
 
 def orange_lines(program, area):
-    text, offset, found = program.text(area), 0, []
-    for line in text.split("\n"):
-        if line and program.color_at(area, offset + len(line) - 1) == ORANGE:
-            found.append(line.split(" ", 1)[-1])
-        offset += len(line) + 1
-    return found
+    return [line.split(" ", 1)[-1] for line, _, last in program.lines(area) if last == ORANGE]
 
 
 def check_toggle(program, area):
@@ -41,14 +30,14 @@ def check_toggle(program, area):
     for shift in (True, False):
         program.keys("ctrl+a")
         with program.held(*["shift"] * shift):
-            click(program, program.find("push button", TOGGLE)) if shift else program.keys("Delete")
+            program.click(program.find("push button", TOGGLE)) if shift else program.keys("Delete")
         program.wait_for("another text", lambda: program.text(area) != before)
         program.keys("ctrl+z")
         program.wait_for("all lines", lambda: program.text(area) == before)
         assert orange_lines(program, area) == orange and not program.windows(dialogs=True)
     at = before.index("\n" + ENABLED) + 4
     program.select(area, at, at)
-    click(program, program.find("push button", TOGGLE))
+    program.click(program.find("push button", TOGGLE))
     toggled = program.wait_for("a toggled line", lambda: program.text(area) != before and program.text(area))
     assert orange_lines(program, area) == orange
     program.keys("ctrl+z")
@@ -67,7 +56,7 @@ def check_views(program, area, text):
     program.type("x")
     program.wait_for("the typed letter", lambda: program.text(other) == "x" + first)
     program.keys("Next", "s", "Home")
-    click(program, program.find("combo box"), button=5)
+    program.click(program.find("combo box"), 5)
     program.wait_for("the view that was picked", lambda: program.all("text", "Spack Avant"))
     typed = program.text(other)
     program.keys(*["Tab"] * 4, "alt+Down")
@@ -81,18 +70,17 @@ def check_views(program, area, text):
 
 def check_run_is_taken_back(program, area, edited):
     orange = orange_lines(program, area)
-    program.press("Générer")
-    program.answer_until("Générer")
+    program.run()
     area = program.find("text", "Spack Après")
-    result = program.text(area)
-    assert result != edited
+    made = program.text(area)
+    assert made != edited
     assert program.window().get_name() == "Tarnivel", "a result as the run left it is not modified"
     program.wait_for("the focus in the text", lambda: has(area, "focused"))
     program.keys("ctrl+z")
     program.wait_for("the text before the run", lambda: program.text(area) == edited)
     assert orange_lines(program, area) == orange
     program.keys("ctrl+y")
-    program.wait_for("the result", lambda: program.text(area) == result)
+    program.wait_for("the result", lambda: program.text(area) == made)
 
 
 def check_typing(program, area):
@@ -128,10 +116,7 @@ def check_failed_run(program, files):
 
 
 def main(command):
-    with sample() as files, Program([command], private_environment(files.home)) as program:
-        program.press("Générer")
-        program.answer_until("Générer")
-        area = program.find("text", "Spack Après")
+    with result(command) as (files, program, area):
         edited = check_toggle(program, area)
         area = check_views(program, area, edited)
         check_typing(program, area)

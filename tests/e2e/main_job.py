@@ -1,4 +1,5 @@
-"""The main job: model and file from the preferences, a run, its reports, the coloured text, an edit that stays."""
+"""The main job: a run with its reports and colours, lines switched on and off with and without keys and taken back, a
+save with an archive by the button and by keys, and an edit that isn't lost."""
 
 import sys
 
@@ -9,17 +10,30 @@ BLACK, GREEN, RED, ORANGE = "0,0,0", "0,200,0", "255,0,0", "255,127,0"
 FOLDERS = "Ces dossiers sont dans le dossier “Custom Scenery” mais pas dans “scenery_packs.ini” :"
 MODIFIED = "Le texte a été modifié et n'est pas enregistré. Continuer sans enregistrer ?"
 SCENERIES = "Ces Sceneries sont dans “scenery_packs.ini” mais pas dans le dossier “Custom Scenery” :"
+TOGGLE, SAVE = "Activer / Désactiver", "Sauv fichier"
 CONTROLS = {
     "frame": ["Tarnivel"],
     "push button": ["Générer", "Sélect fichier, Fichier modèle", "Ouvrir Url", "Sélect dossier, Sauv anc Spack",
-                    "Sélect fichier, scenery_packs.ini", "Sauv fichier", "Activer / Désactiver", "Affich Dossier",
-                    "Aide", "Chercher", "Effacer"],
+                    "Sélect fichier, scenery_packs.ini", SAVE, TOGGLE, "Affich Dossier", "Aide", "Chercher", "Effacer"],
     "text": ["Fichier modèle", "Url modèle", "Sauv anc Spack", "scenery_packs.ini", "Chercher", "Spack Après"],
     "radio button": ["Fichier modèle", "Url modèle"],
     "check box": ["Sauv anc Spack"],
     "label": ["scenery_packs.ini"],
     "link": ["Historique v.1.1.3"],
 }  # fmt: skip
+
+
+def flipped(line):
+    return (ENABLED if line.startswith(DISABLED) else DISABLED) + pack(line)
+
+
+TOGGLES = [  # the keys held, how many lines are selected (0: the caret is in one), and what becomes of each
+    ((), 3, flipped),
+    (("shift",), 3, lambda line: ENABLED + pack(line)),
+    (("ctrl",), 3, lambda line: DISABLED + pack(line)),
+    (("shift", "ctrl"), 3, flipped),
+    ((), 0, flipped),
+]
 
 
 def check_names(program):
@@ -39,27 +53,51 @@ def check_report(report, files):
         assert {line[3:] for line in part.split("\n") if line.startswith(" - ")} == expected, (part, expected)
 
 
-def check_colors(program, area, marked):
+def check_colors(lines, marked):
     """Keywords are green or red, the rest of a line is orange when its pack is one of the marked ones."""
-    text, offset, seen = program.text(area), 0, set()
-    for line in text.split("\n"):
-        keyword, color = (DISABLED, RED) if line.startswith(DISABLED) else (ENABLED, GREEN)
-        if pack(line):
-            rest = ORANGE if pack(line) in marked else BLACK
-            found = [program.color_at(area, offset), program.color_at(area, offset + len(keyword))]
-            assert found == [color, rest], (line, found)
-            seen |= {color, rest}
-        elif line:
-            assert program.color_at(area, offset) == BLACK, line
-        offset += len(line) + 1
-    return seen
+    for line, *colors in lines:
+        keyword = RED if line.startswith(DISABLED) else GREEN
+        wanted = [keyword, ORANGE if pack(line) in marked else BLACK] if pack(line) else [BLACK, BLACK]
+        assert colors == wanted, (line, colors)
+    assert ORANGE in {last for _, _, last in lines}
+
+
+def toggle(program, area, marked, first, keys, count, change):
+    before = program.lines(area)
+    lines = [line for line, *_ in before]
+    end = first + max(count, 1)
+    start, changed = len("\n".join(lines[:first])) + 1, [change(line) for line in lines[first:end]]
+    place = (start, start + len("\n".join(lines[first:end]))) if count else (start + 3, start + 3)
+    program.select(area, *place)
+    with program.held(*keys):
+        program.press(TOGGLE)
+        expected = "\n".join([*lines[:first], *changed, *lines[end:]])
+        program.wait_for(f"{changed}", lambda: program.text(area) == expected)
+    assert program.selection(area) == (start, start + len("\n".join(changed))), program.selection(area)
+    check_colors(program.lines(area), marked)
+    program.focus(area)
+    program.keys("ctrl+z")
+    program.wait_for("the lines before the toggle", lambda: program.lines(area) == before)
+    assert start <= program.selection(area)[0] <= max(place[1], start + len(lines[first])), "the caret went elsewhere"
+
+
+def save(program, files, text, ask):
+    """Refused it changes nothing, confirmed it leaves one archive with the old bytes."""
+    old = files.source_file.read_bytes()
+    for answer in ("Annuler", SAVE):
+        assert files.source_file.read_bytes() == old and not list(files.archives.iterdir())
+        ask()
+        program.answer(answer)
+    program.wait_for("the saved text", lambda: files.source_file.read_bytes() == text.encode())
+    (archive,) = files.archives.iterdir()
+    assert archive.read_bytes() == old
+    archive.unlink()
 
 
 def main(command):
     with sample() as files, Program([command], private_environment(files.home)) as program:
         check_names(program)
-        program.press("Générer")
-        reports = program.answer_until("Générer")
+        reports = program.run()
         assert len(reports) == 1, reports
         check_report(reports[0], files)
         program.screenshot("main_job.png")
@@ -67,21 +105,25 @@ def main(command):
         area = program.find("text", "Spack Après")
         result = program.text(area)
         assert sorted(result.split("\n")) == sorted([*files.source, ""]), result
-        unknown = files.unknown_to_model()
         assert files.is_in_model_order(result), result
-        assert check_colors(program, area, unknown) == {BLACK, GREEN, RED, ORANGE}
+        check_colors(program.lines(area), files.unknown_to_model())
+        middle = next(number for number, line in enumerate(result.split("\n")) if line.startswith(DISABLED))
+        for keys, count, change in TOGGLES:
+            toggle(program, area, files.unknown_to_model(), middle - (count > 0), keys, count, change)
 
+        save(program, files, result, lambda: program.press(SAVE))
         added = ENABLED + "Custom Scenery/Ajout/"
-        edited = result + added + "\n"
         program.focus(area)
         program.keys("ctrl+End")
         program.type(added)
+        program.wait_for("the typed line", lambda: program.text(area) == result + added)
+        save(program, files, result + added, lambda: program.keys("ctrl+s"))
+        program.focus(area)
         program.keys("Return")
-        program.wait_for("the typed line", lambda: program.text(area) == edited)
         program.choose("Spack Modèle")
         model = program.find("text", "Spack Modèle")
         assert program.text(model).rstrip("\n").split("\n") == files.model
-        assert ORANGE in check_colors(program, model, files.unknown_to_source())
+        check_colors(program.lines(model), files.unknown_to_source())
 
         program.keys("ctrl+q")
         assert program.answer() == [MODIFIED]

@@ -7,19 +7,12 @@ from choosing import choose, open_chooser
 from desktop import Program, has, nodes, private_environment, xdotool
 from sample import packs, sample
 
-UNSAVED = "Le modèle affiché n'est pas encore enregistré : enregistrez-le d'abord"
 STOPPED = "Arrêté : aucun modèle n'a été proposé"
-
-
-def click(place):
-    left, top, width, height = place
-    xdotool("mousemove", left + width // 2, top + height // 2, "click", 1)
 
 
 def propose(program, answer):
     """Picks the item by the mouse and names the new file; None is a change of mind."""
-    for name in ("Texte", "Proposer un modèle…"):
-        click(program.extents(program.find("menu item", name)))
+    program.pick("Texte", "Proposer un modèle…")
     dialog = open_chooser(program)
     assert dialog.get_name() == "Enregistrer le modèle proposé sous :"
     if answer:
@@ -35,12 +28,12 @@ def stop(program, files, model):
         (slow / f"Earth nav data/{number}").mkdir(parents=True)
     files.source_file.write_text(before + "SCENERY_PACK Custom Scenery/slow/\n" * 50_000, "utf-8")
     # The busy program answers each question late.
-    button = program.extents(program.find("push button", "Générer"))
+    left, top, width, height = program.extents(program.find("push button", "Générer"))
     bar = next(node for node in nodes(program.window()) if node.get_role_name() == "progress bar")
     propose(program, model)
     program.wait_for("the progress", lambda: has(bar, "showing"))
     program.screenshot("propose_progress.png")
-    click(button)
+    xdotool("mousemove", left + width // 2, top + height // 2, "click", 1)
     program.wait_for("the end", lambda: not has(bar, "showing"))
     assert program.find(name=STOPPED)
     files.source_file.write_text(before, "utf-8")
@@ -69,8 +62,6 @@ def main(command):
             assert packs(proposed.split("\n")) == packs(files.source) | {
                 f"Custom Scenery/{name}/" for name in files.folders_not_listed()
             }
-            program.press("Générer")
-            program.wait_for("the refusal", lambda: program.all(name=UNSAVED))
             assert not model.exists(), "nothing is written before one saves"
             assert not program.all(name=STOPPED)
             assert has(program.find("radio button", "Fichier modèle"), "checked")
@@ -82,8 +73,7 @@ def main(command):
             program.keys("ctrl+s")
             program.answer("Sauv fichier")
             program.wait_for("the model", lambda: model.exists() and model.read_text("utf-8") == proposed)
-            program.press("Générer")
-            assert len(program.answer_until("Générer")) == 1
+            assert len(program.run()) == 1
             program.choose("Spack Après")
             result = program.text(program.find("text", "Spack Après"))
             order = [line for line in proposed.split("\n") if line in result.split("\n")]

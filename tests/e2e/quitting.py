@@ -1,4 +1,5 @@
-"""Every way to quit, with the window "Spécial A" open, and what doesn't quit while a run or a dialog is under way."""
+"""What ends the program with the window "Spécial A" open: its close box, signals and the end of the log-in; and what doesn't
+while a run or a dialog is under way."""
 
 import re
 import signal
@@ -6,7 +7,7 @@ import subprocess
 import sys
 import time
 
-from desktop import Program, has, needs, nodes, private_environment, wait_for, xdotool
+from desktop import Program, has, needs, private_environment, wait_for, xdotool
 from sample import sample
 from server import Server
 
@@ -17,26 +18,6 @@ def window_named(name):
     return xdotool("search", "--sync", "--onlyvisible", "--name", name).split()[0]
 
 
-def quit_by_close_box(program):
-    xdotool("windowactivate", "--sync", window_named("^Tarnivel$"))
-    program.close()
-
-
-def quit_by_button(program):
-    program.front = "Spécial A"
-    program.press("Quitter")
-
-
-WAYS = {
-    "the close box": quit_by_close_box,
-    "the menu": lambda program: program.act(next(n for n in nodes(program.window()) if n.get_name() == "Quitter")),
-    "Ctrl+Q in Spécial A": lambda program: program.keys("ctrl+q"),
-    "Quitter": quit_by_button,
-    "SIGTERM": lambda program: program.process.send_signal(signal.SIGTERM),
-    "SIGHUP": lambda program: program.process.send_signal(signal.SIGHUP),
-}
-
-
 def use_special(program, name):
     """Leaves something in the window that only the right quit hands to the preferences."""
     program.press("Spécial A", "check box")
@@ -44,16 +25,6 @@ def use_special(program, name):
     program.wait_for("it in front", lambda: has(program.window(), "active"))
     program.set_text(program.find("text", "Dest 1 :"), name)
     program.front = "Tarnivel"
-
-
-def check_ways(command, files):
-    for number, (way, quit_by) in enumerate(WAYS.items()):
-        with Program([command], private_environment(files.home)) as program:
-            use_special(program, f"dest{number}")
-            quit_by(program)
-            assert (program.wait_for_end(), program.stderr()) == (0, ""), way
-        kept = files.preferences.read_text("utf-8")
-        assert f"TabSpecAdest1 :@: dest{number}\t" in kept, (way, kept)
 
 
 def run_from(program, address):
@@ -79,7 +50,10 @@ def check_busy(command, files):
         program.keys("ctrl+q")
         program.answer_until("Générer")
         assert files.is_in_model_order(program.text(program.find("text", "Spack Après")))
-        assert program.close() == 0
+        use_special(program, "closed")
+        xdotool("windowactivate", "--sync", window_named("^Tarnivel$"))
+        assert (program.close(), program.stderr()) == (0, "")
+    assert "TabSpecAdest1 :@: closed\t" in files.preferences.read_text("utf-8")
     server.ended.set()
     server.shutdown()
 
@@ -200,7 +174,6 @@ def check_log_out(command, files):
 def main(command):
     signal.signal(signal.SIGINT, signal.SIG_DFL)  # a shell's job in the background inherits it ignored
     with sample() as files:
-        check_ways(command, files)
         check_busy(command, files)
         check_signals(command, files)
         check_log_out(command, files)

@@ -1,45 +1,25 @@
 """The window "Spécial A": a file dragged there, cells edited by hand, a treatment, and clicks on a covered window."""
 
-import pathlib
-import subprocess
 import sys
-import time
 
-from desktop import Program, has, nodes, pixel, private_environment, text_of, xdotool
+from choosing import dropped
+from desktop import Program, drag, has, nodes, pixel, private_environment, text_of, xdotool
 from gi.repository import Atspi
 from sample import sample
 
 REPORT = "Nombre de fois où les textes cherchés ont été trouvés :"
 
 
-def move_slowly(start, end):
-    """A drag takes its steps from movements that are apart."""
-    for step in range(1, 11):
-        xdotool("mousemove", *(a + (b - a) * step // 10 for a, b in zip(start, end, strict=True)))
-        time.sleep(0.05)
-
-
-def drag(program, command, file):
-    """Drags a file from another window onto the frame; the screen's colour there before, during and after."""
-    source = subprocess.Popen([pathlib.Path(command).parent / "drag_source", file])
-    try:
-        number = xdotool("search", "--sync", "--onlyvisible", "--name", "Drag source").split()[0]
-        empty = pixel(1150, 750)
-        xdotool("windowmove", number, 1000, 600)
-        program.wait_for("the other window", lambda: pixel(1150, 750) != empty)
-        left, top, width, height = program.extents(program.find(name="Source"))
-        spot = left + 10, top + height - 10
-        colors = [pixel(*spot)]
-        xdotool("mousemove", 1100, 700, "mousedown", 1)
-        move_slowly((1100, 700), (left + 100, top + 60))
-        program.wait_for("the highlight", lambda: pixel(*spot) != colors[0])
-        colors.append(pixel(*spot))
-        xdotool("mouseup", 1)
-        program.wait_for("the end of the highlight", lambda: pixel(*spot) == colors[0])
-        return [*colors, pixel(*spot)]
-    finally:
-        source.kill()
-        source.wait()
+def drop(program, command, file):
+    """Drops a file on the frame, which is highlighted as long as it is over it."""
+    frame = program.find(name="Source")
+    left, top, _, height = program.extents(frame)
+    spot = left + 10, top + height - 10
+    before = pixel(*spot)
+    highlighted = lambda: program.wait_for("the highlight", lambda: pixel(*spot) != before)  # noqa: E731
+    with dropped(program, command, frame, file, over=highlighted):
+        program.wait_for("the end of the highlight", lambda: pixel(*spot) == before)
+        program.wait_for("the file", lambda: program.text(program.find("text", "Original :")) == file.name)
 
 
 def click(left, top, *more):
@@ -80,12 +60,9 @@ def edit(program):
         program.wait_for("four rows again", lambda: rows() == 4)
         program.keys(redo)
         program.wait_for("three rows again", lambda: rows() == 3)
-    for name in ("Édition", "Annuler"):
-        place = program.extents(program.find("menu item", name))
-        click(place[0] + 5, place[1] + 5)
+    program.pick("Édition", "Annuler")
     program.wait_for("the row that was taken back by the menu", lambda: cells(0) == ["Alpha", "Alpha", "beta", "beta"])
-    xdotool("mousemove", left + 250, top + 10, "mousedown", 1)
-    move_slowly((left + 250, top + 10), (left + 250, top + 75))
+    drag((left + 250, top + 10), (left + 250, top + 75))
     xdotool("mouseup", 1)
     program.wait_for("the moved row", lambda: cells(0) == ["Alpha", "beta", "beta", "Alpha"])
     click(left + 450, top + 50, "--repeat", 2)
@@ -102,8 +79,7 @@ def check_cover(program, place):
     click(*place)
     program.wait_for("the dialog in front again", lambda: has(dialog, "active"))
     texts = [text_of(node) for node in nodes(dialog) if node.get_role_name() == "text"]
-    left, top, width, height = program.extents(button)
-    click(left + width // 2, top + height // 2)
+    program.click(button)
     program.wait_until_gone(dialog)
     assert not program.windows(dialogs=True), "the covered window has opened a chooser"
     return texts
@@ -119,10 +95,7 @@ def main(command):
             left, top, width, height = program.extents(program.find("push button", "Ouvrir Url"))
             program.press("Spécial A", "check box")
             program.front = "Spécial A"
-            before, over, after = drag(program, command, original)
-            assert before == after != over, (before, over, after)
-            program.wait_for("the file", lambda: program.text(program.find("text", "Original :")) == "text.txt")
-
+            drop(program, command, original)
             program.set_text(program.find("text", "Dest 1 :"), "first.txt")
             program.set_text(program.find("text", "Dest 2 :"), "second.txt")
             edit(program)

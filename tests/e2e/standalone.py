@@ -9,8 +9,8 @@ import subprocess
 import sys
 
 from desktop import Program, private_environment
-from hostile_server import OK, Server
 from sample import sample
+from server import OK, Server
 from volume import Recorder, sound_server
 
 # What lies in /tmp, the screen's bus and the sound server among it, has the same path in there.
@@ -49,7 +49,7 @@ def main(root, archive, picture):
     with sample() as files, sound_server(files.home) as sound:
         propose(command(root, archive, "tarnivel-order"), files)
         with files.preferences.open("a", encoding="utf-8") as preferences:
-            preferences.write(f"Source Model :@: 1\nSourceUrl :@: https://127.0.0.1:{server.port}/\n")
+            preferences.write(f"Source Model :@: 1\nSourceUrl :@: {server.url(scheme='https')}\n")
         environment = private_environment(files.home, LC_ALL="de_DE.UTF-8", **sound)
         with Program(command(root, archive, "tarnivel"), environment) as program:
             run(program, server, files, sound)

@@ -11,23 +11,14 @@ ORANGE, FIRST = "255,127,0", "SCENERY_PACK Custom Scenery/{}/"
 
 def status(program, area):
     """What the status bar must always show, counted here."""
-    text = program.text(area)
-    lines = text.removesuffix("\n").split("\n")
-    starts = [sum(len(line) + 1 for line in lines[:i]) for i in range(len(lines))]
-    marked = [bool(line) and program.color_at(area, at + len(line) - 1) == ORANGE for at, line in zip(starts, lines)]
+    lines = program.lines(area)
+    marked = [last == ORANGE for _, _, last in lines]
+    here = program.text(area)[: program.selection(area)[1]].count("\n")
+    lines = [line for line, *_ in lines[: -1 if lines[-1][0] == "" else None]]
     count = lambda prefix: sum(line.startswith(prefix) for line in lines)  # noqa: E731
-    line = text[: program.selection(area)[1]].count("\n") + 1
-    forms = [f"{n} {word}{'' if n == 1 else 's'}" for n, word in
-             ((len(lines), "ligne"), (count(ENABLED), "activée"), (count(DISABLED), "désactivée"))]
-    here = ", sans équivalent" if marked[line - 1] else ""
-    return f"Ligne {line}{here} · {', '.join(forms)}, {sum(marked)} sans équivalent"
-
-
-def choose(program, item):
-    """By the mouse."""
-    for name in ("Texte", item):
-        left, top, width, height = program.extents(program.find("menu item", name))
-        xdotool("mousemove", left + width // 2, top + height // 2, "click", 1)
+    forms = ((len(lines), "ligne"), (count(ENABLED), "activée"), (count(DISABLED), "désactivée"))
+    counts = ", ".join(f"{number} {word}{'' if number == 1 else 's'}" for number, word in forms)
+    return f"Ligne {here + 1}{', sans équivalent' * marked[here]} · {counts}, {sum(marked)} sans équivalent"
 
 
 class Editor:
@@ -83,19 +74,29 @@ def check_marks(editor, marked):
 
 
 def check_search(editor):
-    program, text = editor.program, editor.program.text(editor.area)
-    program.set_text(program.find("text", "Chercher"), "y")
-    program.keys("ctrl+Home")
-    places = [at for at, letter in enumerate(text) if letter in "yY"]
-    for key, way, said in (("F3", places, "début"), ("shift+F3", [*places[:0:-1], places[0]], None)):
-        for place in way[:4]:
-            editor.keys(key)
-            if key == "F3":
-                assert program.selection(editor.area) == (place, place + 1), (place, program.selection(editor.area))
-    program.set_text(program.find("text", "Chercher"), "nowhere")
-    before = program.selection(editor.area)
+    """From the field, in which the next key goes on, and from the text; both go around, and a word that isn't there leaves
+    the selection as it was for F3."""
+    program, area, field, word = editor.program, editor.area, editor.program.find("text", "Chercher"), "bretagne"
+    text = program.text(area).lower()
+    places = [(at, at + len(word)) for at in range(len(text)) if text.startswith(word, at)]
+    assert len(places) > 2, places
+    program.keys("ctrl+Home", "ctrl+f")
+    program.wait_for("the search field", lambda: has(field, "focused") and not has(area, "focused"))
+    program.type(word)
+    for place in [*places, places[0]]:
+        program.keys("Return")
+        program.wait_for(f"the match at {place}", lambda wanted=place: program.selection(area) == wanted)
+        assert has(field, "focused")
+    program.keys("Escape")
+    program.wait_for("the focus in the text", lambda: has(area, "focused") and program.selection(area) == places[0])
+    for key, place in (("F3", 1), ("shift+F3", 0), ("shift+F3", -1), ("F3", 0)):
+        editor.keys(key)
+        assert program.selection(area) == places[place], (key, place, program.selection(area))
+    program.set_text(field, "nowhere")
     editor.keys("F3", "“nowhere” introuvable")
-    assert program.selection(editor.area) == before
+    assert program.selection(area) == places[0]
+    program.press("Chercher")
+    program.wait_for("no selection", lambda: program.selection(area) == (0, 0))
 
 
 def check_wrapped_search(editor):
@@ -122,11 +123,11 @@ def check_wrapped_search(editor):
 def check_folders(editor, files):
     program, before = editor.program, editor.lines()
     missing = files.folders_not_listed()
-    choose(program, "Ajouter les dossiers absents du texte")
+    program.pick("Texte", "Ajouter les dossiers absents du texte")
     added = [FIRST.format(name) for name in sorted(missing)]
     editor.until([*before[:4], *added, *before[4:]])
     gone = [line for line in editor.lines() if any(line.startswith(FIRST.format(n)) for n in files.listed_without_folder())]
-    choose(program, "Désactiver les lignes sans dossier")
+    program.pick("Texte", "Désactiver les lignes sans dossier")
     program.wait_for("disabled lines", lambda: not set(gone) & set(editor.lines()))
 
 
@@ -145,7 +146,7 @@ def main(command):
         check_search(editor)
         check_wrapped_search(editor)
         check_folders(editor, files)
-        choose(program, "Dernier rapport")
+        program.pick("Texte", "Dernier rapport")
         report = next(node for node in nodes(program.dialog()) if node.get_role_name() == "text")
         program.keys("shift+Tab")
         program.wait_for("the focus in the report", lambda: has(report, "focused"))

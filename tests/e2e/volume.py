@@ -1,5 +1,6 @@
-"""What is heard, recorded from a sound device that plays nothing: sounds and a refusal's beep are as loud as the
-slider of the preferences says, and a sound that plays goes on when it plays again. A sound server that accepts and doesn't answer holds up nothing."""
+"""What is heard, recorded from a sound device that plays nothing: sounds and a refusal's beep are as loud as the slider of
+the preferences says, and a sound that plays goes on when it plays again. A sound server that accepts and doesn't answer
+holds up nothing."""
 
 import array
 import contextlib
@@ -11,8 +12,8 @@ import sys
 import tempfile
 import time
 
-from choosing import set_preferences
 from desktop import Program, needs, private_environment, wait_for
+from gi.repository import Atspi
 from sample import sample
 
 SECONDS, RATE = 1.5, 44100  # of a recording; samples a second
@@ -20,14 +21,14 @@ SECONDS, RATE = 1.5, 44100  # of a recording; samples a second
 
 @contextlib.contextmanager
 def sound_server(home):
-    """A sound server with that device alone; the environment variable by which programs find it."""
-    socket = f"{os.environ['XDG_RUNTIME_DIR']}/sound-server"
-    modules = ("module-null-sink sink_name=silent", f"module-native-protocol-unix auth-anonymous=1 socket={socket}")
+    """A server with that device alone; the environment variable by which programs find it."""
+    path = f"{os.environ['XDG_RUNTIME_DIR']}/sound-server"
+    modules = ("module-null-sink sink_name=silent", f"module-native-protocol-unix auth-anonymous=1 socket={path}")
     command = ["pulseaudio", "-n", "--daemonize=no", "--exit-idle-time=-1", "--log-level=error"]
     server = subprocess.Popen([*command, *(f"--load={module}" for module in modules)], env=private_environment(home))
     try:
-        wait_for("a sound server", lambda: os.path.exists(socket), server.poll)
-        yield {"PULSE_SERVER": f"unix:{socket}"}
+        wait_for("a sound server", lambda: os.path.exists(path), server.poll)
+        yield {"PULSE_SERVER": f"unix:{path}"}
     finally:
         server.terminate()
         server.wait()
@@ -36,7 +37,8 @@ def sound_server(home):
 class Recorder:
     def __init__(self, server):
         self.file = tempfile.NamedTemporaryFile()
-        command = ["parec", "--device=silent.monitor", "--raw", "--latency-msec=50", f"--rate={RATE}", "--channels=1", "--format=s16le"]
+        form = ["--raw", "--latency-msec=50", f"--rate={RATE}", "--channels=1", "--format=s16le"]
+        command = ["parec", "--device=silent.monitor", *form]
         self.process = subprocess.Popen(command, env=os.environ | server, stdout=self.file)
         wait_for("a recording", self.size, self.process.poll)
 
@@ -44,13 +46,11 @@ class Recorder:
         return os.stat(self.file.name).st_size // 2 * 2
 
     def record(self, play):
-        """The root of the sum of the squares of what is heard from `play` on, in steps of a sample.
+        """What is heard of a sound. On a busy machine the sound server loses a short one at times; it is then played again."""
+        return next((heard for heard in (self.listen(play) for _ in range(5)) if heard), 0)
 
-        On a busy machine the sound server loses a short sound at times; it is then played again.
-        """
-        return next((heard for heard in (self._once(play) for _ in range(5)) if heard), 0)
-
-    def _once(self, play):
+    def listen(self, play):
+        """The root of the sum of the squares of what is heard from `play` on."""
         start = self.size()
         play()
         end = self.size() + int(SECONDS * RATE) * 2
@@ -64,10 +64,15 @@ class Recorder:
         self.file.close()
 
 
-def open_special(program):
+def set_volume(program, percent):
+    program.keys("ctrl+comma")
+    program.front = "Préférences"
+    slider, window = program.find("slider", "Effets sonores :"), program.window()
+    Atspi.Value.set_current_value(slider, percent)
+    program.wait_for("the volume", lambda: Atspi.Value.get_current_value(slider) == percent)
+    program.press("Ok")
+    program.wait_until_gone(window)
     program.front = "Tarnivel"
-    program.press("Spécial A", "check box")
-    program.front = "Spécial A"
 
 
 def copy(program):
@@ -82,13 +87,28 @@ def search(program, times):
     program.set_text(program.find("text", "Chercher"), "")
 
 
+def loudness(program, recorder, percent):
+    """Of a beep, and of a sound."""
+    recorder.listen(lambda: set_volume(program, percent))  # until what that plays has ended
+    hear = recorder.record if percent else recorder.listen
+    beep = hear(lambda: program.press("Chercher"))  # for nothing
+    program.press("Spécial A", "check box")
+    program.front = "Spécial A"
+    sound, window = hear(lambda: copy(program)), program.window()
+    program.front = "Tarnivel"
+    program.press("Spécial A", "check box")
+    program.wait_until_gone(window)
+    return beep, sound
+
+
 def silent_server(command, files):
     path = f"{os.environ['XDG_RUNTIME_DIR']}/silent"
     with socket.socket(socket.AF_UNIX) as server:
         server.bind(path)
         server.listen()
         with Program([command], private_environment(files.home, PULSE_SERVER=f"unix:{path}")) as program:
-            open_special(program)
+            program.press("Spécial A", "check box")
+            program.front = "Spécial A"
             start = time.monotonic()
             copy(program)
             with server.accept()[0]:
@@ -103,25 +123,15 @@ def main(command):
     with sample() as files, sound_server(files.home) as server:
         with Program([command], private_environment(files.home, **server)) as program:
             program.front = "Tarnivel"
-            heard, beeps, recorder = {}, {}, Recorder(server)
-            program.press("Générer")
-            program.answer_until("Générer")
+            program.run()
+            recorder = Recorder(server)
             search(program, 1)
-            for percent in (100, 20, 0):
-                set_preferences(program, percent)
-                time.sleep(SECONDS)  # until the sound of the slider has ended
-                beeps[percent] = recorder.record(lambda: program.press("Chercher"))  # for nothing
-                voices = lambda number: recorder.record(lambda: search(program, number))  # noqa: E731
-                assert percent == 0 or any(voices(2) > 1.25 * voices(1) for _ in range(5)), "no second voice"
-                open_special(program)
-                heard[percent] = recorder.record(lambda: copy(program))
-                window = program.window()
-                program.front = "Tarnivel"
-                program.press("Spécial A", "check box")
-                program.wait_until_gone(window)
+            loud, faint, none = ([*loudness(program, recorder, percent)] for percent in (100, 20, 0))
+            assert none == [0, 0] and all(1 < a < b for a, b in zip(faint, loud)), (loud, faint, none)
+            set_volume(program, 100)
+            voices = lambda number: recorder.record(lambda: search(program, number))  # noqa: E731
+            assert any(voices(2) > 1.25 * voices(1) for _ in range(5)), "no second voice"
             recorder.close()
-            for loud in (heard, beeps):
-                assert loud[0] == 0 and 1 < loud[20] < loud[100], (heard, beeps)
             assert program.close() == 0
         silent_server(command, files)
 

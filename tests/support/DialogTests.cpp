@@ -33,10 +33,14 @@ struct Window : DesktopWindow {
 
 class Dialogs : public ::testing::Test {
 protected:
-    static Int16 Ask(DesktopWindow* win)
+    static Int16 Ask(DesktopWindow* win, bool sheet = true)
     {
-        return Fncts::MyDialogBox(
-            {.message = U"Really?", .btnAction = U"Yes", .btnCancel = U"No", .btnAlternate = U"Later", .win = win});
+        return Fncts::MyDialogBox({.message = U"Really?",
+                                   .btnAction = U"Yes",
+                                   .btnCancel = U"No",
+                                   .btnAlternate = U"Later",
+                                   .win = win,
+                                   .sheet = sheet});
     }
     Probe probe_;
     Window asking_{U"asking"}, other_{U"other"};
@@ -79,7 +83,8 @@ TEST_F(Dialogs, ASheetCoversTheOtherVisibleWindowsAlone)
     probe_.WhileAsking = [&] { EXPECT_TRUE(asking_.IsFree() && other_.IsFree()); };
     Ask(nullptr);
     Ask(&hidden);
-    EXPECT_EQ(probe_.Asked.size(), 4U);
+    Ask(&asking_, false);
+    EXPECT_EQ(probe_.Asked.size(), 5U);
 }
 
 TEST_F(Dialogs, AFaultInADialogLeavesNothingLocked)
