@@ -5,7 +5,7 @@
 #include "toolkit/core/Exceptions.h"
 #include "toolkit/core/TextInputStream.h"
 
-#include <cstdio>
+#include <clocale>
 #include <iostream>
 #include <iterator>
 
@@ -91,12 +91,8 @@ Status Propose(std::string_view spackName)
 {
     const std::optional<String> spack = Accepted(spackName);
     if (!spack) return Refused;
-    const FolderItem dossier = FolderOf(spackName);
-    PackFolders folders(dossier);
-    std::vector<Pack> packs;
-    for (const String& line : LinesToPropose(*spack, dossier))
-        packs.push_back({line, folders.LookAt(line)});
-    const Proposal proposal = ProposeModel(*spack, packs);
+    Progress progress;
+    const Proposal proposal = ProposeModel(*spack, LookAtPacks(*spack, FolderOf(spackName), progress));
     Say(proposal.report);
     return Write(proposal.model, proposal.complete ? Agrees : Reported);
 }
@@ -121,6 +117,7 @@ Status Run(std::span<const std::string_view> arguments)
 
 int main(int argc, char** argv)
 {
+    std::setlocale(LC_ALL, ""); // the system's reasons in the user's language
     const std::vector<std::string_view> arguments(argv + 1, argv + argc);
     try {
         return Run(arguments);

@@ -104,12 +104,15 @@ FolderFindings CompareFolders(std::span<const SceneryLine> lines, const FolderIt
     return findings;
 }
 
+bool FitsLine(StringView folder) { return folder.find_first_of(U"/\n\r\uFFFD") == StringView::npos; }
+
+String LineFor(StringView folder) { return String(EnabledPrefix).append(CustomScenery).append(folder).append(U"/"); }
+
 String UnlistedLines(StringView text, const FolderItem& dossier)
 {
     String lines;
     for (const String& folder : CompareFolders(LinesOf(text), dossier).unlisted) {
-        if (folder.find_first_of(U"/\n\r\uFFFD") != String::npos) continue;
-        lines.append(EnabledPrefix).append(CustomScenery).append(folder).append(U"/").append(TxtEoF);
+        if (FitsLine(folder)) lines.append(LineFor(folder)).append(TxtEoF);
     }
     return lines;
 }

@@ -37,9 +37,13 @@ struct FolderFindings {
 /// doesn't count. The findings live as long as the text behind `lines`.
 FolderFindings CompareFolders(std::span<const SceneryLine> lines, const FolderItem& dossier);
 
+/// Whether a line can hold the name: not one with ":" or a line end on disk, or with bytes that are no UTF-8.
+bool FitsLine(StringView folder);
+/// The line that lists a folder as enabled, without a line end.
+String LineFor(StringView folder);
+
 /// The lines that would list, enabled and by name, the folders in `dossier` that `text` doesn't, each with its line
-/// end; "" when there are none. A folder is left out whose name no line can hold: one with ":" or a line end on disk,
-/// or with bytes that are no UTF-8.
+/// end; "" when there are none. A folder whose name fits no line is left out.
 String UnlistedLines(StringView text, const FolderItem& dossier);
 
 /// The offset behind the header and the blank line there: where `UnlistedLines` belong. A text that ends with its

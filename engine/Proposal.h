@@ -18,11 +18,13 @@ struct PackFacts {
 struct Pack {
     String line;
     PackFacts facts;
+    /// False for a folder whose name fits no line; `line` is its name then.
+    bool fitsLine = true;
 };
 
-/// The lines that a proposal is made of: those for the folders in `dossier` that `text` doesn't list, by name, and then
+/// What a proposal is made of, not looked at yet: the folders in `dossier` that `text` doesn't list, by name, and then
 /// the lines of `text` that aren't blank.
-std::vector<String> LinesToPropose(StringView text, const FolderItem& dossier);
+std::vector<Pack> PacksToPropose(StringView text, const FolderItem& dossier);
 
 struct Proposal {
     /// An accepted text.
@@ -36,6 +38,6 @@ struct Proposal {
 /// Orders the packs by their kinds; within a kind they stay as they come. Behind the header are as many blank lines as
 /// `text` has in all, so that a run finds the same number on both sides.
 ///
-/// Of several lines for one scenery only the first gets into the model, which would be refused otherwise; the report
-/// tells the others.
+/// Of several lines for one scenery only one gets into the model, which would be refused otherwise: the first of those
+/// for the folder itself, or else the first. The report tells what was left out.
 Proposal ProposeModel(StringView text, std::span<const Pack> packs);

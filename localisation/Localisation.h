@@ -157,12 +157,13 @@ inline constexpr Text Txt_PropInconnus{U"Txt_PropInconnus", U"Inconnus : ¿%"};
 inline constexpr Text Txt_PropPlugins{U"Txt_PropPlugins", U"Greffons (plugins) : ¿%"};
 inline constexpr Text Txt_PropBibliotheques{U"Txt_PropBibliotheques", U"Bibliothèques : ¿%"};
 inline constexpr Text Txt_PropMaillages{U"Txt_PropMaillages", U"Maillages et tuiles photo : ¿%"};
-inline constexpr Text Txt_PropDoublons{U"Txt_PropDoublons", U"Omis, une ligne plus haut nommant la même scène : ¿%"};
+inline constexpr Text Txt_PropDoublons{U"Txt_PropDoublons", U"Omis, une autre ligne nommant la même scène : ¿%"};
+inline constexpr Text Txt_PropSansLigne{U"Txt_PropSansLigne", U"Omis, aucune ligne ne pouvant tenir le nom : ¿%"};
 inline constexpr Text Txt_RaisonDossAbsent{U"Txt_RaisonDossAbsent", U"le dossier manque"};
 inline constexpr Text Txt_RaisonRien{U"Txt_RaisonRien", U"rien n'y dit ce que c'est"};
 inline constexpr Text Txt_RaisonIllisible{U"Txt_RaisonIllisible", U"“¿%” ne peut pas être lu : ¿%"};
 inline constexpr Text Txt_RaisonTuileAbimee{U"Txt_RaisonTuileAbimee",
-    U"une tuile est abîmée, ou comprimée autrement qu'en LZMA"};
+    U"tuile abîmée, ou comprimée autrement qu'en LZMA"};
 inline constexpr Text Txt_RaisonPasUnPack{U"Txt_RaisonPasUnPack", U"ce n'est pas une ligne de pack"};
 inline constexpr Text Dit_PasUtf8{U"Dit_PasUtf8", U"ce n'est pas de l'UTF-8"};
 inline constexpr Text Txt_OrdreAide{U"Txt_OrdreAide",

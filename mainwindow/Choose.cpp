@@ -82,7 +82,7 @@ std::optional<FolderItem> WinMain::RevealOrChoose(const DesktopTextField& field,
 
 void WinMain::BindPathFields()
 {
-    const auto bind = [this](DesktopTextField& field, Kind kind, void (WinMain::*take)(const FolderItem& item)) {
+    const auto bind = [this](DesktopTextField& field, Kind kind, auto take) {
         field.Tidied = Fncts::PathOfTyped;
         field.TakesItem = [kind](const auto& item) { return WhyRefused(item, kind).empty(); };
         field.ItemDropped = [this, kind, take](const auto& item) {
@@ -98,11 +98,12 @@ void WinMain::BindPathFields()
 }
 
 /// A new file: what a run made of the old one goes.
-void WinMain::TakeModel(const FolderItem& item)
+bool WinMain::TakeModel(const FolderItem& item)
 {
-    if (!IsKept(item) || !Forget({rowModel, rowDest})) return;
+    if (!IsKept(item) || !Forget({rowModel, rowDest})) return false;
     TextFieldMod1.SetText(Fncts::AbsPath_f(item, true));
     RadGrpSrc.SetSelectedIndex(0);
+    return true;
 }
 
 void WinMain::TakeSpack(const FolderItem& item)

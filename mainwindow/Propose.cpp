@@ -10,6 +10,10 @@
 #include "toolkit/DesktopApplication.h"
 #include "toolkit/core/System.h"
 
+#include <chrono>
+#include <functional>
+#include <future>
+
 using namespace Localisation;
 
 void WinMain::TexteProposer_Action()
@@ -21,13 +25,12 @@ void WinMain::TexteProposer_Action()
     if (!source.accepted) return Fncts::Refuser(Filled(Dit_SpackRefuse(), {ReasonOfRefusal(reading.text)}));
     const std::optional<FolderItem> file = Fncts::MyDialogSave(U"modele.ini", Txt_ChoisirModele(), this);
     if (!file) return;
-    if (!Fncts::ComesBack(*file)) return Fncts::Refuser(Txt_NomNonGarde());
-    const std::optional<std::vector<Pack>> packs = LookAtPacks(LinesToPropose(source.text, *spack->Parent()), *spack);
+    const std::optional<std::vector<Pack>> packs = LookAt(source.text, *spack->Parent());
     if (!packs) return Fncts::Dire(Dit_PropArretee());
+    if (Fncts::AbsPath_f(*file, true) != TextFieldMod1.Text() && !TakeModel(*file)) return;
+    RadGrpSrc.SetSelectedIndex(0);
 
     const Proposal proposal = ProposeModel(source.text, *packs);
-    TextFieldMod1.SetText(Fncts::AbsPath_f(*file, true));
-    RadGrpSrc.SetSelectedIndex(0);
     Document(rowModel).ReplaceText(proposal.model, {}, reading.cleanedLines > 0);
     PopMenuAff.SetSelectedRowIndex(rowModel);
     AffArea();
@@ -36,10 +39,11 @@ void WinMain::TexteProposer_Action()
     Fncts::MyDialogBox({.message = Txt_PropFait(), .explanation = proposal.report, .btnAction = Btn_Ok(), .win = this});
 }
 
-/// Nothing when the user stopped it.
-std::optional<std::vector<Pack>> WinMain::LookAtPacks(std::span<const String> lines, const FolderItem& spack)
+/// Nothing when the user stopped it. The disk may keep another thread waiting, but never the window.
+std::optional<std::vector<Pack>> WinMain::LookAt(StringView text, const FolderItem& dossier)
 {
-    constexpr Int64 ticksUnseen = 30, ticksBetween = 3;
+    constexpr Int64 ticksUnseen = 30;
+    constexpr std::chrono::milliseconds between(20);
     App::Current().EnableMenuBoutons(false);
     DrapProposer = true;
     const AtEnd idle([this] {
@@ -47,19 +51,15 @@ std::optional<std::vector<Pack>> WinMain::LookAtPacks(std::span<const String> li
         ProgressProposer.SetVisible(false);
         App::Current().EnableMenuBoutons(true);
     });
-    PackFolders folders(*spack.Parent());
-    std::vector<Pack> packs;
+    Progress progress;
+    auto packs = std::async(std::launch::async, LookAtPacks, text, dossier, std::ref(progress));
     const Int64 start = System::Ticks();
-    Int64 last = start;
-    for (const String& line : lines) {
-        packs.push_back({line, folders.LookAt(line)});
-        const Int64 now = System::Ticks();
-        if (now - last < ticksBetween) continue;
-        last = now;
-        ProgressProposer.SetVisible(now - start >= ticksUnseen);
-        ProgressProposer.SetValue(static_cast<int>(100 * packs.size() / lines.size()));
+    while (packs.wait_for(between) != std::future_status::ready) {
+        ProgressProposer.SetVisible(System::Ticks() - start >= ticksUnseen);
+        const std::size_t all = std::max(progress.all.load(), std::size_t{1});
+        ProgressProposer.SetValue(static_cast<int>(100 * std::min(progress.begun.load(), all) / all));
         DesktopApplication::YieldToUser();
-        if (!DrapProposer || DesktopApplication::EndRequested()) return {};
+        progress.stopped = !DrapProposer || DesktopApplication::EndRequested();
     }
-    return packs;
+    return progress.stopped ? std::nullopt : std::optional(packs.get());
 }

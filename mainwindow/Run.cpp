@@ -100,10 +100,10 @@ void WinMain::RunSuite(Fncts::Reading model)
     const DesktopTextField& field = RadGrpSrc.SelectedIndex() == 0 ? TextFieldMod1 : TextFieldMod2;
     const bool modelIsCleaned = model.cleanedLines > 0;
     if (modelIsCleaned) Tell(Fncts::CleaningReport(model, field.Text()));
-    const bool isEmpty = model.text.empty();
+    const bool isMissing = model.text.empty() || BeginsWith(model.text, ErrorMarker);
     std::vector<String> refusals;
     Accept(model, Localisation::Dit_ModeleRefuse(), refusals);
-    if (isEmpty) refusals.back().append(U" (").append(Localisation::Dit_OffreModele()).append(U")");
+    if (isMissing) refusals.back().append(U" (").append(Localisation::Dit_OffreModele()).append(U")");
     const std::optional<FolderItem> spack = Fncts::GetFitemAbsPath(TextFieldSpack.Text(), false);
     Fncts::Reading source = ReadFile(spack);
     const bool sourceIsCleaned = source.cleanedLines > 0;

@@ -136,7 +136,7 @@ private:
     void InRun(const std::function<void()>& step);
 
     // Propose.cpp
-    std::optional<std::vector<Pack>> LookAtPacks(std::span<const String> lines, const FolderItem& spack);
+    std::optional<std::vector<Pack>> LookAt(StringView text, const FolderItem& dossier);
 
     // Save.cpp
     /// What was saved where, in a sentence, or "".
@@ -178,7 +178,8 @@ private:
     using Chooser = std::optional<FolderItem> (*)(const FolderItem& start);
     std::optional<FolderItem> RevealOrChoose(const DesktopTextField& field, bool reveal, Chooser chooser) const;
     void BindPathFields();
-    void TakeModel(const FolderItem& item);
+    /// False, with the reason told, for a file that isn't taken.
+    bool TakeModel(const FolderItem& item);
     void TakeSpack(const FolderItem& item);
     void TakeArchiveFolder(const FolderItem& item);
 

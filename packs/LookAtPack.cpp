@@ -8,6 +8,7 @@
 #include "toolkit/core/TextEncoding.h"
 
 #include <fcntl.h>
+#include <future>
 #include <sys/stat.h>
 
 namespace fs = std::filesystem;
@@ -30,25 +31,38 @@ PackFacts::Tile KindOf(const fs::path& tile)
     struct stat status = {};
     Check(::fstat(file.number, &status) == 0);
     if (!S_ISREG(status.st_mode)) throw SystemError(EINVAL);
-    PackFacts::Tile kind = PackFacts::Tile::None;
     // The short beginning does for nearly all.
-    for (const std::size_t size : {std::size_t{4} << 10, std::size_t{256} << 10}) {
+    for (const std::size_t size : {std::size_t{1} << 10, std::size_t{256} << 10}) {
         const std::string beginning = ReadAt(file.number, 0, size);
-        kind = TileKindOf(IsArchive(beginning) ? Unpack(file.number, size) : beginning);
-        if (kind != PackFacts::Tile::None) break;
+        const PackFacts::Tile kind = TileKindOf(IsArchive(beginning) ? Unpack(file.number, size) : beginning);
+        if (kind != PackFacts::Tile::None) return kind;
     }
-    return kind;
+    throw IOException(0, Localisation::Txt_RaisonTuileAbimee());
 }
 
 void LookAtTile(PackFacts& facts, const fs::path& tile)
 try {
     facts.tile = KindOf(tile);
-    if (facts.tile == PackFacts::Tile::None) facts.doubt = Localisation::Txt_RaisonTuileAbimee();
 } catch (const IOException& error) {
     facts.doubt = Unreadable(tile, error.Message);
 }
 
 } // namespace
+
+std::vector<Pack> LookAtPacks(StringView text, const FolderItem& dossier, Progress& progress)
+{
+    std::vector<Pack> packs = PacksToPropose(text, dossier);
+    progress.all = packs.size();
+    const auto look = [&] {
+        PackFolders folders(dossier);
+        for (std::size_t i = progress.begun++; i < packs.size() && !progress.stopped; i = progress.begun++)
+            if (packs[i].fitsLine) packs[i].facts = folders.LookAt(packs[i].line);
+    };
+    std::future<void> other = std::async(std::launch::async, look);
+    look();
+    other.get();
+    return packs;
+}
 
 PackFolders::PackFolders(const FolderItem& dossier)
     : dossier_(dossier.Path())
@@ -58,46 +72,47 @@ PackFolders::PackFolders(const FolderItem& dossier)
 PackFolders::Items PackFolders::ItemsOf(const fs::path& folder)
 {
     Items items;
-    for (const fs::directory_entry& item : fs::directory_iterator(folder))
+    for (const Item& item : fs::directory_iterator(folder))
         items.emplace(FormOf(Encodings::UTF8.Decode(item.path().filename().native())), item);
     return items;
 }
 
-std::optional<fs::directory_entry> PackFolders::Find(const fs::path& folder, StringView name)
+/// The item of that name, or one that isn't there.
+PackFolders::Item PackFolders::Find(const Item& folder, StringView name)
 {
-    if (fs::directory_entry exact(folder / Encodings::UTF8.Encode(name)); exact.exists()) return exact;
+    if (!folder.is_directory()) return {};
+    if (Item exact(folder.path() / Encodings::UTF8.Encode(name)); exact.exists()) return exact;
     if (!listed_.contains(folder)) listed_.emplace(folder, ItemsOf(folder));
     const Items& items = listed_.at(folder);
     const auto found = items.find(FormOf(name));
-    return found == items.end() ? std::nullopt : std::optional(found->second);
+    return found == items.end() ? Item() : found->second;
 }
 
-/// The folder of a pack, or nothing where none is there.
-std::optional<fs::path> PackFolders::FolderOf(StringView path)
+PackFolders::Item PackFolders::FolderOf(StringView path)
 {
-    std::optional<fs::directory_entry> folder(dossier_);
+    Item folder(dossier_);
     if (BeginsWith(path, CustomScenery))
         path.remove_prefix(CustomScenery.size());
     else
-        folder.emplace(path.starts_with(U'/') ? "/" : dossier_.parent_path());
+        folder.assign(path.starts_with(U'/') ? "/" : dossier_.parent_path());
     for (const StringView name : Split(path, U"/"))
-        if (folder && !name.empty()) folder = Find(*folder, name);
-    return folder && folder->is_directory() ? std::optional(folder->path()) : std::nullopt;
+        if (!name.empty()) folder = Find(folder, name);
+    return folder;
 }
 
-void PackFolders::LookInside(PackFacts& facts, const fs::path& folder)
+void PackFolders::LookInside(PackFacts& facts, const Item& folder)
 {
-    if (const auto navigationData = Find(folder, U"Earth nav data"); navigationData && navigationData->is_directory()) {
-        const Items items = ItemsOf(*navigationData);
-        facts.airports = items.contains(U"apt.dat");
+    if (const Item navigationData = Find(folder, U"Earth nav data"); navigationData.is_directory()) {
+        const Items items = ItemsOf(navigationData);
+        const auto airports = items.find(U"apt.dat");
+        facts.airports = airports != items.end() && airports->second.is_regular_file();
         if (facts.airports) return;
         for (const auto& [name, tiles] : items)
             for (const auto& [file, tile] : tiles.is_directory() ? ItemsOf(tiles) : Items())
                 if (file.ends_with(U".dsf")) return LookAtTile(facts, tile);
     }
-    const auto plugins = Find(folder, U"plugins");
-    facts.plugins = plugins && plugins->is_directory();
-    facts.library = Find(folder, U"library.txt").has_value();
+    facts.plugins = Find(folder, U"plugins").is_directory();
+    facts.library = Find(folder, U"library.txt").is_regular_file();
     if (!facts.library && !facts.plugins) facts.doubt = Localisation::Txt_RaisonRien();
 }
 
@@ -107,8 +122,8 @@ try {
     const SceneryLine pack = LinesOf(line).front();
     if (pack.state == LineState::Other)
         facts.doubt = Localisation::Txt_RaisonPasUnPack();
-    else if (const std::optional<fs::path> folder = FolderOf(pack.Rest()))
-        LookInside(facts, *folder);
+    else if (const Item folder = FolderOf(pack.Rest()); folder.is_directory())
+        LookInside(facts, folder);
     else
         facts.doubt = Localisation::Txt_RaisonDossAbsent();
     return facts;

@@ -13,19 +13,19 @@ namespace {
 
 /// What stands around every dialog. `ask` shows it on the window that it is given, or alone on null.
 template <class Ask>
-auto InFrame(DesktopWindow* win, bool sheet, const Ask& ask)
+auto InFrame(DesktopWindow* win, const Ask& ask)
 {
     Fncts::DrapDiagBox = true;
     const bool drapMenuBefore = std::exchange(Fncts::DrapMenu, false);
-    bool useWin = false;
+    bool hangsOnWin = false;
     const AtEnd restored([&] {
-        if (sheet && useWin) Fncts::CtrlDsFenetrDiag(win, false);
-        if (sheet && win != nullptr) Fncts::WrkArrSegButBugF(*win);
+        if (hangsOnWin) Fncts::CtrlDsFenetrDiag(win, false);
+        if (win != nullptr) Fncts::WrkArrSegButBugF(*win);
         Fncts::DrapMenu = drapMenuBefore;
         Fncts::DrapDiagBox = false;
     });
-    useWin = !sheet || Fncts::CtrlDsFenetrDiag(win, true);
-    return ask(useWin ? win : nullptr);
+    hangsOnWin = Fncts::CtrlDsFenetrDiag(win, true);
+    return ask(hangsOnWin ? win : nullptr);
 }
 
 std::optional<FolderItem> InitialFolder(const std::optional<FolderItem>& start)
@@ -41,7 +41,7 @@ namespace Fncts {
 
 Int16 MyDialogBox(const Question& question)
 {
-    return InFrame(question.win, question.sheet, [&](DesktopWindow* window) {
+    return InFrame(question.win, [&](DesktopWindow* window) {
         if (question.btnAction.empty()) TellAuthors(U"My DialogBox, BtnAct = ''");
         const MessageDialog dialog{
             static_cast<int>(question.icon), String(question.message.empty() ? U" " : question.message),
@@ -54,7 +54,7 @@ Int16 MyDialogBox(const Question& question)
 std::optional<FolderItem> MyDialogLoad(const std::optional<FolderItem>& start, StringView prompt, StringView filter,
                                        DesktopWindow* win)
 {
-    return InFrame(win, true, [&](DesktopWindow* window) {
+    return InFrame(win, [&](DesktopWindow* window) {
         const bool isFile = start && start->Exists() && !DossPasPack_f(*start);
         return OpenFileDialog{String(prompt),
                               InitialFolder(start),
@@ -68,14 +68,14 @@ std::optional<FolderItem> MyDialogLoad(const std::optional<FolderItem>& start, S
 
 std::optional<FolderItem> MyDialogSave(StringView name, StringView prompt, DesktopWindow* win)
 {
-    return InFrame(win, true, [&](DesktopWindow* window) {
+    return InFrame(win, [&](DesktopWindow* window) {
         return SaveFileDialog{String(prompt), InitialFolder({}), String(name)}.ShowModal(window);
     });
 }
 
 std::optional<FolderItem> MyDialogFolder(const std::optional<FolderItem>& start, StringView prompt)
 {
-    return InFrame(nullptr, true, [&](DesktopWindow* window) {
+    return InFrame(nullptr, [&](DesktopWindow* window) {
         return SelectFolderDialog{String(prompt), InitialFolder(start)}.ShowModal(window);
     });
 }

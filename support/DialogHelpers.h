@@ -1,8 +1,8 @@
 /// The three ways to ask the user something.
 ///
 /// Each keeps the program quiet while the dialog is up: `DrapMenu` is false, and what it held comes back afterwards;
-/// with `sheet` the other windows are covered while the dialog hangs on the window `win`, and the focus is put back.
-/// Without a window, or with a hidden one, a sheet stands alone and covers nothing.
+/// the other windows are covered while the dialog hangs on the window `win`, and the focus is put back. Without a
+/// window, or with a hidden one, it stands alone and covers nothing.
 #pragma once
 
 #include "toolkit/core/FolderItem.h"
@@ -20,7 +20,6 @@ struct Question {
     StringView btnAction, btnCancel = {}, btnAlternate = {};
     DialogIcon icon = DialogIcon::Note;
     DesktopWindow* win = nullptr;
-    bool sheet = true;
 };
 
 /// A question or a notice; the result is 1 for the action button, 2 for the cancel button, 3 for the alternate button

@@ -1,6 +1,5 @@
 #include "toolkit/Desktop.h"
 #include "toolkit/Probe.h"
-#include "toolkit/core/QtText.h"
 
 #include <QFile>
 #include <QUrl>

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Prints each include by which a room sees another one that its link line doesn't reach.
 
-A room is a folder with a house_library or a house_program in its CMakeLists.txt. It sees the rooms that it links, and those that they link.
-Files that git doesn't know yet count too.
+A room is a folder with a house_library or a house_program in its CMakeLists.txt. It sees the rooms that it links, and those
+that they link. Files that git doesn't know yet count too.
 """
 
 import pathlib

@@ -5,6 +5,7 @@
 #include "toolkit/core/TextEncoding.h"
 #include "toolkit/core/TextInputStream.h"
 
+#include <algorithm>
 #include <chrono>
 #include <fcntl.h>
 #include <filesystem>
@@ -60,10 +61,9 @@ int main(int, char** argv)
     const std::vector<fs::path> tiles = Tiles(dossier);
     std::size_t known = 0;
     const double looking = Milliseconds([&] {
-        known = 0;
-        PackFolders folders(dossier);
-        for (const String& line : LinesToPropose(text, dossier))
-            known += folders.LookAt(line).doubt.empty() ? 1 : 0;
+        Progress progress;
+        known = static_cast<std::size_t>(std::ranges::count(LookAtPacks(text, dossier, progress), true,
+                                                            [](const Pack& pack) { return pack.facts.doubt.empty(); }));
     });
     std::size_t read = 0;
     const double reading = Milliseconds([&] { read = Read(tiles); });

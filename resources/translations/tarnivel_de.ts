@@ -434,8 +434,12 @@ Packs nachher</translation>
         <translation>Geländenetze und Fotokacheln: ¿%</translation>
     </message>
     <message id="Localisation.Txt_PropDoublons">
-        <source>Omis, une ligne plus haut nommant la même scène : ¿%</source>
-        <translation>Weggelassen, da eine Zeile weiter oben dieselbe Szenerie nennt: ¿%</translation>
+        <source>Omis, une autre ligne nommant la même scène : ¿%</source>
+        <translation>Weggelassen, da eine andere Zeile dieselbe Szenerie nennt: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropSansLigne">
+        <source>Omis, aucune ligne ne pouvant tenir le nom : ¿%</source>
+        <translation>Weggelassen, da keine Zeile den Namen fassen kann: ¿%</translation>
     </message>
     <message id="Localisation.Txt_RaisonDossAbsent">
         <source>le dossier manque</source>
@@ -450,8 +454,8 @@ Packs nachher</translation>
         <translation>„¿%“ ist nicht lesbar: ¿%</translation>
     </message>
     <message id="Localisation.Txt_RaisonTuileAbimee">
-        <source>une tuile est abîmée, ou comprimée autrement qu'en LZMA</source>
-        <translation>eine Kachel ist beschädigt oder anders als mit LZMA gepackt</translation>
+        <source>tuile abîmée, ou comprimée autrement qu'en LZMA</source>
+        <translation>Kachel beschädigt oder anders als mit LZMA gepackt</translation>
     </message>
     <message id="Localisation.Txt_RaisonPasUnPack">
         <source>ce n'est pas une ligne de pack</source>

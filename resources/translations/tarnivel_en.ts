@@ -434,8 +434,12 @@ Packs after</translation>
         <translation>Base meshes and photo tiles: ¿%</translation>
     </message>
     <message id="Localisation.Txt_PropDoublons">
-        <source>Omis, une ligne plus haut nommant la même scène : ¿%</source>
-        <translation>Left out, since a line further up names the same scenery: ¿%</translation>
+        <source>Omis, une autre ligne nommant la même scène : ¿%</source>
+        <translation>Left out, since another line names the same scenery: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropSansLigne">
+        <source>Omis, aucune ligne ne pouvant tenir le nom : ¿%</source>
+        <translation>Left out, since no line can hold the name: ¿%</translation>
     </message>
     <message id="Localisation.Txt_RaisonDossAbsent">
         <source>le dossier manque</source>
@@ -450,8 +454,8 @@ Packs after</translation>
         <translation>“¿%” can't be read: ¿%</translation>
     </message>
     <message id="Localisation.Txt_RaisonTuileAbimee">
-        <source>une tuile est abîmée, ou comprimée autrement qu'en LZMA</source>
-        <translation>a tile is damaged, or packed otherwise than by LZMA</translation>
+        <source>tuile abîmée, ou comprimée autrement qu'en LZMA</source>
+        <translation>damaged tile, or packed otherwise than by LZMA</translation>
     </message>
     <message id="Localisation.Txt_RaisonPasUnPack">
         <source>ce n'est pas une ligne de pack</source>

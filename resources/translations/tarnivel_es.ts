@@ -434,8 +434,12 @@ Packs después</translation>
         <translation>Mallas base y teselas de foto: ¿%</translation>
     </message>
     <message id="Localisation.Txt_PropDoublons">
-        <source>Omis, une ligne plus haut nommant la même scène : ¿%</source>
-        <translation>Omitidos, pues una línea anterior nombra el mismo escenario: ¿%</translation>
+        <source>Omis, une autre ligne nommant la même scène : ¿%</source>
+        <translation>Omitidos, pues otra línea nombra el mismo escenario: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropSansLigne">
+        <source>Omis, aucune ligne ne pouvant tenir le nom : ¿%</source>
+        <translation>Omitidos, pues ninguna línea puede contener el nombre: ¿%</translation>
     </message>
     <message id="Localisation.Txt_RaisonDossAbsent">
         <source>le dossier manque</source>
@@ -450,8 +454,8 @@ Packs después</translation>
         <translation>«¿%» no se puede leer: ¿%</translation>
     </message>
     <message id="Localisation.Txt_RaisonTuileAbimee">
-        <source>une tuile est abîmée, ou comprimée autrement qu'en LZMA</source>
-        <translation>una tesela está dañada, o comprimida de otro modo que con LZMA</translation>
+        <source>tuile abîmée, ou comprimée autrement qu'en LZMA</source>
+        <translation>tesela dañada, o comprimida de otro modo que con LZMA</translation>
     </message>
     <message id="Localisation.Txt_RaisonPasUnPack">
         <source>ce n'est pas une ligne de pack</source>

@@ -434,8 +434,12 @@ Pack dopo</translation>
         <translation>Mesh di base e riquadri fotografici: ¿%</translation>
     </message>
     <message id="Localisation.Txt_PropDoublons">
-        <source>Omis, une ligne plus haut nommant la même scène : ¿%</source>
-        <translation>Omessi, perché una riga più in alto nomina lo stesso scenario: ¿%</translation>
+        <source>Omis, une autre ligne nommant la même scène : ¿%</source>
+        <translation>Omessi, perché un'altra riga nomina lo stesso scenario: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropSansLigne">
+        <source>Omis, aucune ligne ne pouvant tenir le nom : ¿%</source>
+        <translation>Omessi, perché nessuna riga può contenere il nome: ¿%</translation>
     </message>
     <message id="Localisation.Txt_RaisonDossAbsent">
         <source>le dossier manque</source>
@@ -450,8 +454,8 @@ Pack dopo</translation>
         <translation>«¿%» non può essere letto: ¿%</translation>
     </message>
     <message id="Localisation.Txt_RaisonTuileAbimee">
-        <source>une tuile est abîmée, ou comprimée autrement qu'en LZMA</source>
-        <translation>un riquadro è danneggiato, o compresso in modo diverso da LZMA</translation>
+        <source>tuile abîmée, ou comprimée autrement qu'en LZMA</source>
+        <translation>riquadro danneggiato, o compresso in modo diverso da LZMA</translation>
     </message>
     <message id="Localisation.Txt_RaisonPasUnPack">
         <source>ce n'est pas une ligne de pack</source>

@@ -434,8 +434,12 @@ Packs na</translation>
         <translation>Basisnetten en fototegels: ¿%</translation>
     </message>
     <message id="Localisation.Txt_PropDoublons">
-        <source>Omis, une ligne plus haut nommant la même scène : ¿%</source>
-        <translation>Weggelaten, omdat een regel erboven dezelfde scenery noemt: ¿%</translation>
+        <source>Omis, une autre ligne nommant la même scène : ¿%</source>
+        <translation>Weggelaten, omdat een andere regel dezelfde scenery noemt: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_PropSansLigne">
+        <source>Omis, aucune ligne ne pouvant tenir le nom : ¿%</source>
+        <translation>Weggelaten, omdat geen regel de naam kan bevatten: ¿%</translation>
     </message>
     <message id="Localisation.Txt_RaisonDossAbsent">
         <source>le dossier manque</source>
@@ -450,8 +454,8 @@ Packs na</translation>
         <translation>‘¿%’ kan niet worden gelezen: ¿%</translation>
     </message>
     <message id="Localisation.Txt_RaisonTuileAbimee">
-        <source>une tuile est abîmée, ou comprimée autrement qu'en LZMA</source>
-        <translation>een tegel is beschadigd, of anders ingepakt dan met LZMA</translation>
+        <source>tuile abîmée, ou comprimée autrement qu'en LZMA</source>
+        <translation>tegel beschadigd, of anders ingepakt dan met LZMA</translation>
     </message>
     <message id="Localisation.Txt_RaisonPasUnPack">
         <source>ce n'est pas une ligne de pack</source>

@@ -7,6 +7,7 @@ from choosing import choose, open_chooser
 from desktop import Program, has, nodes, private_environment, xdotool
 from sample import packs, sample
 
+UNSAVED = "Le modèle affiché n'est pas encore enregistré : enregistrez-le d'abord"
 STOPPED = "Arrêté : aucun modèle n'a été proposé"
 
 
@@ -62,6 +63,8 @@ def main(command):
             assert packs(proposed.split("\n")) == packs(files.source) | {
                 f"Custom Scenery/{name}/" for name in files.folders_not_listed()
             }
+            program.press("Générer")
+            program.wait_for("the refusal", lambda: program.all(name=UNSAVED))
             assert not model.exists(), "nothing is written before one saves"
             assert not program.all(name=STOPPED)
             assert has(program.find("radio button", "Fichier modèle"), "checked")

@@ -26,11 +26,20 @@ void Sort(Lines& lines)
     std::ranges::stable_sort(lines, {}, [](const String& line) { return FoldCase(line); });
 }
 
+String NameIn(StringView line)
+{
+    for (; !line.empty(); line.remove_prefix(1))
+        for (const StringView prefix : {U"SCENERY_PACK ", U"SCENERY_PACK_DISABLED "})
+            if (const String beginning = String(prefix) + U"Custom Scenery/"; BeginsWith(line, beginning))
+                return CountFields(line, U"/") > 2 ? String(NthField(line, U"/", 2)) : String();
+    return {};
+}
+
 Lines Reduce(const Lines& lines)
 {
     Lines names;
     for (const String& line : lines)
-        if (const StringView name = RetScenLigne(line); !name.empty()) names.emplace_back(name);
+        if (String name = NameIn(line); !name.empty()) names.push_back(std::move(name));
     return names;
 }
 

@@ -80,7 +80,9 @@ private:
         static const std::vector<StringView> rests =
             Split(U"Custom Scenery/a/|Custom Scenery/é/|Custom Scenery/e\u0301/|Custom Scenery/B b/x/y|Custom "
                   U"Scenery/c|Custom Scenery/d:e/|Custom Scenery/f/|Custom Scenery/g/|Custom Scenery/\u0161/|"
-                  U"Custom Scenery/\U00010061/|*GLOBAL_AIRPORTS*|/x/y/|x|||SCENERY_PACK x|I|scenery_x",
+                  U"Custom Scenery/\U00010061/|*GLOBAL_AIRPORTS*|/x/y/|x|||SCENERY_PACK Custom "
+                  U"Scenery/c/|#SCENERY_PACK Custom Scenery//SCENERY_PACK Custom Scenery/a/|"
+                  U"Custom Scenery/a/SCENERY_PACK Custom Scenery/b/|SCENERY_PACK x|I|scenery_x",
                   U"|");
         String line = String(prefixes[Roll(prefixes.size())]).append(rests[Roll(rests.size())]);
         if (Roll(4) == 0) line = FoldCase(line);

@@ -34,23 +34,4 @@ TEST(SceneryText, AcceptanceOrTheReasonOfARefusal)
     EXPECT_EQ(ReasonOfRefusal(U""), U"vide ou illisible");
 }
 
-TEST(SceneryText, RetScenLigne)
-{
-    const std::tuple<const char*, StringView, StringView> rows[] = {
-        {"case doesn't count, the name keeps its own", U"scenery_pack custom scenery/AlPes/", U"AlPes"},
-        {"only the first folder of a deeper path", U"SCENERY_PACK Custom Scenery/Alpes/Sud/", U"Alpes"},
-        {"no slash behind the name", U"SCENERY_PACK Custom Scenery/Alpes", U""},
-        {"an empty name", U"SCENERY_PACK Custom Scenery//x/", U""},
-        {"the keyword stands inside the line", U"# SCENERY_PACK_DISABLED Custom Scenery/Alpes/", U"Alpes"},
-        {"the first of two", U"SCENERY_PACK Custom Scenery/a/SCENERY_PACK_DISABLED Custom Scenery/b/", U"a"},
-        {"the first keyword without a name hides the second",
-         U"SCENERY_PACK_DISABLED Custom Scenery//SCENERY_PACK Custom Scenery/a/", U""},
-        {"another path, then one that counts", U"SCENERY_PACK SCENERY_PACK Custom Scenery/a/", U"a"},
-        {"two blanks", U"SCENERY_PACK  Custom Scenery/Alpes/", U""},
-        {"nothing is decoded or composed", U"SCENERY_PACK Custom Scenery/e\u0301 %20:é/", U"e\u0301 %20:é"},
-    };
-    for (const auto& [name, line, scenery] : rows)
-        EXPECT_EQ(RetScenLigne(line), scenery) << name;
-}
-
 } // namespace

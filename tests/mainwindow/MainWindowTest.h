@@ -37,6 +37,14 @@ protected:
         field.SetText(Fncts::AbsPath_f(FolderItem(file), false));
     }
 
+    /// Runs over files of these contents.
+    void Run(std::string_view model, std::string_view source)
+    {
+        Choose(window->TextFieldMod1, folder.File("model", model));
+        Choose(window->TextFieldSpack, folder.File("Custom Scenery/source", source));
+        Run();
+    }
+
     void Run()
     {
         window->BtnRun_Pressed();

@@ -15,7 +15,7 @@ std::pair<std::size_t, std::ptrdiff_t> Held()
 
 class Soak : public MainWindow {
 protected:
-    void OpenAll()
+    Soak()
     {
         std::string model = header, source = header;
         for (int pack = 0; pack < 300; ++pack) {
@@ -61,7 +61,6 @@ TEST_F(Soak, FiveHundredRoundsLeaveNothingBehind)
 #else
     constexpr int last = 500;
 #endif
-    OpenAll();
     std::pair<std::size_t, std::ptrdiff_t> before;
     for (int round = 0; round < last; ++round) {
         if (round == 50) before = Held();
@@ -70,10 +69,7 @@ TEST_F(Soak, FiveHundredRoundsLeaveNothingBehind)
     }
     const auto [bytes, files] = Held();
     EXPECT_EQ(files, before.second);
-    std::cout << before.first << " bytes after 50 rounds, " << bytes << " after " << last << '\n';
-    if (last == 500) {
-        EXPECT_LT(bytes, before.first + before.first / 20);
-    }
+    EXPECT_TRUE(bytes < before.first + before.first / 20 || last < 500) << before.first << " bytes, then " << bytes;
     EXPECT_TRUE(folder.Content("a").starts_with("I\n1000 version\nx\nx_PACK")) << "each round has done its work";
 }
 

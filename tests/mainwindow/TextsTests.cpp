@@ -1,7 +1,5 @@
 #include "mainwindow/ArchiveName.h"
 #include "mainwindow/Colouring.h"
-#include "mainwindow/ReportSeries.h"
-#include "mainwindow/Sentences.h"
 #include "tests/mainwindow/SearchLaws.h"
 #include "tests/mainwindow/ToggleLaws.h"
 #include "toolkit/core/TextEncoding.h"
@@ -23,42 +21,9 @@ TEST(Colouring, KeywordsAnywhereInALine)
         EXPECT_EQ(ColourKeywords(line), spans) << Encodings::UTF8.Encode(line);
 }
 
-TEST(ReportSeries, FromTheFourthOfItsKindOnTheyAreGathered)
-{
-    String shown;
-    ReportSeries series([&](const String& message, const String& more) { shown += message + U"|" + more + U"\n\n"; });
-    series.Finish();
-    for (const StringView line : {U"1", U"2", U"3", U"4", U"5"}) {
-        series.Add(U"twice", String(line));
-        if (line < StringView(U"5")) series.Add(U"both", String(line));
-    }
-    series.Add(U"folders", {});
-    series.Finish();
-    EXPECT_EQ(shown, U"twice|1\n\nboth|1\n\ntwice|2\n\nboth|2\n\ntwice|3\n\nboth|3\n\nfolders|\n\n"
-                     U"twice|4\n5\n\nboth\n4\n\n");
-    EXPECT_EQ(series.All(), U"twice\n1\n2\n3\n4\n5\n\nboth\n1\n2\n3\n4\n\nfolders");
-    EXPECT_EQ(series.Count(), 10);
-}
-
-TEST(Sentences, ANumberHasItsFormOfTheWord)
-{
-    EXPECT_EQ(StatusSentence(12, true, {.lines = 612, .enabled = 580, .disabled = 1, .marked = 0}),
-              U"Ligne 12, sans équivalent · 612 lignes, 580 activées, 1 désactivée, 0 sans équivalent");
-}
-
 TEST(ArchiveNames, TheMomentStandsBeforeTheExtension)
 {
-    const DateTime moment{2024, 3, 5, 9, 5, 2};
-    EXPECT_EQ(ArchiveName(U"scenery_packs.ini", U".ini", moment), U"scenery_packs_2024-03-05_09'05'02.ini");
-    EXPECT_EQ(ArchiveName(U"e\u0301.e\u0301", U".e\u0301", {12, 12, 31, 23, 59, 59}), U"é_0012-12-31_23'59'59.é");
-}
-
-TEST(Toggling, OneWayAlone)
-{
-    const StringView text = U"I\nSCENERY_PACK A\nscenery_pack_disabled B\n";
-    const Selection all{2, std::ssize(text) - 2};
-    EXPECT_EQ(Toggle(text, all, ToggleMode::Enable)->text, U"I\nSCENERY_PACK A\nSCENERY_PACK B\n");
-    EXPECT_EQ(Toggle(text, all, ToggleMode::Disable)->text, U"I\nSCENERY_PACK_DISABLED A\nscenery_pack_disabled B\n");
+    EXPECT_EQ(ArchiveName(U"e\u0301.e\u0301", U".e\u0301", {12, 1, 2, 3, 4, 59}), U"é_0012-01-02_03'04'59.é");
 }
 
 TEST(RandomTexts, AreSearchedAndToggledByTheLaws)

@@ -71,29 +71,37 @@ TEST_F(MainWindow, AModelAddressThatIsNoneIsTold)
     EXPECT_TRUE(Fncts::DrapMenu) << "a fault ends the run";
 }
 
-TEST_F(MainWindow, ManyReportsDoNotAskWithoutEnd)
+TEST_F(MainWindow, FromTheFourthOfItsKindOnReportsAreGathered)
 {
     Open();
-    std::string source = header, model = header;
-    for (const std::string line : {"0\n", "1\n", "2\n", "3\n", "4\n"}) {
-        model += line;
-        source += line + line;
+    std::string model = header, source = header;
+    for (const std::string name : {"0", "1", "2", "3", "4"}) {
+        model += name + "\nSCENERY_PACK /" + name + "\n";
+        source += name + "\n" + name + "\nSCENERY_PACK /" + name + "\nSCENERY_PACK_DISABLED /" + name + "\n";
     }
-    Choose(window->TextFieldMod1, folder.File("model", model));
-    Choose(window->TextFieldSpack, folder.File("Custom Scenery/source", source));
-    Run();
-    ASSERT_EQ(probe.Asked.size(), 5U) << "three, what the comparison found, and the rest in one";
-    EXPECT_EQ(probe.Asked.front(), U"Problème, la ligne ci-dessous est présente plus d'une fois :\n0[Ok]");
-    EXPECT_TRUE(probe.Asked.back().ends_with(U"3\n4[Ok]"));
+    Run(model, source);
+    EXPECT_NE(probe.Said.back().find(U" 11 remarques"), String::npos);
+    const std::vector<String> shown = std::exchange(probe.Asked, {});
+    app->Menus.TexteRapport.Action();
+    const auto pack = [](const String& name) {
+        return U"\nSCENERY_PACK /" + name + U"\nSCENERY_PACK_DISABLED /" + name;
+    };
+    const String twice = Localisation::Txt_ProbLignPresDxFois(), both = Localisation::Txt_ProbLignEquiv();
+    const String end = twice + U"\n3\n4\n\n" + both + pack(U"3") + pack(U"4") + U"[Ok]";
+    ASSERT_EQ(shown.size(), 8U) << "three of each, what the comparison found, and the rest in one";
+    for (std::size_t i = 0; i < 3; ++i)
+        EXPECT_EQ(shown[2 * i] + shown[2 * i + 1],
+                  twice + U"\n" + ToText(i) + U"[Ok]" + both + pack(ToText(i)) + U"[Ok]");
+    EXPECT_EQ(shown.back(), end);
+    EXPECT_TRUE(
+        probe.Asked.back().starts_with(U"Dernier rapport\n" + twice + U"\n0\n1\n2\n3\n4\n\n" + both + pack(U"0")));
 }
 
 TEST_F(MainWindow, WhatAHandHasMadeIsAskedForBeforeItGoes)
 {
     Open();
-    const auto model = folder.File("model", header), other = folder.File("other", header);
-    Choose(window->TextFieldMod1, model);
-    Choose(window->TextFieldSpack, folder.File("Custom Scenery/source", std::string(header) + "SCENERY_PACK a/\n"));
-    Run();
+    const auto model = folder.Path() / "model", other = folder.File("other", header);
+    Run(header, std::string(header) + "SCENERY_PACK a/\n");
     const auto toggle = [this] {
         window->TextAreaAff.Select(30, 0);
         window->BtnEnabDis_Pressed();
@@ -125,9 +133,7 @@ TEST_F(MainWindow, WhatAHandHasMadeIsAskedForBeforeItGoes)
 TEST_F(MainWindow, AStoppedRunLeavesNothingBehindButASourceThatItHasNotTouched)
 {
     Open();
-    Choose(window->TextFieldMod1, folder.File("model", header));
-    Choose(window->TextFieldSpack, folder.File("Custom Scenery/source", header));
-    Run();
+    Run(header, header);
     for (int press = 0; press < 2; ++press)
         window->BtnRun_Pressed();
     App::Current().EnableMenuBoutons(false);
@@ -153,33 +159,41 @@ TEST_F(MainWindow, AStoppedRunLeavesNothingBehindButASourceThatItHasNotTouched)
         EXPECT_EQ(View(row), U"");
 }
 
-TEST_F(MainWindow, ThePreferencesFillTheControls)
+TEST_F(MainWindow, BadPreferencesFillTheControlsAsFarAsTheyCan)
 {
     std::string large;
     large.resize(25'000'000, 'x');
-    Open("Fenetre WinMain :@: 40,50,800,600\nSource Model :@: 1\nSource Model :@: 7\nSourceFile_Path :@: a\xFF\n"
-         "SourceFile_Path :@: " +
-         large.substr(0, 70'000) + "\nArchiv Old File :@: true\nArchivFolder_Path :@: b\r\nSceneryPack_Path :@: " +
-         large + "\nVolume Sonore :@: 35\nAfficher Bouton Special A :@: True\nTabSpecAorg :@: " +
-         std::string(large.size(), '\t'));
-    EXPECT_EQ(window->Width(), 800);
-    EXPECT_EQ(window->Height(), 600);
+    Open("Source Model :@: 1\nSource Model :@: 7\nSourceFile_Path :@: a\xFF\nSourceFile_Path :@: " +
+         large.substr(0, 70'000) + "\nArchivFolder_Path :@: b\r\nSceneryPack_Path :@: " + large +
+         "\nVolume Sonore :@: 35\nTabSpecAorg :@: " + std::string(large.size(), '\t'));
     EXPECT_EQ(window->RadGrpSrc.SelectedIndex(), 1) << "there is no choice 7";
     EXPECT_EQ(window->TextFieldMod1.Text(), U"a");
-    EXPECT_TRUE(window->ChBoxArchiv.Value());
     EXPECT_EQ(window->TextFieldArchiv.Text(), U"b");
     EXPECT_EQ(window->TextFieldSpack.Text(), U"") << "too long for a field";
     EXPECT_EQ(app->DefVolSon(), 35);
-    EXPECT_TRUE(window->SegButtSpecA.Visible());
     EXPECT_TRUE(app->TabSpecAorg.empty());
     EXPECT_EQ(probe.Beeps, 13) << "one for the byte, three for each line that was passed over";
-}
-
-TEST_F(MainWindow, TheLabelOfTheVersionOpensThePageOfVersions)
-{
-    Open();
     window->StaticTextVersion.Pressed();
     EXPECT_EQ(probe.Links.size(), 1U);
+}
+
+TEST_F(MainWindow, AProposalNeedsASceneryAndARunWithoutAModelOffersOne)
+{
+    Open();
+    window->TexteProposer_Action();
+    EXPECT_TRUE(probe.Asked.empty());
+    EXPECT_EQ(probe.Beeps, 1);
+    EXPECT_EQ(probe.Said, std::vector<String>{U"scenery_packs.ini refusé : vide ou illisible"});
+    Choose(window->TextFieldSpack, folder.File("Custom Scenery/scenery_packs.ini", header));
+    Run();
+    EXPECT_EQ(probe.Said.back(), U"Modèle refusé : vide ou illisible (le menu “Texte” peut en proposer un)");
+
+    folder.File("Custom Scenery/scenery_packs.ini", header + std::string("SCENERY_PACK L\xE9man/\n"));
+    probe.Answers = {1, FolderItem(folder.Path() / "m.ini"), 1, 1, 2};
+    window->TexteProposer_Action();
+    window->BtnSave_Pressed();
+    EXPECT_TRUE(probe.Asked.back().ends_with(U"L'enregistrer quand même ?[Annuler][Sauv fichier]"));
+    EXPECT_FALSE(std::filesystem::exists(folder.Path() / "m.ini"));
 }
 
 } // namespace

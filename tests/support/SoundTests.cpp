@@ -36,18 +36,4 @@ TEST(Beeps, AreCountedWithPausesBetween)
     EXPECT_GE(System::Ticks() - start, 20);
 }
 
-TEST(Sounds, EachPlaysItsOwnFileAtTheCommonVolume)
-{
-    const Probe probe;
-    Fncts::SetVolume(35);
-    for (Sound* const sound : {Fncts::_x_Bip::Bip(), Fncts::_x_Whit::Whit(), Fncts::_x_Glass_t::Glass_t(),
-                               Fncts::_x_Agrafeuse_t::Agrafeuse_t(), Fncts::_x_Msg::Msg()}) {
-        Fncts::PlayT(sound);
-        EXPECT_TRUE(sound && sound->Volume() == 35);
-    }
-    Fncts::PlayT(nullptr);
-    EXPECT_EQ(probe.Sounds,
-              (std::vector<String>{U"Bip.wav", U"Whit.wav", U"Glass_t.wav", U"Agrafeuse_t.wav", U"Msg.wav"}));
-}
-
 } // namespace

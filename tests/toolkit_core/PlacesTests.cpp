@@ -2,7 +2,6 @@
 #include "toolkit/core/FolderItem.h"
 #include "toolkit/core/System.h"
 
-#include <chrono>
 #include <gtest/gtest.h>
 
 namespace {
@@ -30,14 +29,10 @@ TEST(SpecialFolders, LieInTheHomeFolder)
         EXPECT_FALSE(FolderItem::Named(name));
 
     ::setenv("XDG_DATA_HOME", "relative", 1);
-    for (const auto& folder : {home.Path(), home.Folder("no \xE9 text")}) {
-        ::setenv("HOME", folder.c_str(), 1);
-        EXPECT_EQ(SpecialFolder::ApplicationData()->Path(), folder / ".local/share");
-    }
-    ::unsetenv("XDG_DATA_HOME");
-    ::setenv("HOME", home.Path().c_str(), 1);
-    std::filesystem::remove_all(home.Path() / ".local");
-    (void)home.File(".local", "a file in the way");
+    const auto other = home.Folder("no \xE9 text");
+    ::setenv("HOME", other.c_str(), 1);
+    EXPECT_EQ(SpecialFolder::ApplicationData()->Path(), other / ".local/share");
+    ::setenv("HOME", home.File("in the way/.local").parent_path().c_str(), 1);
     EXPECT_FALSE(SpecialFolder::ApplicationData());
     for (const char* nowhere : {"", "relative", "/nonexistent-home", static_cast<const char*>(nullptr)}) {
         nowhere ? ::setenv("HOME", nowhere, 1) : ::unsetenv("HOME");
@@ -53,14 +48,10 @@ TEST(Drives, AreTheRootAndTheVolumes)
     for (const char* name : {"Volumes/vm", "Volumes/Data"})
         (void)folder.Folder(name);
     FolderItem::SetVolumesFolder(folder.Path() / "Volumes");
-    const std::vector<FolderItem> drives = FolderItem::Drives();
-    ASSERT_EQ(drives.size(), 3U);
-    EXPECT_EQ(drives[0].Name(), U"Linux");
-    EXPECT_FALSE(drives[0].Parent());
-    EXPECT_EQ(drives[1].Path(), folder.Path() / "Volumes/Data");
-    EXPECT_EQ(drives[1].Parent()->Name(), U"Volumes");
-    EXPECT_EQ(drives[2].Name(), U"vm");
-
+    String names;
+    for (const FolderItem& drive : FolderItem::Drives())
+        names += drive.Name() + U" in " + (drive.Parent() ? drive.Parent()->Name() : U"nothing") + U", ";
+    EXPECT_EQ(names, U"Linux in nothing, Data in Volumes, vm in Volumes, ");
     FolderItem::SetVolumesFolder(folder.Path() / "missing");
     EXPECT_FALSE(FolderItem::VolumesFolder());
     EXPECT_EQ(FolderItem::Drives().size(), 1U);
@@ -75,12 +66,6 @@ TEST(Translations, AreTakenFromTheResources)
     for (const StringView unknown : {U"xx", U"d", U"/../translations/tarnivel_de", U"../translations/tarnivel_de"})
         EXPECT_EQ(SystemGetLocalizedString(key, french, unknown), french);
     EXPECT_EQ(SystemGetLocalizedString(U"Localisation.None", french, U"de"), french);
-}
-
-TEST(Ticks, AreSixtiethsOfASecond)
-{
-    const std::chrono::duration<double> now = std::chrono::steady_clock::now().time_since_epoch();
-    EXPECT_NEAR(static_cast<double>(System::Ticks()), now.count() * 60, 60);
 }
 
 } // namespace

@@ -38,15 +38,12 @@ TEST(TextInputStream, OpensFilesAlone)
     const TemporaryFolder folder;
     ASSERT_EQ(::mkfifo((folder.Path() / "pipe").c_str(), 0600), 0);
     std::filesystem::create_symlink("pipe", folder.Path() / "link to pipe");
-    std::filesystem::create_symlink("nowhere", folder.Path() / "dead link");
     std::filesystem::create_symlink("circle", folder.Path() / "circle");
     std::filesystem::resize_file(folder.File("huge"), (std::uintmax_t{1} << 30) + 1);
     const std::pair<std::filesystem::path, Int64> rows[] = {
         {folder.Folder("folder"), EISDIR},
         {folder.Path() / "missing", ENOENT},
-        {folder.Path() / "pipe", EINVAL},
         {folder.Path() / "link to pipe", EINVAL},
-        {folder.Path() / "dead link", ENOENT},
         {folder.Path() / "circle", ELOOP},
         {folder.Path() / "huge", EFBIG},
         {folder.File("file") / "below", ENOTDIR},
@@ -61,8 +58,6 @@ TEST(TextInputStream, OpensFilesAlone)
             EXPECT_FALSE(exception.Message.empty());
         }
     }
-    std::filesystem::create_symlink(folder.File("real", "text"), folder.Path() / "link");
-    EXPECT_EQ(TextInputStream::Open(FolderItem(folder.Path() / "link")).ReadAll(), "text");
 }
 
 TEST(TextOutputStream, ReplacesAFileWhenItIsClosed)

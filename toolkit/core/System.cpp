@@ -8,6 +8,7 @@
 #include <QTranslator>
 #include <chrono>
 #include <map>
+#include <mutex>
 #include <ratio>
 #include <tuple>
 
@@ -17,6 +18,8 @@ namespace {
 const QTranslator* Translation(const String& language)
 {
     static std::map<String, QTranslator> loaded;
+    static std::mutex loading;
+    const std::lock_guard lock(loading);
     const auto [found, isNew] = loaded.try_emplace(language);
     QTranslator& translation = found->second;
     const std::optional<FolderItem> resources = isNew ? ResourceFolder() : std::nullopt;
