@@ -49,10 +49,10 @@ Kind KindOf(const Pack& pack)
 /// Whether the line names a folder of "Custom Scenery" and nothing inside of it, and isn't commented out.
 bool IsForFolder(const Pack& pack)
 {
-    return SameText(LinesOf(pack.line).front().Rest(), LinesOf(LineFor(NameOf(pack))).front().Rest());
+    return SameText(LinesOf(pack.line).front().Rest(), String(CustomScenery).append(NameOf(pack)) + U"/");
 }
 
-/// Of the packs that have a line those that get into the model, by what only one line can stand for.
+/// The packs that get into the model, by what only one line can stand for.
 std::map<String, const Pack*> Chosen(std::span<const Pack> packs)
 {
     std::map<String, const Pack*> chosen;

@@ -9,11 +9,16 @@
 
 #include <fcntl.h>
 #include <future>
+#include <map>
 #include <sys/stat.h>
 
 namespace fs = std::filesystem;
 
 namespace {
+
+using Item = fs::directory_entry;
+/// The items of a folder by their names, as these are compared.
+using Items = std::map<String, Item>;
 
 String FormOf(StringView name) { return FoldCase(CanonicalForm(name)); }
 
@@ -23,8 +28,16 @@ String Unreadable(const fs::path& path, StringView reason)
                                 {Encodings::UTF8.Decode(path.filename().native()), reason});
 }
 
-PackFacts::Tile KindOf(const fs::path& tile)
+Items ItemsOf(const fs::path& folder)
 {
+    Items items;
+    for (const Item& item : fs::directory_iterator(folder))
+        items.emplace(FormOf(Encodings::UTF8.Decode(item.path().filename().native())), item);
+    return items;
+}
+
+PackFacts LookAtTile(const fs::path& tile)
+try {
     // What opens only when somebody writes to it must not stop the program.
     const Descriptor file(::open(tile.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     Check(file.number >= 0);
@@ -33,52 +46,35 @@ PackFacts::Tile KindOf(const fs::path& tile)
     if (!S_ISREG(status.st_mode)) throw SystemError(EINVAL);
     // The short beginning does for nearly all.
     for (const std::size_t size : {std::size_t{1} << 10, std::size_t{256} << 10}) {
-        const std::string beginning = ReadAt(file.number, 0, size);
-        const PackFacts::Tile kind = TileKindOf(IsArchive(beginning) ? Unpack(file.number, size) : beginning);
-        if (kind != PackFacts::Tile::None) return kind;
+        const PackFacts::Tile kind = TileKindOf(BeginningOf(file.number, size));
+        if (kind != PackFacts::Tile::None) return {.tile = kind, .doubt = {}};
     }
-    throw IOException(0, Localisation::Txt_RaisonTuileAbimee());
-}
-
-void LookAtTile(PackFacts& facts, const fs::path& tile)
-try {
-    facts.tile = KindOf(tile);
+    return {.doubt = Unreadable(tile, Localisation::Txt_RaisonTuileAbimee())};
 } catch (const IOException& error) {
-    facts.doubt = Unreadable(tile, error.Message);
+    return {.doubt = Unreadable(tile, error.Message)};
 }
 
-} // namespace
+class Looker {
+public:
+    explicit Looker(const FolderItem& dossier)
+        : dossier_(dossier.Path())
+    {
+    }
 
-std::vector<Pack> LookAtPacks(StringView text, const FolderItem& dossier, Progress& progress)
-{
-    std::vector<Pack> packs = PacksToPropose(text, dossier);
-    progress.all = packs.size();
-    const auto look = [&] {
-        PackFolders folders(dossier);
-        for (std::size_t i = progress.begun++; i < packs.size() && !progress.stopped; i = progress.begun++)
-            if (packs[i].fitsLine) packs[i].facts = folders.LookAt(packs[i].line);
-    };
-    std::future<void> other = std::async(std::launch::async, look);
-    look();
-    other.get();
-    return packs;
-}
+    PackFacts LookAt(StringView line);
 
-PackFolders::PackFolders(const FolderItem& dossier)
-    : dossier_(dossier.Path())
-{
-}
+private:
+    Item Find(const Item& folder, StringView name);
+    Item FolderOf(StringView path);
+    PackFacts LookInside(const Item& folder);
 
-PackFolders::Items PackFolders::ItemsOf(const fs::path& folder)
-{
-    Items items;
-    for (const Item& item : fs::directory_iterator(folder))
-        items.emplace(FormOf(Encodings::UTF8.Decode(item.path().filename().native())), item);
-    return items;
-}
+    const fs::path dossier_;
+    /// Where an item was searched under another spelling.
+    std::map<fs::path, Items> listed_;
+};
 
 /// The item of that name, or one that isn't there.
-PackFolders::Item PackFolders::Find(const Item& folder, StringView name)
+Item Looker::Find(const Item& folder, StringView name)
 {
     if (!folder.is_directory()) return {};
     if (Item exact(folder.path() / Encodings::UTF8.Encode(name)); exact.exists()) return exact;
@@ -88,7 +84,7 @@ PackFolders::Item PackFolders::Find(const Item& folder, StringView name)
     return found == items.end() ? Item() : found->second;
 }
 
-PackFolders::Item PackFolders::FolderOf(StringView path)
+Item Looker::FolderOf(StringView path)
 {
     Item folder(dossier_);
     if (BeginsWith(path, CustomScenery))
@@ -100,35 +96,46 @@ PackFolders::Item PackFolders::FolderOf(StringView path)
     return folder;
 }
 
-void PackFolders::LookInside(PackFacts& facts, const Item& folder)
+PackFacts Looker::LookInside(const Item& folder)
 {
-    if (const Item navigationData = Find(folder, U"Earth nav data"); navigationData.is_directory()) {
-        const Items items = ItemsOf(navigationData);
-        const auto airports = items.find(U"apt.dat");
-        facts.airports = airports != items.end() && airports->second.is_regular_file();
-        if (facts.airports) return;
-        for (const auto& [name, tiles] : items)
-            for (const auto& [file, tile] : tiles.is_directory() ? ItemsOf(tiles) : Items())
-                if (file.ends_with(U".dsf")) return LookAtTile(facts, tile);
-    }
-    facts.plugins = Find(folder, U"plugins").is_directory();
-    facts.library = Find(folder, U"library.txt").is_regular_file();
-    if (!facts.library && !facts.plugins) facts.doubt = Localisation::Txt_RaisonRien();
+    const Item data = Find(folder, U"Earth nav data");
+    const Items items = data.is_directory() ? ItemsOf(data) : Items();
+    const auto airports = items.find(U"apt.dat");
+    if (airports != items.end() && airports->second.is_regular_file()) return {.airports = true, .doubt = {}};
+    for (const auto& [name, tiles] : items)
+        for (const auto& [file, tile] : tiles.is_directory() ? ItemsOf(tiles) : Items())
+            if (file.ends_with(U".dsf")) return LookAtTile(tile);
+    const bool library = Find(folder, U"library.txt").is_regular_file();
+    const bool plugins = Find(folder, U"plugins").is_directory();
+    listed_.erase(folder); // asked for no more, and it may be long
+    return {.library = library,
+            .plugins = plugins,
+            .doubt = library || plugins ? String() : Localisation::Txt_RaisonRien()};
 }
 
-PackFacts PackFolders::LookAt(StringView line)
+PackFacts Looker::LookAt(StringView line)
 try {
-    PackFacts facts;
     const SceneryLine pack = LinesOf(line).front();
-    if (pack.state == LineState::Other)
-        facts.doubt = Localisation::Txt_RaisonPasUnPack();
-    else if (const Item folder = FolderOf(pack.Rest()); folder.is_directory())
-        LookInside(facts, folder);
-    else
-        facts.doubt = Localisation::Txt_RaisonDossAbsent();
-    return facts;
+    if (pack.state == LineState::Other) return {.doubt = Localisation::Txt_RaisonPasUnPack()};
+    const Item folder = FolderOf(pack.Rest());
+    return folder.is_directory() ? LookInside(folder) : PackFacts{.doubt = Localisation::Txt_RaisonDossAbsent()};
 } catch (const fs::filesystem_error& error) {
-    PackFacts facts;
-    facts.doubt = Unreadable(error.path1(), Encodings::UTF8.Decode(error.code().message()));
-    return facts;
+    return {.doubt = Unreadable(error.path1(), Encodings::UTF8.Decode(error.code().message()))};
+}
+
+} // namespace
+
+std::vector<Pack> LookAtPacks(StringView text, const FolderItem& dossier, Progress& progress)
+{
+    std::vector<Pack> packs = PacksToPropose(text, dossier);
+    progress.all = packs.size();
+    const auto look = [&] {
+        Looker looker(dossier);
+        for (std::size_t i = progress.begun++; i < packs.size() && !progress.stopped; i = progress.begun++)
+            if (packs[i].fitsLine) packs[i].facts = looker.LookAt(packs[i].line);
+    };
+    std::future<void> other = std::async(std::launch::async, look);
+    look();
+    other.get();
+    return packs;
 }

@@ -53,7 +53,18 @@ Stream TakeStream(ByteReader& header)
     return stream;
 }
 
-std::string Beginning(int archive, const Stream& packed, std::size_t size)
+/// The bytes from that offset on, fewer at the end of the file.
+std::string ReadAt(int file, std::uint64_t offset, std::size_t size)
+{
+    std::string bytes(size, '\0');
+    if (offset > std::numeric_limits<off_t>::max() - size) return {};
+    const ssize_t count = ::pread(file, bytes.data(), size, static_cast<off_t>(offset));
+    Check(count >= 0);
+    bytes.resize(static_cast<std::size_t>(count));
+    return bytes;
+}
+
+std::string Unpacked(int archive, const Stream& packed, std::size_t size)
 {
     lzma_filter filters[] = {{packed.method, nullptr}, {LZMA_VLI_UNKNOWN, nullptr}};
     const auto* properties = reinterpret_cast<const std::uint8_t*>(packed.properties.data());
@@ -80,31 +91,22 @@ std::string Beginning(int archive, const Stream& packed, std::size_t size)
 
 } // namespace
 
-std::string ReadAt(int file, std::uint64_t offset, std::size_t size)
-{
-    std::string bytes(size, '\0');
-    if (offset > std::numeric_limits<off_t>::max() - size) return {};
-    const ssize_t count = ::pread(file, bytes.data(), size, static_cast<off_t>(offset));
-    Check(count >= 0);
-    bytes.resize(static_cast<std::size_t>(count));
-    return bytes;
-}
-
-std::string Unpack(int archive, std::size_t size)
+std::string BeginningOf(int file, std::size_t size)
 try {
+    std::string beginning = ReadAt(file, 0, size);
+    if (!beginning.starts_with("7z\xBC\xAF\x27\x1C")) return beginning;
     constexpr std::size_t signatureSize = 12, numberSize = 8;
-    const std::string start = ReadAt(archive, 0, startSize);
-    ByteReader places{start};
+    ByteReader places{beginning};
     places.Take(signatureSize);
     const std::uint64_t offset = startSize + places.TakeNumber(numberSize), length = places.TakeNumber(numberSize);
-    std::string header = ReadAt(archive, offset, std::min<std::uint64_t>(length, size));
+    std::string header = ReadAt(file, offset, std::min<std::uint64_t>(length, size));
     if (header.starts_with(packedHeader)) {
         ByteReader parts{std::string_view(header).substr(1)};
-        header = Beginning(archive, TakeStream(parts), size);
+        header = Unpacked(file, TakeStream(parts), size);
     }
     ByteReader parts{header};
     Expect(parts, "\1\4");
-    return Beginning(archive, TakeStream(parts), size);
+    return Unpacked(file, TakeStream(parts), size);
 } catch (const Damage&) {
     return {};
 }

@@ -14,7 +14,8 @@ void Fuzz(Input& input)
     if (kind != PackFacts::Tile::None) EXPECT_EQ(TileKindOf(tile + rest), kind) << "what stands behind the head counts";
 
     temporary.File("p/Earth nav data/+40+000/a.dsf", tile);
-    const PackFacts facts = PackFolders(FolderItem(temporary.Path())).LookAt(U"SCENERY_PACK Custom Scenery/p/");
+    Progress progress;
+    const PackFacts facts = LookAtPacks({}, FolderItem(temporary.Path()), progress).front().facts;
     EXPECT_NE(facts.tile == PackFacts::Tile::None, facts.doubt.empty());
     if (kind != PackFacts::Tile::None) EXPECT_EQ(facts.tile, kind);
 }

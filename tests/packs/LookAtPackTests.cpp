@@ -4,7 +4,6 @@
 #include "toolkit/core/TextInputStream.h"
 
 #include <gtest/gtest.h>
-#include <sys/fsuid.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -83,7 +82,9 @@ protected:
     /// What a line's pack is, in a word or by the doubt.
     [[nodiscard]] String Seen(StringView text) const
     {
-        const PackFacts facts = PackFolders(FolderItem(custom)).LookAt(text);
+        Progress progress;
+        const String spack = String(TxtDebSpack).append(TxtEoF).append(text);
+        const PackFacts facts = LookAtPacks(spack, FolderItem(custom), progress).back().facts;
         if (!facts.doubt.empty()) return facts.doubt;
         String seen = facts.airports ? U"airports " : U"";
         if (facts.tile != PackFacts::Tile::None)
@@ -175,9 +176,10 @@ TEST_F(Scenery, TellsWhyATileOrAFolderCanNotBeRead)
     for (const auto& [closed, told] : rows) {
         fs::permissions(closed, fs::perms::none);
         // All is readable to root: another user looks.
-        const auto user = static_cast<uid_t>(setfsuid(geteuid() == 0 ? 65534 : geteuid()));
+        const uid_t user = geteuid();
+        ASSERT_EQ(seteuid(user == 0 ? 65534 : user), 0);
         EXPECT_EQ(Seen(line), U"“" + told + U"” ne peut pas être lu : Permission denied");
-        setfsuid(user);
+        ASSERT_EQ(seteuid(user), 0);
         fs::permissions(closed, fs::perms::all);
     }
 }
