@@ -194,6 +194,16 @@ TEST_F(MainWindow, AProposalNeedsASceneryAndARunWithoutAModelOffersOne)
     window->BtnSave_Pressed();
     EXPECT_TRUE(probe.Asked.back().ends_with(U"L'enregistrer quand même ?[Annuler][Sauv fichier]"));
     EXPECT_FALSE(std::filesystem::exists(folder.Path() / "m.ini"));
+
+    const String first = window->TextFieldMod1.Text(), proposed = window->TextAreaAff.Text();
+    for (const Int16 answer : {Int16{1}, Int16{3}}) { // a proposal that isn't saved yet, under another name
+        probe.Answers = {1, FolderItem(folder.Path() / "n.ini"), answer, 1};
+        window->TexteProposer_Action();
+        EXPECT_EQ(window->TextFieldMod1.Text() == first, answer == 1);
+    }
+    EXPECT_EQ(window->TextAreaAff.Text(), proposed);
+    window->BtnRun_Pressed();
+    EXPECT_TRUE(probe.Said.back().ends_with(U"enregistrez-le d'abord")) << "an equal text is to be saved, too";
 }
 
 } // namespace
