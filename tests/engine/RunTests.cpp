@@ -1,7 +1,6 @@
 #include "tests/TemporaryFolder.h"
 #include "tests/engine/RunLaws.h"
 #include "toolkit/core/FolderItem.h"
-#include "toolkit/core/TextEncoding.h"
 
 #include <map>
 #include <random>
@@ -9,39 +8,6 @@
 namespace {
 
 const String header = U"I\n1000 version\nSCENERY";
-
-/// The marks and reports in the form of the files: "model 23 41", "result", then each report.
-std::string Findings(const Outcome& outcome)
-{
-    String findings = U"model";
-    for (const Int64 mark : outcome.modelMarks)
-        findings += U' ' + ToText(mark);
-    findings += U"\nresult";
-    for (const Int64 mark : outcome.resultMarks)
-        findings += U' ' + ToText(mark);
-    for (const auto& [message, explanation] : outcome.reports)
-        findings += U"\n--- report\n" + message + (explanation.empty() ? U"" : U"\n--- explanation\n" + explanation);
-    return Encodings::UTF8.Encode(findings) + '\n';
-}
-
-TEST(Runs, GiveTheExpectedTextMarksAndReports)
-{
-    for (const auto& run : std::filesystem::directory_iterator(RUNS)) {
-        SCOPED_TRACE(run.path().filename());
-        const auto read = [&](const char* name) {
-            std::ifstream stream(run.path() / name, std::ios::binary);
-            return std::string(std::istreambuf_iterator<char>(stream), {});
-        };
-        const TemporaryFolder folder;
-        std::ifstream folders(run.path() / "folders.txt");
-        for (std::string name; std::getline(folders, name);)
-            folder.Folder(name);
-        const Outcome outcome = RunEngine(Encodings::UTF8.Decode(read("model.ini")),
-                                          Encodings::UTF8.Decode(read("source.ini")), FolderItem(folder.Path()));
-        EXPECT_EQ(Encodings::UTF8.Encode(outcome.text), read("expected.ini"));
-        EXPECT_EQ(Findings(outcome), read("findings.txt"));
-    }
-}
 
 class Dice {
 public:

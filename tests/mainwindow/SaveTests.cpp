@@ -191,21 +191,6 @@ TEST_F(Saving, AsksWhereItMustAndNoAnswerButTheRightOneWrites)
     Save({U"Impossible de localiser le dossier où sauvegarder le fichier.[Ok]"}, "", 0);
 }
 
-TEST_F(Saving, AnArchiveIsNeverOverwritten)
-{
-    std::vector<std::string> before;
-    // Two saves in one second, after some tries at the most, want one name.
-    for (int save = 0; save < 100 && (probe.Asked.empty() || !BeginsWith(probe.Asked.back(), copyFailed)); ++save) {
-        before = Archives();
-        folder.File(target, std::to_string(save));
-        if (save > 0) probe.Answers = {1, 3, 3}; // the file has changed
-        window->BtnSave_Pressed();
-    }
-    EXPECT_TRUE(BeginsWith(probe.Asked.back(), copyFailed));
-    EXPECT_EQ(Archives(), before);
-    EXPECT_EQ(folder.Content(target), fresh) << "the user went on";
-}
-
 TEST_F(Saving, ALinkStaysOneAndPermissionsStay)
 {
     const fs::path real = folder.File("real.ini", "old");

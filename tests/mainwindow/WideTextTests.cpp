@@ -73,12 +73,14 @@ TEST_F(WideText, FieldsTakeWhatTheyCanKeep)
 {
     const auto at = [this](const char* name) { return folder.Path() / name; };
     std::filesystem::create_symlink("nowhere", at("link.ini"));
+    std::filesystem::create_symlink("circle.ini", at("circle.ini"));
     std::filesystem::create_directory_symlink("Custom Scenery", at("way"));
     const std::filesystem::path twin = folder.File("e\u0301.ini"), composed = folder.File("\u00E9.ini");
     DesktopTextField &model = window->TextFieldMod1, &archives = window->TextFieldArchiv;
     using namespace Localisation;
     const std::tuple<DesktopTextField*, std::filesystem::path, String> rows[] = {
         {&model, at("link.ini"), Dit_AliasMort()},
+        {&model, at("circle.ini"), Dit_AliasMort()},
         {&model, at("way"), Txt_DropQueFichTxt()},
         {&model, folder.File("picture.png"), Txt_DropQueFichTxt()},
         {&model, twin, Txt_NomNonGarde()},

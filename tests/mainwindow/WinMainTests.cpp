@@ -81,20 +81,13 @@ TEST_F(MainWindow, FromTheFourthOfItsKindOnReportsAreGathered)
     }
     Run(model, source);
     EXPECT_NE(probe.Said.back().find(U" 11 remarques"), String::npos);
-    const std::vector<String> shown = std::exchange(probe.Asked, {});
-    app->Menus.TexteRapport.Action();
     const auto pack = [](const String& name) {
         return U"\nSCENERY_PACK /" + name + U"\nSCENERY_PACK_DISABLED /" + name;
     };
     const String twice = Localisation::Txt_ProbLignPresDxFois(), both = Localisation::Txt_ProbLignEquiv();
-    const String end = twice + U"\n3\n4\n\n" + both + pack(U"3") + pack(U"4") + U"[Ok]";
-    ASSERT_EQ(shown.size(), 8U) << "three of each, what the comparison found, and the rest in one";
-    for (std::size_t i = 0; i < 3; ++i)
-        EXPECT_EQ(shown[2 * i] + shown[2 * i + 1],
-                  twice + U"\n" + ToText(i) + U"[Ok]" + both + pack(ToText(i)) + U"[Ok]");
-    EXPECT_EQ(shown.back(), end);
-    EXPECT_TRUE(
-        probe.Asked.back().starts_with(U"Dernier rapport\n" + twice + U"\n0\n1\n2\n3\n4\n\n" + both + pack(U"0")));
+    EXPECT_EQ(probe.Asked.front(), twice + U"\n0[Ok]");
+    EXPECT_EQ(probe.Asked.back(), twice + U"\n3\n4\n\n" + both + pack(U"3") + pack(U"4") + U"[Ok]");
+    EXPECT_EQ(probe.Asked.size(), 8U) << "three of each, what the comparison found, and the rest in one";
 }
 
 TEST_F(MainWindow, WhatAHandHasMadeIsAskedForBeforeItGoes)

@@ -302,9 +302,7 @@ TEST_F(SpecialA, TellsTheLimitsOfTheTable)
 TEST_F(SpecialA, HandsAllBackWhenItCloses)
 {
     const auto original = folder.File("original.txt", "x");
-    app.WspecAheight = 450;
     Open(original);
-    EXPECT_EQ(window->Height(), 450);
     window->TextFieldDest2.SetText(U"two\twords");
     window->SetHeight(500);
     Fncts::DrapMenu = false;

@@ -11,34 +11,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-TEST(Alias, IsResolvedOnlyWhereItLeadsSomewhere)
-{
-    const TemporaryFolder disk;
-    const fs::path file = disk.File("file");
-    const auto link = [&](const char* name, const fs::path& target) {
-        fs::create_symlink(target, disk.Path() / name);
-        return FolderItem(disk.Path() / name);
-    };
-    const std::pair<std::optional<FolderItem>, fs::path> rows[] = {
-        {std::nullopt, ""},
-        {FolderItem(file), file},
-        {FolderItem("/"), "/"},
-        {link("second", link("alias", "file").Path()), file},
-        {link("dead", "gone"), ""},
-        {link("circle", "circle"), ""},
-        {FolderItem(disk.Path() / "new"), disk.Path() / "new"},
-    };
-    for (const auto& [item, target] : rows) {
-        const fs::path place = item ? item->Path() : fs::path();
-        EXPECT_EQ(Fncts::GetItemMoT_f(item, true).value_or(FolderItem("")).Path(), target) << place;
-        EXPECT_EQ(Fncts::GetItemMoT_f(item, false).value_or(FolderItem("")).Path(), place);
-        const bool exists = item && item->Exists();
-        EXPECT_EQ(Fncts::PasNil_Existe_Alias(item, true), exists && !target.empty()) << place;
-        EXPECT_EQ(Fncts::PasNil_Existe_Alias(item, false), exists) << place;
-    }
-    EXPECT_FALSE(Fncts::GetItemMoT_f(FolderItem(""), false)) << "a volume that doesn't exist";
-}
-
 TEST(Removal, LeavesWhatAliasesLeadToAndAFailureStopsTheWatchedOnes)
 {
     const TemporaryFolder disk;

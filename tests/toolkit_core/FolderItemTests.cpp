@@ -97,6 +97,7 @@ TEST_F(FolderItems, ReplaceNothing)
         {"a file", [&] { Item("file").MoveTo(inner); }, EEXIST},
         {"not even an empty folder is replaced", [&] { Item("tree").MoveTo(inner); }, EEXIST},
         {"a dead link is an item too", [&] { Item("file").MoveTo(Item("link")); }, EEXIST},
+        {"a copy", [&] { Item("file").CopyTo(Item("inner/file")); }, EEXIST},
         {"a name that is taken", [&] { Item("file").Rename(U"tree"); }, EEXIST},
         {"no name", [&] { Item("file").Rename(U"../up"); }, EINVAL},
         {"nothing to move", [&] { Item("missing").MoveTo(inner); }, ENOENT},
