@@ -43,7 +43,7 @@ void WinMain::TexteProposer_Action()
 std::optional<std::vector<Pack>> WinMain::LookAt(StringView text, const FolderItem& dossier)
 {
     constexpr Int64 ticksUnseen = 30;
-    constexpr std::chrono::milliseconds between(20);
+    constexpr std::chrono::milliseconds between(4);
     App::Current().EnableMenuBoutons(false);
     DrapProposer = true;
     const AtEnd idle([this] {
