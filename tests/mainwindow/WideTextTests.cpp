@@ -39,6 +39,8 @@ TEST_F(WideText, TheSoundTellsWhatASearchFound)
     };
     EXPECT_EQ(search(U"alpes"), U"Agrafeuse_t.wav");
     EXPECT_EQ(search(U"alpes"), U"Whit.wav");
+    window->TextFieldCherch.Entered();
+    EXPECT_EQ(probe.Sounds.size(), 3U) << "Enter searches too";
     EXPECT_EQ(search(U"nowhere"), U"Glass_t.wav");
     Fncts::DrapMenu = false;
     EXPECT_EQ(search(U"alpes"), U"");
