@@ -56,8 +56,4 @@ void CallAtSessionEnd(const std::function<bool(const std::function<bool()>& mayA
     });
     for (const int number : EndSignals)
         if (std::signal(number, WakeEventLoop) == SIG_IGN) std::signal(number, SIG_IGN);
-    QObject::connect(qApp, &QCoreApplication::aboutToQuit, qApp, [] {
-        for (const int number : EndSignals)
-            std::signal(number, SIG_DFL);
-    });
 }
