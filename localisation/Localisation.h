@@ -241,6 +241,7 @@ inline constexpr Text Dit_RienEnlever{U"Dit_RienEnlever",
     U"Aucune ligne n'est sélectionnée, et la dernière n'est pas vide."};
 inline constexpr Text Txt_LectureImp{U"Txt_LectureImp", U"Le fichier original ne peut pas être lu."};
 inline constexpr Text Txt_TropGrand{U"Txt_TropGrand", U"“¿%” deviendrait trop long et n'est pas écrit."};
+inline constexpr Text Txt_MemoireManque{U"Txt_MemoireManque", U"La mémoire ne suffit pas pour ce traitement."};
 inline constexpr Text Txt_DossierPlein{U"Txt_DossierPlein",
     U"“¿%” est un dossier. Ce qu'il contient sera supprimé avec lui. Nombre d'éléments : ¿%."};
 inline constexpr Text Txt_RemplOriginal{U"Txt_RemplOriginal",
@@ -264,7 +265,7 @@ inline constexpr Text Txt_PrefsGardees{U"Txt_PrefsGardees",
 inline constexpr Text Txt_PrefsNonGardees{U"Txt_PrefsNonGardees",
     U"Le dossier “¿%” n'est pas utilisable (¿%) : les réglages ne seront pas gardés."};
 inline constexpr Text Txt_PrefsNonReprises{U"Txt_PrefsNonReprises",
-    U"Les réglages d'une version plus ancienne n'ont pas pu être repris de “¿%” : ¿%."};
+    U"Les réglages d'une version plus ancienne n'ont pas pu être déplacés et servent là où ils sont, dans “¿%” : ¿%."};
 inline constexpr Text Pref_ChBoxAffBtnSpecA{U"Pref_ChBoxAffBtnSpecA", U"Afficher bouton “Spécial A”"};
 inline constexpr Text Menu_Preferences{U"Menu_Preferences", U"Préférences…"};
 inline constexpr Text Menu_Rapport{U"Menu_Rapport", U"Dernier rapport"};

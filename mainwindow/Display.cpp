@@ -50,7 +50,7 @@ void WinMain::ShowRun(const SceneryTexts& texts, std::initializer_list<int> rows
         {texts.TextDestSpack, texts.CoulDestSpack, modelIsCleaned || sourceIsCleaned}};
     for (const int row : rows) {
         const auto& [text, marks, isCleaned] = shown[row];
-        Document(row).ReplaceText(text, marks, isCleaned);
+        Document(row).ReplaceText(text, marks, {isCleaned, runs_});
         Document(row).SetUnmodified();
     }
 }

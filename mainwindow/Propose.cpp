@@ -31,7 +31,7 @@ void WinMain::TexteProposer_Action()
     RadGrpSrc.SetSelectedIndex(0);
 
     const Proposal proposal = ProposeModel(source.text, *packs);
-    Document(rowModel).ReplaceText(proposal.model, {}, reading.cleanedLines > 0);
+    Document(rowModel).ReplaceText(proposal.model, {}, {reading.cleanedLines > 0, runs_});
     PopMenuAff.SetSelectedRowIndex(rowModel);
     AffArea();
     TextAreaAff.SetFocus();

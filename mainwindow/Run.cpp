@@ -80,6 +80,7 @@ void WinMain::BtnRun_Pressed()
 void WinMain::TimerDebRun_Action()
 {
     run_ = RunState::Begun;
+    ++runs_;
     if (RadGrpSrc.SelectedIndex() == 0) return RunSuite(ReadFile(Fncts::GetFitemAbsPath(TextFieldMod1.Text(), false)));
     const String url = TextFieldMod2.Text();
     if (BeginsWith(url, U"http://") || BeginsWith(url, U"https://"))
@@ -91,7 +92,9 @@ void WinMain::TimerDebRun_Action()
 Fncts::Reading WinMain::ReadFile(const std::optional<FolderItem>& file)
 {
     Fncts::Reading reading = Fncts::LireFichier(file);
-    if (file) asRead_[file->Path()] = reading.fingerprint;
+    if (!file) return reading;
+    const auto known = asRead_.try_emplace(file->Path(), Held{reading.fingerprint}).first;
+    if (known->second.fingerprint != reading.fingerprint) known->second = {reading.fingerprint, runs_};
     return reading;
 }
 

@@ -50,13 +50,17 @@ String WinMain::Save()
     const std::optional<FolderItem> target = Fncts::GetFitemAbsPath(field.Text(), false);
     if (!target) return Tell(Txt_ImpLocDossSauvFich()), String();
 
+    const auto read = asRead_.find(target->Path());
+    Held held = read != asRead_.end() ? read->second : Held{Fncts::LireFichier(*target).fingerprint};
     std::optional<FolderItem> archiveFolder;
-    if (!DecideOnArchive(*target, archiveFolder) || !ConfirmsSave(*target) || !ConfirmsLosses(*target)) return {};
+    if (!DecideOnArchive(*target, archiveFolder) || !ConfirmsSave(*target) || !ConfirmsChange(*target, held)) return {};
     std::optional<String> archived;
     if (archiveFolder && !Archive(*target, *archiveFolder, moment, archived)) return {};
+    // The copying and its question took their time.
+    if (!ConfirmsChange(*target, held)) return {};
     if (const Fncts::Outcome written = Fncts::SauvFichier(*target, text); !written)
         return Tell(Txt_ErreurEcrNouvScen(), target->NativePath() + U"\n" + written.failure), String();
-    asRead_[target->Path()] = Fncts::TextOfBytes(Fncts::DefAppEncod.Encode(text)).fingerprint;
+    asRead_[target->Path()] = {Fncts::TextOfBytes(Fncts::DefAppEncod.Encode(text)).fingerprint};
     Document(PopMenuAff.SelectedRowIndex()).SetSaved();
     Fncts::PlayT(Fncts::_x_Msg::Msg());
     String sentence = Filled(Dit_Enregistre(), {Fncts::AbsPath_f(*target, true)});
@@ -77,18 +81,20 @@ bool WinMain::DecideOnArchive(const FolderItem& target, std::optional<FolderItem
 
 bool WinMain::ConfirmsSave(const FolderItem& target)
 {
-    return AsksToContinue(Filled(Txt_SurSauv(), {PopMenuAff.SelectedRowText(), Fncts::AbsPath_f(target, true)}),
-                          Btn_SauvFichier());
+    const String sure = Filled(Txt_SurSauv(), {PopMenuAff.SelectedRowText(), Fncts::AbsPath_f(target, true)});
+    if (!AsksToContinue(sure, Btn_SauvFichier())) return false;
+    const bool isCleaned = Document(PopMenuAff.SelectedRowIndex()).Origin().cleaned;
+    return !isCleaned || AsksToLose(Txt_SauvTexteAbime(), Btn_SauvFichier());
 }
 
-bool WinMain::ConfirmsLosses(const FolderItem& target)
+bool WinMain::ConfirmsChange(const FolderItem& target, Held& held)
 {
-    const bool isCleaned = Document(PopMenuAff.SelectedRowIndex()).Cleaned();
-    if (isCleaned && !AsksToLose(Txt_SauvTexteAbime(), Btn_SauvFichier())) return false;
-    const auto known = asRead_.find(target.Path());
-    if (known == asRead_.end() || !target.Exists()) return true;
-    return Fncts::LireFichier(target).fingerprint == known->second ||
-           AsksToLose(Filled(Txt_FichierChange(), {Fncts::AbsPath_f(target, true)}), Btn_SauvFichier());
+    if (!target.Exists()) return true;
+    const auto present = Fncts::LireFichier(target).fingerprint;
+    const Int64 run = Document(PopMenuAff.SelectedRowIndex()).Origin().number;
+    if (present == held.fingerprint && run >= held.sinceRun) return true;
+    held = {present};
+    return AsksToLose(Filled(Txt_FichierChange(), {Fncts::AbsPath_f(target, true)}), Btn_SauvFichier());
 }
 
 bool WinMain::Archive(const FolderItem& target, const FolderItem& folder, const DateTime& moment,

@@ -139,6 +139,12 @@ private:
     std::optional<std::vector<Pack>> LookAt(StringView text, const FolderItem& dossier);
 
     // Save.cpp
+    /// What a file held when it was last read or written here, and the first run that read just that. The texts of
+    /// earlier runs, which undoing leads to, were made from something else.
+    struct Held {
+        std::optional<std::size_t> fingerprint;
+        Int64 sinceRun = 0;
+    };
     /// What was saved where, in a sentence, or "".
     String Save();
     /// One question of a save: whether the user goes on.
@@ -148,8 +154,8 @@ private:
     /// Sets `folder` to where the old file is to be kept, or to nothing; false when the user gives up.
     [[nodiscard]] bool DecideOnArchive(const FolderItem& target, std::optional<FolderItem>& folder);
     [[nodiscard]] bool ConfirmsSave(const FolderItem& target);
-    /// Asks about what a save would lose; false when the user gives up.
-    [[nodiscard]] bool ConfirmsLosses(const FolderItem& target);
+    /// Asks when the file isn't what the text on screen was made from; once agreed to, `held` is what it is now.
+    [[nodiscard]] bool ConfirmsChange(const FolderItem& target, Held& held);
     /// Copies the old file and sets `name` to what the copy is called; false when that failed and the user gives up.
     [[nodiscard]] bool Archive(const FolderItem& target, const FolderItem& folder, const DateTime& moment,
                                std::optional<String>& name);
@@ -202,8 +208,9 @@ private:
     /// After a press by the mouse the keyboard is the text's again; a button that the Tab key led to keeps it.
     void ReturnFocus(const DesktopUIControl& button);
 
-    /// What the files held when they were last read or written here.
-    std::map<std::filesystem::path, std::optional<std::size_t>> asRead_;
+    std::map<std::filesystem::path, Held> asRead_;
+    /// Counts the runs; their texts have it as the number of their origin.
+    Int64 runs_ = 0;
     std::optional<PreferencesFile> prefsFile_;
     // The other windows, from an opening to the next.
     std::unique_ptr<WinAide> winAide_;

@@ -5,9 +5,9 @@
 #include "support/DialogHelpers.h"
 #include "support/FileHelpers.h"
 #include "support/Fncts.h"
+#include "support/PathForm.h"
 #include "support/Sounds.h"
 #include "support/Status.h"
-#include "support/TextFiles.h"
 #include "support/TextHelpers.h"
 #include "toolkit/core/Exceptions.h"
 #include "toolkit/core/System.h"
@@ -93,7 +93,7 @@ void WinSpecA::PushButtTrait_Pressed()
     try {
         TreatOriginal();
     } catch (const std::bad_alloc&) {
-        Tell(Txt_ErreurEcritFich(), DialogIcon::Warning);
+        Tell(Txt_MemoireManque(), DialogIcon::Warning);
     }
 }
 
@@ -115,7 +115,7 @@ void WinSpecA::TreatOriginal()
     std::vector<StringView> written;
     for (const auto& [name, text] :
          {std::pair(&app.TabSpecAdest1.front(), &treated->dest1), {&app.TabSpecAdest2.front(), &treated->dest2}})
-        if (WriteDestination(*name, *text, reading.text)) written.emplace_back(*name);
+        if (WriteDestination(*name, *text, reading)) written.emplace_back(*name);
     Fncts::Dire(written.empty() ? Dit_RienEcrit()
                                 : Filled(Dit_EcritDans(), {Join(written, U", "), FichOrg->Parent()->NativePath()}));
 }
@@ -153,19 +153,19 @@ std::optional<Treatment> WinSpecA::TreatVisibly(StringView original)
     });
 }
 
-bool WinSpecA::WriteDestination(StringView name, const std::optional<String>& text, StringView original)
+bool WinSpecA::WriteDestination(StringView name, const std::optional<String>& text, const Fncts::Reading& original)
 {
     if (name.empty()) return false;
     if (!text) {
         Tell(Filled(Txt_TropGrand(), {name}), DialogIcon::Warning);
         return false;
     }
-    if (SameText(*text, original)) {
+    if (SameText(*text, original.text)) {
         Fncts::BeepNbT(1);
         if (!GoesOn(Txt_FichPasModif())) return false;
     }
     const std::optional<FolderItem> target = FichOrg->Parent()->Child(name, false);
-    if (target && !MayReplace(*target)) return false;
+    if (target && !MayReplace(*target, original)) return false;
     // A name that no file can have, or that would lead out of the folder, has no item.
     const Fncts::Outcome written = target ? PutInPlace(*target, *text) : Fncts::Outcome{String(name)};
     if (!written)
@@ -175,7 +175,7 @@ bool WinSpecA::WriteDestination(StringView name, const std::optional<String>& te
     return static_cast<bool>(written);
 }
 
-bool WinSpecA::MayReplace(const FolderItem& target)
+bool WinSpecA::MayReplace(const FolderItem& target, const Fncts::Reading& original)
 {
     if (!target.Exists()) return true;
     const auto replaces = [this](const String& question) {
@@ -184,7 +184,9 @@ bool WinSpecA::MayReplace(const FolderItem& target)
     if (!replaces(Filled(Txt_NomExiste(), {target.Name()}))) return false;
     std::error_code none; // a disk may not tell upper from lower case
     if (!target.IsAlias() && std::filesystem::equivalent(target.Path(), FichOrg->Path(), none))
-        return replaces(Filled(Txt_RemplOriginal(), {target.Name()}));
+        return replaces(Filled(Txt_RemplOriginal(), {target.Name()})) &&
+               (Fncts::LireFichier(FichOrg).fingerprint == original.fingerprint ||
+                replaces(Filled(Txt_FichierChange(), {Fncts::AbsPath_f(target, true)})));
     const Int64 items = target.IsFolder() ? std::ssize(target.Children()) : 0;
     return items == 0 || replaces(Filled(Txt_DossierPlein(), {target.Name(), ToText(items)}));
 }

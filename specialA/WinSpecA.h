@@ -4,6 +4,7 @@
 #include "specialA/Treatment.h"
 #include "support/Covers.h"
 #include "support/DialogHelpers.h"
+#include "support/TextFiles.h"
 #include "toolkit/DesktopCanvas.h"
 #include "toolkit/DesktopControls.h"
 #include "toolkit/DesktopGroupBox.h"
@@ -96,9 +97,9 @@ private:
     std::optional<Treatment> TreatVisibly(StringView original);
     /// Writes one variant under that name beside the original; nothing is a variant that would grow too long. Whether
     /// it is written; if not, the user knows.
-    bool WriteDestination(StringView name, const std::optional<String>& text, StringView original);
+    bool WriteDestination(StringView name, const std::optional<String>& text, const Fncts::Reading& original);
     /// Whether the user gives up what is there, if anything.
-    bool MayReplace(const FolderItem& target);
+    bool MayReplace(const FolderItem& target, const Fncts::Reading& original);
 
     const DesktopWindow& winMain_;
     DesktopSegmentedButton& segButtSpecA_;

@@ -33,29 +33,34 @@ void MoveAnywhere(const FolderItem& item, const FolderItem& place)
     Fncts::RemoveFileOrFolder(item, false);
 }
 
-/// Takes over what an older version kept. The program can start without it, but not in silence.
-void TakeOver(const FolderItem& item, const FolderItem& place)
+/// Takes over what an older version kept; if that fails it is told, and the result is false.
+bool TakeOver(const FolderItem& item, const FolderItem& place)
 {
     try {
         MoveAnywhere(item, place);
+        return true;
     } catch (const std::exception& error) {
         const String reason = Fncts::DefAppEncod.Decode(error.what());
         MessageBox(Localisation::Filled(Localisation::Txt_PrefsNonReprises(), {item.NativePath(), reason}));
+        return false;
     }
 }
 
-/// Makes the data folder from what older versions kept among the preferences, or empty if they kept nothing. What is no
-/// folder or no file there but a link isn't theirs.
-void MakeDataFolder(const FolderItem& dataFolder)
+/// Makes the data folder from what older versions kept among the preferences, or empty if they kept nothing; the folder
+/// to be used. What could not be taken over is used where it is, and the next start tries anew. What is no folder or no
+/// file there but a link isn't theirs.
+FolderItem MakeDataFolder(const FolderItem& dataFolder)
 {
     const auto preferences = SpecialFolder::Preferences();
     const auto older = preferences ? preferences->Child(olderFolder, false) : std::nullopt;
-    if (older && older->IsFolder()) TakeOver(*older, dataFolder);
-    if (dataFolder.Exists()) return;
+    if (older && older->IsFolder()) return TakeOver(*older, dataFolder) ? dataFolder : *older;
     fs::create_directory(dataFolder.Path());
     const auto oldest = preferences ? preferences->Child(oldestFile, false) : std::nullopt;
-    if (oldest && fs::is_regular_file(fs::symlink_status(oldest->Path())))
-        TakeOver(*oldest, dataFolder.Child(oldestFile).value());
+    if (!oldest || !fs::is_regular_file(fs::symlink_status(oldest->Path())) ||
+        TakeOver(*oldest, dataFolder.Child(oldestFile).value()))
+        return dataFolder;
+    fs::remove(dataFolder.Path());
+    return *preferences;
 }
 
 } // namespace
@@ -69,9 +74,10 @@ Fncts::Outcome Fncts::DefDossAppDataPref()
     try {
         // A link that leads nowhere may be waiting for its disk.
         const auto link = applicationData->Child(folderName, false);
-        if (!dataFolder->Exists() && !link->IsAlias()) MakeDataFolder(*dataFolder);
-        if (!dataFolder->IsFolder()) throw SystemError(dataFolder->Exists() ? ENOTDIR : ENOENT);
-        DossierPref = dataFolder;
+        const bool isMissing = !dataFolder->Exists() && !link->IsAlias();
+        const FolderItem folder = isMissing ? MakeDataFolder(*dataFolder) : *dataFolder;
+        if (!folder.IsFolder()) throw SystemError(folder.Exists() ? ENOTDIR : ENOENT);
+        DossierPref = folder;
         return {};
     } catch (const std::exception& error) {
         return {dataFolder->NativePath() + U"\n" + DefAppEncod.Decode(error.what())};

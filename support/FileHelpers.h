@@ -35,7 +35,7 @@ FolderItem RetDossCetApp(const FolderItem& executable = ExecutableFile());
 
 /// Finds the data folder "fr.Kavesti.Tarnivel Datas" or makes it, bringing in what older versions kept elsewhere, and
 /// stores it in `DossierPref`. Where there is none the failure names the place too. What could not be brought in is
-/// told to the user.
+/// told to the user and used where it is.
 Outcome DefDossAppDataPref();
 
 } // namespace Fncts

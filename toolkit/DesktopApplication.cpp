@@ -147,7 +147,7 @@ bool DesktopApplication::EndSession(const std::function<bool()>& mayAsk)
     return true;
 }
 
-bool DesktopApplication::EndRequested() { return EndIsRequested(); }
+bool DesktopApplication::EndRequested() { return EndIsRequested() || (current_ && current_->exitCode_); }
 
 bool DesktopApplication::HasVisibleWindow()
 {

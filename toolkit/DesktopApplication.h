@@ -43,7 +43,8 @@ public:
     /// kept is to be kept now. Dialogs are closed as cancelled afterwards, and the program ends with 0. Nothing may be
     /// asked unless `mayAsk` allows it; the answer false keeps the program running.
     std::function<bool(const std::function<bool()>& mayAsk)> SessionEnding;
-    /// Such a signal has come: long work is to be given up. Dialogs aren't shown any more.
+    /// Such a signal has come, or the program has decided to end: long work is to be given up. Dialogs aren't shown any
+    /// more.
     static bool EndRequested();
 
     /// Lets the platform repaint and timers fire. Mouse, keyboard, the closing of windows and answers from the network

@@ -28,6 +28,7 @@ void DesktopListBox::SetRows(const std::vector<CellRow>& rows) { Table(widget_).
 
 bool DesktopListBox::InsertRows(int before, const std::vector<CellRow>& rows)
 {
+    Table(widget_).CommitCell(); // a screen reader's press takes no focus away from it
     std::vector<CellRow> all = Rows();
     all.insert(all.begin() + before, rows.begin(), rows.end());
     return Table(widget_).Apply(std::move(all));
@@ -35,6 +36,7 @@ bool DesktopListBox::InsertRows(int before, const std::vector<CellRow>& rows)
 
 void DesktopListBox::RemoveRowAt(int row)
 {
+    Table(widget_).CommitCell();
     std::vector<CellRow> all = Rows();
     all.erase(all.begin() + row);
     Table(widget_).Apply(std::move(all));

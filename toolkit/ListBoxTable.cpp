@@ -80,6 +80,12 @@ void ListBoxTable::Begin(const std::vector<CellRow>& rows)
     history_.clear();
 }
 
+void ListBoxTable::CommitCell()
+{
+    for (auto* const editor : viewport()->findChildren<CellEditor*>())
+        commitData(editor);
+}
+
 bool ListBoxTable::Apply(std::vector<CellRow> rows)
 {
     for (CellRow& row : rows)

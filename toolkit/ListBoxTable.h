@@ -17,6 +17,8 @@ public:
     [[nodiscard]] const std::vector<CellRow>& Rows() const { return rows_; }
     /// Takes these rows as they are, with no history.
     void Begin(const std::vector<CellRow>& rows);
+    /// Takes over what is typed into an open cell.
+    void CommitCell();
     /// Makes the table hold these rows, as one step that can be undone; false if the owner doesn't accept them.
     bool Apply(std::vector<CellRow> rows);
     /// Puts `after` in the place of so many rows, and goes there if that changes anything.

@@ -65,8 +65,8 @@ public:
     bool Travel(QTextCursor& cursor, bool forth);
     void SetUnmodified();
     void SetSaved();
-    void SetCleaned(bool cleaned) { cleaned_[availableUndoSteps()] = cleaned; }
-    [[nodiscard]] bool Cleaned() const { return std::prev(cleaned_.upper_bound(availableUndoSteps()))->second; }
+    void SetOrigin(TextOrigin origin) { origins_[availableUndoSteps()] = origin; }
+    [[nodiscard]] TextOrigin Origin() const { return std::prev(origins_.upper_bound(availableUndoSteps()))->second; }
 
     void Wrap(QTextOption::WrapMode mode);
 
@@ -141,5 +141,5 @@ private:
     int state_ = 0;
     std::map<int, State> states_;
     /// By the states in which a text came in.
-    std::map<int, bool> cleaned_ = {{0, false}};
+    std::map<int, TextOrigin> origins_ = {{0, {}}};
 };

@@ -44,13 +44,13 @@ Int64 TextDocument::MarkedLines() const { return body_->Counts().marked; }
 
 void TextDocument::SetText(StringView text, std::span<const Int64> marks) { body_->Fill(text, marks); }
 
-void TextDocument::ReplaceText(StringView text, std::span<const Int64> marks, bool cleaned)
+void TextDocument::ReplaceText(StringView text, std::span<const Int64> marks, TextOrigin origin)
 {
     body_->Replace(text, marks);
-    body_->SetCleaned(cleaned);
+    body_->SetOrigin(origin);
 }
 
-bool TextDocument::Cleaned() const { return body_->Cleaned(); }
+TextOrigin TextDocument::Origin() const { return body_->Origin(); }
 
 bool TextDocument::Modified() const { return body_->isModified(); }
 
@@ -111,7 +111,7 @@ void TextDocument::Body::Fill(StringView text, std::span<const Int64> marks)
     clear();
     pairs_ = false;
     states_.clear();
-    cleaned_ = {{0, false}};
+    origins_ = {{0, {}}};
     setUndoRedoEnabled(false);
     Wrap(WrapModeFor(text));
     QTextCursor cursor(this);
@@ -139,7 +139,7 @@ void TextDocument::Body::Replace(StringView text, std::span<const Int64> marks)
     if (behind == 0 && first == common) --first;
 
     if (availableUndoSteps() > longestHistory) {
-        cleaned_ = {{0, Cleaned()}};
+        origins_ = {{0, Origin()}};
         setUndoRedoEnabled(false);
         setUndoRedoEnabled(true);
         states_.clear();
@@ -216,7 +216,7 @@ void TextDocument::Body::SetUnmodified()
 void TextDocument::Body::ForgetStatesToCome()
 {
     states_.erase(states_.upper_bound(state_), states_.end());
-    cleaned_.erase(cleaned_.upper_bound(state_), cleaned_.end());
+    origins_.erase(origins_.upper_bound(state_), origins_.end());
 }
 
 void TextDocument::Body::SetSaved()

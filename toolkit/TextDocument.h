@@ -16,6 +16,14 @@ struct TextColors {
     ColorGroup mark;
 };
 
+/// Where a text came from; it goes with the text, and what is made of that by edits, through the history.
+struct TextOrigin {
+    /// Characters were taken out of it.
+    bool cleaned = false;
+    /// In terms of the document's owner.
+    Int64 number = 0;
+};
+
 /// Characters that another text takes the place of.
 struct TextChange {
     Int64 start, length;
@@ -49,9 +57,9 @@ public:
     void SetText(StringView text, std::span<const Int64> marks = {});
     /// The same as one step that the user can take back; none when nothing changes. Only the lines from the first to
     /// the last that differ are replaced. What was there before goes from the history when it has become too long.
-    void ReplaceText(StringView text, std::span<const Int64> marks = {}, bool cleaned = false);
-    /// Whether the text that is there, or that it was edited from, came in as a cleaned one.
-    [[nodiscard]] bool Cleaned() const;
+    void ReplaceText(StringView text, std::span<const Int64> marks = {}, TextOrigin origin = {});
+    /// That of the text that is there, or that it was edited from.
+    [[nodiscard]] TextOrigin Origin() const;
 
     /// Whether the text is another than at each `SetUnmodified` that the history leads to, and at the last `SetSaved`.
     /// `SetText` is a `SetUnmodified`.

@@ -683,6 +683,10 @@ Rückgabewert: 0 alles stimmt überein, 1 etwas wurde gemeldet,
         <extracomment>The placeholder: the name of a file.</extracomment>
         <translation>„¿%“ würde zu lang und wird nicht geschrieben.</translation>
     </message>
+    <message id="Localisation.Txt_MemoireManque">
+        <source>La mémoire ne suffit pas pour ce traitement.</source>
+        <translation>Der Speicher reicht für diese Bearbeitung nicht aus.</translation>
+    </message>
     <message id="Localisation.Txt_DossierPlein">
         <source>“¿%” est un dossier. Ce qu'il contient sera supprimé avec lui. Nombre d'éléments : ¿%.</source>
         <extracomment>The placeholders: the name of a folder, and how many items are in it.</extracomment>
@@ -743,9 +747,9 @@ Rückgabewert: 0 alles stimmt überein, 1 etwas wurde gemeldet,
         <translation>Der Ordner „¿%“ ist nicht benutzbar (¿%): Die Einstellungen werden nicht behalten.</translation>
     </message>
     <message id="Localisation.Txt_PrefsNonReprises">
-        <source>Les réglages d'une version plus ancienne n'ont pas pu être repris de “¿%” : ¿%.</source>
+        <source>Les réglages d'une version plus ancienne n'ont pas pu être déplacés et servent là où ils sont, dans “¿%” : ¿%.</source>
         <extracomment>Told at the start. Placeholders: the place of an older version's settings, the reason.</extracomment>
-        <translation>Die Einstellungen einer älteren Version konnten nicht aus „¿%“ übernommen werden: ¿%.</translation>
+        <translation>Die Einstellungen einer älteren Version konnten nicht verschoben werden und werden dort benutzt, wo sie sind, in „¿%“: ¿%.</translation>
     </message>
     <message id="Localisation.Pref_ChBoxAffBtnSpecA">
         <source>Afficher bouton “Spécial A”</source>

@@ -683,6 +683,10 @@ Exit status: 0 all agrees, 1 something was reported,
         <extracomment>The placeholder: the name of a file.</extracomment>
         <translation>“¿%” would grow too long and is not written.</translation>
     </message>
+    <message id="Localisation.Txt_MemoireManque">
+        <source>La mémoire ne suffit pas pour ce traitement.</source>
+        <translation>There is not enough memory for this treatment.</translation>
+    </message>
     <message id="Localisation.Txt_DossierPlein">
         <source>“¿%” est un dossier. Ce qu'il contient sera supprimé avec lui. Nombre d'éléments : ¿%.</source>
         <extracomment>The placeholders: the name of a folder, and how many items are in it.</extracomment>
@@ -743,9 +747,9 @@ Exit status: 0 all agrees, 1 something was reported,
         <translation>The folder “¿%” cannot be used (¿%): the settings will not be kept.</translation>
     </message>
     <message id="Localisation.Txt_PrefsNonReprises">
-        <source>Les réglages d'une version plus ancienne n'ont pas pu être repris de “¿%” : ¿%.</source>
+        <source>Les réglages d'une version plus ancienne n'ont pas pu être déplacés et servent là où ils sont, dans “¿%” : ¿%.</source>
         <extracomment>Told at the start. Placeholders: the place of an older version's settings, the reason.</extracomment>
-        <translation>The settings of an older version could not be taken over from “¿%”: ¿%.</translation>
+        <translation>The settings of an older version could not be moved and are used where they are, in “¿%”: ¿%.</translation>
     </message>
     <message id="Localisation.Pref_ChBoxAffBtnSpecA">
         <source>Afficher bouton “Spécial A”</source>

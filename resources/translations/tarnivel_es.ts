@@ -683,6 +683,10 @@ Estado de salida: 0 todo concuerda, 1 se ha señalado algo,
         <extracomment>The placeholder: the name of a file.</extracomment>
         <translation>“¿%” sería demasiado largo y no se escribe.</translation>
     </message>
+    <message id="Localisation.Txt_MemoireManque">
+        <source>La mémoire ne suffit pas pour ce traitement.</source>
+        <translation>No hay memoria suficiente para este tratamiento.</translation>
+    </message>
     <message id="Localisation.Txt_DossierPlein">
         <source>“¿%” est un dossier. Ce qu'il contient sera supprimé avec lui. Nombre d'éléments : ¿%.</source>
         <extracomment>The placeholders: the name of a folder, and how many items are in it.</extracomment>
@@ -743,9 +747,9 @@ Estado de salida: 0 todo concuerda, 1 se ha señalado algo,
         <translation>La carpeta “¿%” no se puede usar (¿%): los ajustes no se conservarán.</translation>
     </message>
     <message id="Localisation.Txt_PrefsNonReprises">
-        <source>Les réglages d'une version plus ancienne n'ont pas pu être repris de “¿%” : ¿%.</source>
+        <source>Les réglages d'une version plus ancienne n'ont pas pu être déplacés et servent là où ils sont, dans “¿%” : ¿%.</source>
         <extracomment>Told at the start. Placeholders: the place of an older version's settings, the reason.</extracomment>
-        <translation>Los ajustes de una versión anterior no se han podido recuperar de “¿%”: ¿%.</translation>
+        <translation>Los ajustes de una versión anterior no se han podido mover y se usan donde están, en “¿%”: ¿%.</translation>
     </message>
     <message id="Localisation.Pref_ChBoxAffBtnSpecA">
         <source>Afficher bouton “Spécial A”</source>

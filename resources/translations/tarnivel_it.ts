@@ -683,6 +683,10 @@ Stato di uscita: 0 tutto concorda, 1 qualcosa è stato segnalato,
         <extracomment>The placeholder: the name of a file.</extracomment>
         <translation>“¿%” diventerebbe troppo lungo e non viene scritto.</translation>
     </message>
+    <message id="Localisation.Txt_MemoireManque">
+        <source>La mémoire ne suffit pas pour ce traitement.</source>
+        <translation>La memoria non basta per questo trattamento.</translation>
+    </message>
     <message id="Localisation.Txt_DossierPlein">
         <source>“¿%” est un dossier. Ce qu'il contient sera supprimé avec lui. Nombre d'éléments : ¿%.</source>
         <extracomment>The placeholders: the name of a folder, and how many items are in it.</extracomment>
@@ -743,9 +747,9 @@ Stato di uscita: 0 tutto concorda, 1 qualcosa è stato segnalato,
         <translation>La cartella “¿%” non è utilizzabile (¿%): le impostazioni non saranno conservate.</translation>
     </message>
     <message id="Localisation.Txt_PrefsNonReprises">
-        <source>Les réglages d'une version plus ancienne n'ont pas pu être repris de “¿%” : ¿%.</source>
+        <source>Les réglages d'une version plus ancienne n'ont pas pu être déplacés et servent là où ils sont, dans “¿%” : ¿%.</source>
         <extracomment>Told at the start. Placeholders: the place of an older version's settings, the reason.</extracomment>
-        <translation>Non è stato possibile riprendere le impostazioni di una versione precedente da “¿%”: ¿%.</translation>
+        <translation>Le impostazioni di una versione precedente non sono state spostate e si usano dove sono, in “¿%”: ¿%.</translation>
     </message>
     <message id="Localisation.Pref_ChBoxAffBtnSpecA">
         <source>Afficher bouton “Spécial A”</source>

@@ -683,6 +683,10 @@ Afsluitstatus: 0 alles stemt overeen, 1 er is iets gemeld,
         <extracomment>The placeholder: the name of a file.</extracomment>
         <translation>“¿%” zou te lang worden en wordt niet geschreven.</translation>
     </message>
+    <message id="Localisation.Txt_MemoireManque">
+        <source>La mémoire ne suffit pas pour ce traitement.</source>
+        <translation>Er is niet genoeg geheugen voor deze bewerking.</translation>
+    </message>
     <message id="Localisation.Txt_DossierPlein">
         <source>“¿%” est un dossier. Ce qu'il contient sera supprimé avec lui. Nombre d'éléments : ¿%.</source>
         <extracomment>The placeholders: the name of a folder, and how many items are in it.</extracomment>
@@ -743,9 +747,9 @@ Afsluitstatus: 0 alles stemt overeen, 1 er is iets gemeld,
         <translation>De map “¿%” is niet bruikbaar (¿%): de instellingen worden niet bewaard.</translation>
     </message>
     <message id="Localisation.Txt_PrefsNonReprises">
-        <source>Les réglages d'une version plus ancienne n'ont pas pu être repris de “¿%” : ¿%.</source>
+        <source>Les réglages d'une version plus ancienne n'ont pas pu être déplacés et servent là où ils sont, dans “¿%” : ¿%.</source>
         <extracomment>Told at the start. Placeholders: the place of an older version's settings, the reason.</extracomment>
-        <translation>De instellingen van een oudere versie konden niet worden overgenomen uit “¿%”: ¿%.</translation>
+        <translation>De instellingen van een oudere versie konden niet worden verplaatst en worden gebruikt waar ze zijn, in “¿%”: ¿%.</translation>
     </message>
     <message id="Localisation.Pref_ChBoxAffBtnSpecA">
         <source>Afficher bouton “Spécial A”</source>

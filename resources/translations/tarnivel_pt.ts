@@ -683,6 +683,10 @@ Estado de saída: 0 tudo coincide, 1 algo foi assinalado,
         <extracomment>The placeholder: the name of a file.</extracomment>
         <translation>“¿%” ficaria demasiado longo e não é escrito.</translation>
     </message>
+    <message id="Localisation.Txt_MemoireManque">
+        <source>La mémoire ne suffit pas pour ce traitement.</source>
+        <translation>Não há memória suficiente para este tratamento.</translation>
+    </message>
     <message id="Localisation.Txt_DossierPlein">
         <source>“¿%” est un dossier. Ce qu'il contient sera supprimé avec lui. Nombre d'éléments : ¿%.</source>
         <extracomment>The placeholders: the name of a folder, and how many items are in it.</extracomment>
@@ -743,9 +747,9 @@ Estado de saída: 0 tudo coincide, 1 algo foi assinalado,
         <translation>A pasta “¿%” não pode ser usada (¿%): as definições não serão mantidas.</translation>
     </message>
     <message id="Localisation.Txt_PrefsNonReprises">
-        <source>Les réglages d'une version plus ancienne n'ont pas pu être repris de “¿%” : ¿%.</source>
+        <source>Les réglages d'une version plus ancienne n'ont pas pu être déplacés et servent là où ils sont, dans “¿%” : ¿%.</source>
         <extracomment>Told at the start. Placeholders: the place of an older version's settings, the reason.</extracomment>
-        <translation>Não foi possível retomar as definições de uma versão anterior de “¿%”: ¿%.</translation>
+        <translation>As definições de uma versão anterior não puderam ser movidas e são usadas onde estão, em “¿%”: ¿%.</translation>
     </message>
     <message id="Localisation.Pref_ChBoxAffBtnSpecA">
         <source>Afficher bouton “Spécial A”</source>

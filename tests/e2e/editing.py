@@ -68,7 +68,10 @@ def check_views(program, area, text):
     return area
 
 
-def check_run_is_taken_back(program, area, edited):
+def check_run_is_taken_back(program, files, area, edited):
+    """What was there before was made from what the file held then; a save asks."""
+    with files.source_file.open("a") as source:
+        source.write(ENABLED + "Custom Scenery/Later/\n")
     orange = orange_lines(program, area)
     program.run()
     area = program.find("text", "Spack Après")
@@ -79,6 +82,11 @@ def check_run_is_taken_back(program, area, edited):
     program.keys("ctrl+z")
     program.wait_for("the text before the run", lambda: program.text(area) == edited)
     assert orange_lines(program, area) == orange
+    program.keys("ctrl+s")
+    program.answer("Sauv fichier")
+    (question,) = program.answer("Annuler")
+    assert "a changé sur le disque" in question, question
+    program.focus(area)
     program.keys("ctrl+y")
     program.wait_for("the result", lambda: program.text(area) == made)
 
@@ -120,7 +128,7 @@ def main(command):
         edited = check_toggle(program, area)
         area = check_views(program, area, edited)
         check_typing(program, area)
-        check_run_is_taken_back(program, area, edited)
+        check_run_is_taken_back(program, files, area, edited)
         check_failed_run(program, files)
         assert (program.close(), program.stderr()) == (0, "")
 

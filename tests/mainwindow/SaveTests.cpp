@@ -120,6 +120,18 @@ TEST_F(Saving, EachViewGoesToItsFileAsItWasRead)
     EXPECT_EQ(probe.Asked.size(), 1U) << "nothing is there to be lost";
 }
 
+TEST_F(Saving, AChangeWhileItAsksIsAskedAboutToo)
+{
+    Choose(window->TextFieldArchiv, "/proc"); // where nothing can be copied to
+    probe.WhileAsking = [&] {
+        if (BeginsWith(probe.Asked.back(), copyFailed)) folder.File(target, "later");
+    };
+    probe.Answers = {1, 3};
+    window->BtnSave_Pressed();
+    EXPECT_EQ(probe.Asked.back(), Changed(target));
+    EXPECT_EQ(folder.Content(target), "later");
+}
+
 TEST_F(Saving, ATextThatLostCharactersIsAskedAboutWhereverTheyWent)
 {
     const std::string good = header + "SCENERY_PACK d'été/\n"s,

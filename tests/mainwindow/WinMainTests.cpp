@@ -53,7 +53,9 @@ TEST_F(MainWindow, ARunDisablesTheOtherWindowToo)
     EXPECT_EQ(probe.Asked.size(), 1U) << "a question, and nothing of a window without a cover";
     for (const bool idle : {false, true}) {
         App::Current().EnableMenuBoutons(idle);
-        EXPECT_TRUE(special.TextFieldDest1.Enabled() == idle && special.PushButtTrait.Enabled() == idle) << idle;
+        EXPECT_TRUE(special.TextFieldDest1.Enabled() == idle && special.PushButtTrait.Enabled() == idle &&
+                    window->SegButtSpecA.Enabled() == idle)
+            << idle;
     }
 }
 

@@ -103,6 +103,7 @@ TEST_F(SpecialA, WritesWhatTheAnswersAllow)
         SCOPED_TRACE(row.name);
         std::filesystem::remove_all(in);
         const auto original = folder.File(in / "original.txt", "x A");
+        std::filesystem::permissions(original, std::filesystem::perms{0640});
         folder.File(in / "taken", "old");
         folder.File(folder.Path() / "two", "outside");
         folder.File(in / "full/inner", "kept");
@@ -122,6 +123,7 @@ TEST_F(SpecialA, WritesWhatTheAnswersAllow)
         EXPECT_EQ(folder.Content(in / "taken") + folder.Content("two"), "oldoutside");
         EXPECT_EQ(folder.Content(in / "full/inner").empty(), row.sounds == 2 && row.dest1 == U"full");
         EXPECT_EQ(std::ssize(probe.Sounds), row.sounds);
+        EXPECT_EQ(std::filesystem::status(original).permissions(), std::filesystem::perms{0640});
         EXPECT_EQ(std::exchange(probe.Beeps, 0), std::ranges::count_if(row.more, [&](const String& told) {
                       return told.starts_with(failed) || told == unchanged;
                   }));
@@ -129,6 +131,13 @@ TEST_F(SpecialA, WritesWhatTheAnswersAllow)
     }
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(in), {}), 5) << "nothing is left over";
     EXPECT_EQ(Said(), U"Écrit : full, alias, dans " + FolderItem(in).NativePath() + U".");
+    probe.WhileAsking = [&] { folder.File(in / "original.txt", "later"); };
+    window->TextFieldDest1.SetText(U"original.txt");
+    window->TextFieldDest2.SetText(U"");
+    probe.Answers = {1, 3, 3};
+    window->PushButtTrait_Pressed();
+    EXPECT_TRUE(Asked().back().ends_with(U"fera perdre ces changements.[Ne pas remplacer][Remplacer]"));
+    EXPECT_EQ(folder.Content(in / "original.txt"), "later");
 }
 
 TEST_F(SpecialA, AnOriginalThatLostCharactersIsAskedAbout)

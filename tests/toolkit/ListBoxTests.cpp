@@ -134,6 +134,10 @@ TEST_F(ListBoxTest, GoesToWhatChanges)
     table.EditCell(0, 0);
     Press({"End", "'y", "Return"});
     EXPECT_EQ(table.Rows()[0][0].size(), 40'001U);
+    table.EditCell(0, 1);
+    Press({"'z"});
+    table.InsertRows(1, {CellRow(3)});
+    EXPECT_EQ(table.Rows()[0][1], U"z") << "what is typed stays when a screen reader presses a button";
 }
 
 TEST_F(ListBoxTest, TheMenuIsGreyWhereAKeyDoesNothing)

@@ -62,7 +62,7 @@ TEST_F(Documents, ModifiedIsWhatAHandHasMade)
     bool shown = true;
     document.ModifiedChanged = [&] { shown = document.Modified(); };
     const auto replaceBy = [&](StringView text, bool cleaned = false) {
-        document.ReplaceText(text, {}, cleaned);
+        document.ReplaceText(text, {}, {cleaned});
         document.SetUnmodified();
     };
     const struct {
@@ -89,7 +89,7 @@ TEST_F(Documents, ModifiedIsWhatAHandHasMade)
         step.act();
         EXPECT_EQ(document.Text(), step.text) << step.name;
         EXPECT_EQ(document.Modified(), step.modified) << step.name;
-        EXPECT_EQ(document.Cleaned(), step.cleaned) << step.name;
+        EXPECT_EQ(document.Origin().cleaned, step.cleaned) << step.name;
         EXPECT_EQ(shown, step.modified) << step.name;
     }
 }

@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 
 namespace {
 
@@ -66,12 +67,21 @@ TEST(TextOutputStream, ReplacesAFileWhenItIsClosed)
     const FolderItem file(folder.File("file", "old"));
     TextOutputStream(file).Write("given up");
     EXPECT_EQ(folder.Content("file"), "old");
+    TextOutputStream(FolderItem(folder.Path() / "none")).Write("given up");
+    // The owner, user 7, the group, the mask, others.
+    const char list[] = "\2\0\0\0\1\0\6\0\xFF\xFF\xFF\xFF\2\0\6\0\7\0\0\0\4\0\0\0\xFF\xFF\xFF\xFF\x10\0\6\0\xFF\xFF"
+                        "\xFF\xFF\x20\0\0\0\xFF\xFF\xFF\xFF";
+    constexpr const char* name = "system.posix_acl_access";
+    const bool hasLists = setxattr(file.Path().c_str(), name, list, sizeof(list) - 1, 0) == 0;
     TextOutputStream stream(file);
     stream.Write("new");
     stream.Close();
     file.CopyTo(FolderItem(folder.Path() / "copy"));
     EXPECT_EQ(folder.Content("file") + folder.Content("copy"), "newnew");
     EXPECT_EQ(FolderItem(folder.Path()).Children().size(), 2U) << "something is left over";
+    for (const char* kept : {"file", "copy"})
+        EXPECT_TRUE(!hasLists || getxattr((folder.Path() / kept).c_str(), name, nullptr, 0) == sizeof(list) - 1)
+            << kept;
 }
 
 } // namespace

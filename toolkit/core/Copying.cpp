@@ -15,7 +15,7 @@ void FolderItem::CopyTo(const FolderItem& copy) const
     Descriptor to(::open(copy.path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, status.st_mode & ACCESSPERMS));
     Check(to.number >= 0);
     try {
-        Check(::fchmod(to.number, status.st_mode & ACCESSPERMS) == 0); // the process's mask takes none away
+        CopyPermissions(path_.c_str(), to.number);
         WriteAll(to.number, content);
         Check(::fsync(to.number) == 0);
         Check(::close(std::exchange(to.number, -1)) == 0);

@@ -2,7 +2,12 @@
 
 #include "toolkit/core/Exceptions.h"
 
+#include <array>
 #include <cerrno>
+#include <sys/stat.h>
+#ifdef __linux__
+#include <sys/xattr.h>
+#endif
 #include <unistd.h>
 
 void Check(bool done)
@@ -18,6 +23,21 @@ void WriteAll(int descriptor, std::string_view data)
         Check(count >= 0);
         data.remove_prefix(static_cast<std::size_t>(count));
     }
+}
+
+void CopyPermissions(const char* from, int to)
+{
+    struct stat status = {};
+    Check(::stat(from, &status) == 0);
+    Check(::fchmod(to, status.st_mode & ACCESSPERMS) == 0); // the process's mask takes none away
+#ifdef __linux__
+    constexpr const char* list = "system.posix_acl_access";
+    std::array<char, 4096> rights;
+    const ssize_t size = ::getxattr(from, list, rights.data(), rights.size());
+    // Without its list the group would have what is the most that the list gives to anybody.
+    if (size > 0 && ::fsetxattr(to, list, rights.data(), static_cast<std::size_t>(size), 0) != 0)
+        Check(::fchmod(to, status.st_mode & ACCESSPERMS & ~S_IRWXG) == 0);
+#endif
 }
 
 Descriptor::~Descriptor()

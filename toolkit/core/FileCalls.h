@@ -9,6 +9,10 @@ void Check(bool done);
 /// Writes all bytes to an open file. Raises IOException.
 void WriteAll(int descriptor, std::string_view data);
 
+/// Gives an open file the permissions of another one: its mode, and its list of access rights where it has one and the
+/// file system of the new one knows those. Raises IOException.
+void CopyPermissions(const char* from, int to);
+
 /// An open file, closed when this goes; below 0 none.
 struct Descriptor {
     int number;

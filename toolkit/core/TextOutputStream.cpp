@@ -28,10 +28,12 @@ TextOutputStream::TextOutputStream(const FolderItem& file)
     if (!isThere) return;
     // Others' files can't be given back to them by everybody.
     if (fchown(descriptor_, old.st_uid, old.st_gid) != 0) std::ignore = fchown(descriptor_, getuid(), old.st_gid);
-    if (fchmod(descriptor_, old.st_mode & ACCESSPERMS) == 0) return;
-    const int error = errno;
-    Discard();
-    throw SystemError(error);
+    try {
+        CopyPermissions(target_.c_str(), descriptor_);
+    } catch (...) {
+        Discard();
+        throw;
+    }
 }
 
 TextOutputStream::~TextOutputStream()
