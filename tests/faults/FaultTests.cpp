@@ -80,7 +80,7 @@ TEST_F(Faults, OfASaveAreToldAndLeaveTheOldFileInOnePlaceOrTheOther)
     for (const int answer : {3, 1}) {
         SCOPED_TRACE(answer == 3 ? "goes on without archive" : "gives up without archive");
         const auto act = [&] {
-            probe.Answers = {1, answer};
+            probe.Answers = {1, answer, answer};
             window->BtnSave_Pressed();
         };
         ForEachFault(act, [&](bool forGood) {
