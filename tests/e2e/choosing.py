@@ -13,6 +13,7 @@ def path_form(path):
 
 def press_beside(program, name):
     """Presses the select button in the row of a field; the field."""
+    program.wait_for("an active window", lambda: has(program.window(), "active"))
     buttons = program.all("push button")
     program.act(next(button for button in buttons if button.get_name().endswith(f", {name}")))
     return program.find("text", name)

@@ -35,6 +35,7 @@ def check_locks(program):
     """What moves and what grows with the window, which ends at that place and size."""
     program.move(140, 90, 752, 493)
     nodes = {f"{n.get_role_name()} {n.get_name()}": n for n in program.all() if has(n, "focusable") or n.get_name() == SPACK}
+    assert all(node.get_name() for node in nodes.values()), nodes.keys()
     before, after = {name: program.extents(node) for name, node in nodes.items()}, collections.defaultdict(set)
     program.move(140, 90, 812, 533)
     for name, node in nodes.items():

@@ -6,8 +6,6 @@ import subprocess
 import sys
 import tempfile
 
-from desktop import Program, private_environment
-
 TOOLS = pathlib.Path(__file__).parent.parent.parent / "tools"
 ENABLED, DISABLED = "SCENERY_PACK ", "SCENERY_PACK_DISABLED "
 
@@ -66,12 +64,3 @@ def packs(lines):
 def sample():
     with tempfile.TemporaryDirectory() as folder:
         yield Sample(pathlib.Path(folder))
-
-
-@contextlib.contextmanager
-def result(command):
-    """The files, the program after a run of them, and the text that it shows."""
-    with sample() as files, Program([command], private_environment(files.home)) as program:
-        program.front = "Tarnivel"
-        program.run()
-        yield files, program, program.find("text", "Spack Après")

@@ -97,6 +97,8 @@ def check_search(editor):
     assert program.selection(area) == places[0]
     program.press("Chercher")
     program.wait_for("no selection", lambda: program.selection(area) == (0, 0))
+    program.press("Effacer")
+    program.wait_for("an empty field", lambda: program.text(field) == "")
 
 
 def check_wrapped_search(editor):
