@@ -11,7 +11,8 @@ constexpr char32_t lastAscii = 0x7F;
 constexpr char beyondAscii = '\xFF';
 
 /// The folded texts in few bytes, one behind the other, so that many fit into the processor's caches. Their order is
-/// that of the folded characters. An ASCII character takes one byte, any other five.
+/// that of the folded characters. An ASCII character takes one byte, any other five. A text each, as a string of bytes
+/// or of characters, makes a run of 100,000 lines take three times as long: more than sorting both texts.
 class FoldedTexts {
 public:
     explicit FoldedTexts(std::span<const StringView> texts);

@@ -13,8 +13,9 @@ void BeepNbT(Int16 count);
 /// Waits so many ticks, in which the program repaints and its timers fire.
 void Pause(std::uint16_t ticks);
 
-/// Plays a sound without waiting for its end, over itself where it plays already. Null plays nothing. So many sounds in
-/// a short time that they would pile up are dropped; see SoundThrottle.
+/// Plays a sound without waiting for its end, over itself where it plays already. Null plays nothing. Dropped are so
+/// many in a short time that they would pile up (see SoundThrottle), and one that a sound server keeps waiting for 2
+/// seconds.
 void PlayT(const Sound* sound);
 
 /// Sets the volume, 0 to 100 percent, of the five sounds and of the beep.

@@ -51,14 +51,15 @@ protected:
         if (enter) Tidy();
         if (enter && owner_.Entered) return owner_.Entered();
         if (escape && owner_.Escaped) return owner_.Escaped();
-        if (event->matches(QKeySequence::Paste) && Paste(QGuiApplication::clipboard()->mimeData())) return;
+        const bool ofSelection = event->keyCombination() == (Qt::CTRL | Qt::SHIFT | Qt::Key_Insert);
+        const auto source = ofSelection ? QClipboard::Selection : QClipboard::Clipboard;
+        if (event->matches(QKeySequence::Paste) && Paste(source)) return;
         QLineEdit::keyPressEvent(event);
     }
 
     void mouseReleaseEvent(QMouseEvent* event) override
     {
-        const bool pastes = event->button() == Qt::MiddleButton && QGuiApplication::clipboard()->supportsSelection();
-        if (pastes && Paste(QGuiApplication::clipboard()->mimeData(QClipboard::Selection))) return;
+        if (event->button() == Qt::MiddleButton && Paste(QClipboard::Selection)) return;
         QLineEdit::mouseReleaseEvent(event);
     }
 
@@ -123,8 +124,9 @@ private:
     }
 
     /// Puts in what stands for a pasted text; false where that is for Qt to do.
-    bool Paste(const QMimeData* pasted)
+    bool Paste(QClipboard::Mode source)
     {
+        const QMimeData* const pasted = QGuiApplication::clipboard()->mimeData(source);
         if (!owner_.Tidied || isReadOnly() || !pasted || pasted->urls().size() > 1) return false;
         const QString text = pasted->hasUrls() ? pasted->urls().constFirst().toString() : pasted->text();
         const QString tidy = TidyOf(text);

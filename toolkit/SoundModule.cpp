@@ -2,6 +2,7 @@
 // platform's sound system cost more at the start of the program than all the rest of the layer.
 #include <QAudioDevice>
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QMediaDevices>
 #include <QSoundEffect>
 #include <QThread>
@@ -21,17 +22,13 @@ QObject* MakeStage()
         if (thread->wait(std::chrono::milliseconds(500))) delete thread;
     });
     thread->start();
+    // A computer without sound is no fault: what the sound system says about it, in this thread, isn't worth a line.
+    static const QThread* const silent = thread;
+    static const QtMessageHandler usual =
+        qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& context, const QString& message) {
+            if (QThread::currentThread() != silent) usual(type, context, message);
+        });
     return stage;
-}
-
-/// The device that sounds go to at this moment; null where there is none.
-QAudioDevice Device()
-{
-    // A computer without sound is no fault, so that what the sound system says about it isn't worth a line.
-    const QtMessageHandler usual = qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-    QAudioDevice device = QMediaDevices::defaultAudioOutput();
-    qInstallMessageHandler(usual);
-    return device;
 }
 
 } // namespace
@@ -42,9 +39,11 @@ extern "C" Q_DECL_EXPORT void PlaySound(const QUrl& file, float volume);
 void PlaySound(const QUrl& file, float volume)
 {
     static QObject* const stage = MakeStage();
-    QMetaObject::invokeMethod(stage, [file, volume] {
-        const QAudioDevice device = Device();
-        if (device.isNull()) return;
+    // Sounds that waited for a sound server to answer would come all at once.
+    const QDeadlineTimer late(std::chrono::seconds(2));
+    QMetaObject::invokeMethod(stage, [file, volume, late] {
+        const QAudioDevice device = QMediaDevices::defaultAudioOutput();
+        if (device.isNull() || late.hasExpired()) return;
         auto* const effect = new QSoundEffect(device, stage);
         QObject::connect(effect, &QSoundEffect::playingChanged, effect, [effect] {
             if (!effect->isPlaying()) effect->deleteLater();

@@ -18,42 +18,37 @@ static void Break(const QUrl& url)
     for (int socket = 0; socket < FD_SETSIZE; ++socket) {
         sockaddr_in6 peer{}; // IPv4 has its port at the same place
         socklen_t size = sizeof peer;
-        if (getpeername(socket, reinterpret_cast<sockaddr*>(&peer), &size) != 0 || peer.sin6_family == AF_UNIX ||
-            peer.sin6_port != htons(port))
-            continue;
-        const sockaddr none{.sa_family = AF_UNSPEC, .sa_data = {}};
-        (void)connect(socket, &none, sizeof none);
+        const bool isThere = getpeername(socket, reinterpret_cast<sockaddr*>(&peer), &size) == 0;
+        if (isThere && peer.sin6_family != AF_UNIX && peer.sin6_port == htons(port)) shutdown(socket, SHUT_RDWR);
     }
 }
 
 URLConnection::URLConnection() = default;
 URLConnection::~URLConnection() { Disconnect(); }
 
-void URLConnection::Send(StringView method, StringView url, int timeout)
+void URLConnection::Send(StringView url, int timeout)
 {
     QNetworkRequest request(QUrl(ToQt(url).trimmed()));
     request.setRawHeader("User-Agent", "Tarnivel");
     // Of a connection that lives on, Qt now and then loses the answer to a redirection.
     request.setRawHeader("Connection", "close");
     request.setRawHeader("Accept-Encoding", "identity"); // of what it unpacks, Qt tells no length
-    Ask(request, ToQt(method).toUpper().toLatin1(), std::chrono::seconds(timeout));
+    Ask(request, QDeadlineTimer(std::chrono::seconds(timeout)));
 }
 
-void URLConnection::Ask(const QNetworkRequest& request, const QByteArray& method, std::chrono::milliseconds time)
+void URLConnection::Ask(const QNetworkRequest& request, const QDeadlineTimer& end)
 {
     Disconnect();
     if (!manager_) manager_ = std::make_unique<QNetworkAccessManager>();
-    QNetworkReply* const reply = reply_ = manager_->sendCustomRequest(request, method);
+    QNetworkReply* const reply = reply_ = manager_->sendCustomRequest(request, "GET"); // HTTP alone, no file
     reply->setReadBufferSize(2 * MaximumSize);
-    if (!AllowCertificateValidation) reply->ignoreSslErrors();
-    const QDeadlineTimer end(time);
-    const auto read = [this, reply, method, end] {
-        if (reply == reply_ && (reply->isFinished() || reply->bytesAvailable() > MaximumSize))
-            Read(*reply, method, std::chrono::milliseconds(end.remainingTime()));
+    reply->ignoreSslErrors();
+    const auto read = [this, reply, end] {
+        if (reply == reply_ && (reply->isFinished() || reply->bytesAvailable() > MaximumSize)) Read(end);
     };
     QObject::connect(reply, &QNetworkReply::readyRead, reply, read);
     QObject::connect(reply, &QNetworkReply::finished, reply, read);
-    QTimer::singleShot(time, reply, [this, reply] {
+    QTimer::singleShot(std::chrono::milliseconds(end.remainingTime()), reply, [this, reply] {
         if (reply == reply_) Fail(TooLate, U"No whole answer in time");
     });
 }
@@ -68,12 +63,13 @@ void URLConnection::Disconnect()
     reply->deleteLater();
 }
 
-void URLConnection::Read(QNetworkReply& reply, const QByteArray& method, std::chrono::milliseconds time)
+void URLConnection::Read(const QDeadlineTimer& end)
 {
+    QNetworkReply& reply = *reply_;
     QNetworkRequest request = reply.request();
     if (reply.hasRawHeader("Content-Encoding") && request.hasRawHeader("Accept-Encoding")) {
         request.setRawHeader("Accept-Encoding", {}); // packed all the same: once more, for Qt to unpack it
-        return Ask(request, method, time);
+        return Ask(request, end);
     }
     const Bytes content = reply.read(MaximumSize + 1).toStdString();
     const Int64 lines = std::max(std::ranges::count(content, '\n'), std::ranges::count(content, '\r'));

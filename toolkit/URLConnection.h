@@ -4,11 +4,10 @@
 #include "toolkit/core/Exceptions.h"
 #include "toolkit/core/TextEncoding.h"
 
-#include <chrono>
 #include <functional>
 #include <memory>
 
-class QByteArray;
+class QDeadlineTimer;
 class QNetworkAccessManager;
 class QNetworkReply;
 class QNetworkRequest;
@@ -18,16 +17,13 @@ class URLConnection {
 public:
     URLConnection();
     ~URLConnection();
-    /// `timeout` is in seconds for the whole exchange; 50 redirects are followed, from a safe address to safe ones
-    /// only.
-    void Send(StringView method, StringView url, int timeout);
+    /// Gets a page. `timeout` is in seconds for the whole exchange; 50 redirects are followed, from a safe address to
+    /// safe ones only. Every certificate is accepted, self-signed ones included.
+    void Send(StringView url, int timeout);
     void Disconnect();
 
-    /// False accepts every certificate, self-signed ones included.
-    bool AllowCertificateValidation = true;
-    /// The whole answer of the server, an error page included. Nothing tells the end of one that was sent without its
-    /// length from a break. Nor of one that came packed, though unpacked was asked for; one in pieces that broke off
-    /// passed in 4 of 60 tries.
+    /// The whole answer of the server, an error page included. Nothing tells a break from the end of one that was sent
+    /// without its length or packed, though unpacked was asked for; one in pieces passed in 4 of 60 tries.
     std::function<void(const String& url, Int64 httpStatus, const Bytes& content)> ContentReceived;
     /// No answer, one that broke off, or one beyond the limits; the number is Qt's (`QNetworkReply::NetworkError`).
     std::function<void(const RuntimeException& error)> Error;
@@ -38,8 +34,8 @@ public:
     static constexpr Int64 MaximumSize = Int64{8} << 20, MaximumLines = 250'000;
 
 private:
-    void Ask(const QNetworkRequest& request, const QByteArray& method, std::chrono::milliseconds time);
-    void Read(QNetworkReply& reply, const QByteArray& method, std::chrono::milliseconds time);
+    void Ask(const QNetworkRequest& request, const QDeadlineTimer& end);
+    void Read(const QDeadlineTimer& end);
     void Fail(Int64 number, const String& message);
     std::unique_ptr<QNetworkAccessManager> manager_; // from the first fetch on
     QNetworkReply* reply_ = nullptr;

@@ -37,7 +37,8 @@ def sound_server(home):
 class Recorder:
     def __init__(self, server):
         self.file = tempfile.NamedTemporaryFile()
-        form = ["--raw", "--latency-msec=50", f"--rate={RATE}", "--channels=1", "--format=s16le"]
+        # With a longer latency the recording misses as much of the start of a sound.
+        form = ["--raw", "--latency-msec=4", f"--rate={RATE}", "--channels=1", "--format=s16le"]
         command = ["parec", "--device=silent.monitor", *form]
         self.process = subprocess.Popen(command, env=os.environ | server, stdout=self.file)
         wait_for("a recording", self.size, self.process.poll)
@@ -46,8 +47,8 @@ class Recorder:
         return os.stat(self.file.name).st_size // 2 * 2
 
     def record(self, play):
-        """What is heard of a sound. On a busy machine the sound server loses a short one at times; it is then played again."""
-        return next((heard for heard in (self.listen(play) for _ in range(5)) if heard), 0)
+        """What is heard of a sound. On a busy machine the sound server loses a short one at times; it is then played once more."""
+        return next((heard for heard in (self.listen(play) for _ in range(2)) if heard), 0)
 
     def listen(self, play):
         """The root of the sum of the squares of what is heard from `play` on."""
