@@ -1,24 +1,19 @@
 #include "app/App.h"
 #include "app/WinAide.h"
 #include "localisation/Localisation.h"
-#include "support/Fncts.h"
 #include "toolkit/Probe.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-class Help : public testing::Test {
-protected:
-    char program[8] = "tests", *argv[2] = {program, nullptr};
-    int argc = 1;
-    App app{argc, argv};
-    Probe probe;
-    WinAide window;
-};
-
-TEST_F(Help, LinksAreFollowed)
+TEST(Help, ItsLinksAreFollowed)
 {
+    char program[] = "tests", *argv[] = {program, nullptr};
+    int argc = 1;
+    const App app{argc, argv};
+    const Probe probe;
+    const WinAide window;
     window.Web2.Pressed();
     window.Email2.Pressed();
     ASSERT_EQ(probe.Links.size(), 2U);
@@ -27,23 +22,6 @@ TEST_F(Help, LinksAreFollowed)
         U"mailto:contact%40tarnivel.example?Subject=A%20propos%20de%20Tarnivel%20v.1.1.3%20"));
     EXPECT_TRUE(probe.Links[1].ends_with(U"%C2%A0UTC"));
     EXPECT_TRUE(window.TexteInfo.Text().starts_with(Localisation::Infos_Texte()));
-}
-
-TEST_F(Help, ItsButtonAloneClosesIt)
-{
-    for (const bool before : {true, false}) {
-        Fncts::DrapMenu = before;
-        probe.Beeps = 0;
-        window.Show();
-        EXPECT_FALSE(Fncts::DrapMenu);
-        window.Close();
-        EXPECT_TRUE(window.CancelClosing(true));
-        EXPECT_TRUE(window.Visible());
-        EXPECT_EQ(probe.Beeps, 2);
-        window.BoutonOk_Pressed();
-        EXPECT_FALSE(window.Visible());
-        EXPECT_EQ(Fncts::DrapMenu, before);
-    }
 }
 
 } // namespace

@@ -78,7 +78,7 @@ TEST_F(ControlTest, CodeFiresNoEvents)
     DesktopSegmentedButton segment(window, {0, 30, 100, 24}, U"Segment");
     std::vector<int> events;
     popup.SelectionChanged = [&] { events.push_back(popup.SelectedRowIndex()); };
-    segment.Pressed = [&](int index) { events.push_back(10 + index + (segment.Selected(index) ? 1 : 0)); };
+    segment.Pressed = [&](int index) { events.push_back(index); };
     ShowActive(window);
 
     popup.SetSelectedRowIndex(0);
@@ -88,10 +88,6 @@ TEST_F(ControlTest, CodeFiresNoEvents)
     for (const auto key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_Up})
         QTest::keyClick(&WidgetOf(popup), key);
     EXPECT_EQ(events, (std::vector{1, 0})) << "the key that changes no row fires nothing";
-    events.clear();
-    QTest::mouseClick(&WidgetOf(segment), Qt::LeftButton);
-    QTest::keyClick(&WidgetOf(segment), Qt::Key_Space);
-    EXPECT_EQ(events, (std::vector{10, 11})) << "the segment comes up, then goes down";
 }
 
 TEST_F(ControlTest, ALinkIsPressedByMouseKeysAndAScreenReader)

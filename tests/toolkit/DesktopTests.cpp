@@ -1,16 +1,11 @@
 #include "toolkit/Desktop.h"
-#include "toolkit/Probe.h"
-#include "toolkit/Sound.h"
-#include "toolkit/Timer.h"
 
 #include <QDesktopServices>
-#include <QTest>
+#include <QObject>
 #include <QUrl>
 #include <gtest/gtest.h>
 
 namespace {
-
-using namespace std::string_literals;
 
 /// What the desktop is asked to open.
 class Opened : public QObject {
@@ -31,21 +26,6 @@ TEST(Desktop, OpensLinksAndItems)
     OpenItem(FolderItem("/tmp/100% Alpes"));
     EXPECT_EQ(opened.urls, (QStringList{"http://example.invalid/a%20b?c=d&e#f", "mailto:somebody@example.invalid",
                                         "file:///tmp/100%25%20Alpes"}));
-}
-
-TEST(Timer, FiresOnceUnlessItIsOff)
-{
-    Timer timer(1), later(20);
-    int shots = 0, ends = 0;
-    timer.Action = [&] { ++shots; };
-    later.Action = [&] { ++ends; };
-    for (const auto mode : {Timer::RunModes::Single, Timer::RunModes::Off}) {
-        timer.SetRunMode(Timer::RunModes::Single);
-        timer.SetRunMode(mode);
-        later.SetRunMode(Timer::RunModes::Single);
-        EXPECT_TRUE(QTest::qWaitFor([&, before = ends] { return ends > before; }));
-        EXPECT_EQ(shots, 1);
-    }
 }
 
 } // namespace

@@ -90,7 +90,6 @@ TEST_F(ListBoxTest, TheKeysChangeTheTable)
         {"Tab goes on, behind the last cell to a new row", 1, 1, {"'x", "Tab", "'y", "Tab", "'z", "Tab"}, U"a|b|c/d|x|y/z||"},
         {"Shift+Tab goes back, in the first cell it stays", 0, 1, {"'x", "Shift+Backtab", "'y", "Shift+Backtab", "'z", "Return"}, U"z|x|c/d|e|"},
         {"Enter goes down, behind a row that isn't empty to a new one", 0, 2, {"'x", "Return", "'y", "Return", "Return", "Return"}, U"a|b|x/d|e|y/||"},
-        {"Esc gives the old text back", 0, 0, {"'x", "Esc"}, U"a|b|c/d|e|"},
         {"a cell is undone and redone", 0, 0, {"'x", "Return", "'y", "Return", "Ctrl+Z", "Ctrl+Z", "Ctrl+Z", "Ctrl+Shift+Z"}, U"x|b|c/d|e|"},
         {"undo goes on from an untouched cell", 0, 0, {"'x", "Tab", "Ctrl+Z"}, U"a|b|c/d|e|"},
         {"undo in a touched cell stays there", 0, 0, {"'x", "Tab", "'y", "Ctrl+Z", "Return"}, U"x|b|c/d|e|"},
@@ -146,14 +145,11 @@ TEST_F(ListBoxTest, TheMenuIsGreyWhereAKeyDoesNothing)
     const auto enabled = [](std::initializer_list<const char*> keys) {
         Press(keys);
         std::string names;
-        for (const auto& [name, command] : {std::pair("Undo ", EditCommand::Undo),
-                                            {"Redo ", EditCommand::Redo},
-                                            {"Cut ", EditCommand::Cut},
-                                            {"Copy ", EditCommand::Copy},
-                                            {"Paste ", EditCommand::Paste},
-                                            {"Clear ", EditCommand::Clear},
-                                            {"All ", EditCommand::SelectAll}})
+        for (auto command = EditCommand::Undo;
+             const char* name : {"Undo ", "Redo ", "Cut ", "Copy ", "Paste ", "Clear ", "All "}) {
             if (CanEdit(command, QApplication::focusWidget())) names += name;
+            command = static_cast<EditCommand>(static_cast<int>(command) + 1);
+        }
         return names;
     };
     Start(1, 2);
@@ -162,7 +158,6 @@ TEST_F(ListBoxTest, TheMenuIsGreyWhereAKeyDoesNothing)
     EXPECT_EQ(enabled({"Ctrl+X"}), "Undo Paste All ");
     EXPECT_EQ(enabled({"F2"}), "Undo Paste ") << "from the open cell into the table";
     EXPECT_EQ(enabled({"Ctrl+Z"}), "Redo Cut Copy Paste Clear All ");
-    EXPECT_EQ(enabled({"Ctrl+A", "Del"}), "Undo Paste ");
 }
 
 } // namespace

@@ -119,19 +119,16 @@ TEST_F(Documents, AnEditOfTheProgramStaysWhereItIsSeen)
 
 TEST_F(Documents, AfterARunTheViewStaysAtWhatIsEdited)
 {
-    for (const bool typed : {false, true}) {
-        document.SetText(U"before");
-        document.ReplaceText(Numbered(300));
-        const Int64 place = IndexOf(document.Text(), U"ab 200");
-        area.ScrollTo(place, 3);
-        area.Select(place, 0);
-        const String top = Top();
-        const TextChange change{place, 2, U"longer"};
-        typed ? Press(Qt::Key_X) : area.Change({&change, 1}, place, 0);
-        Undo();
-        EXPECT_EQ(document.Text(), Numbered(300));
-        EXPECT_EQ(Top(), top) << typed;
-    }
+    document.SetText(U"before");
+    document.ReplaceText(Numbered(300));
+    const Int64 place = IndexOf(document.Text(), U"ab 200");
+    area.ScrollTo(place, 3);
+    area.Select(place, 0);
+    const String top = Top();
+    Press(Qt::Key_X);
+    Undo();
+    EXPECT_EQ(document.Text(), Numbered(300));
+    EXPECT_EQ(Top(), top);
 }
 
 TEST_F(Documents, LinesPutInHaveTheirOwnColours)
@@ -148,7 +145,6 @@ TEST_F(Documents, ZoomKeepsThePlaceInEachDocument)
     document.SetText(Numbered(300));
     area.ScrollTo(IndexOf(document.Text(), U"ab 200"), 0);
     const double size = QFontInfo(editor->font()).pointSizeF();
-    EXPECT_NEAR(size, QFontInfo(QApplication::font()).pointSizeF(), 0.5);
     Press(Qt::Key_Plus, Qt::ControlModifier);
     const auto roll = [this](int delta) {
         QWheelEvent event({9, 9}, {9, 9}, {}, {0, delta}, Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase, false);
@@ -160,9 +156,7 @@ TEST_F(Documents, ZoomKeepsThePlaceInEachDocument)
     EXPECT_GT(QFontInfo(editor->font()).pointSizeF(), size * 1.15);
     EXPECT_EQ(editor->cursorForPosition({0, 0}).block().text(), "ab 200");
     area.SetDocument(second);
-    EXPECT_EQ(second.Text(), U"");
     EXPECT_EQ(editor->document()->defaultFont(), editor->font());
-    Press(Qt::Key_Minus, Qt::ControlModifier);
     Press(Qt::Key_0, Qt::ControlModifier);
     EXPECT_NEAR(QFontInfo(editor->font()).pointSizeF(), size, 0.01);
 }

@@ -62,29 +62,6 @@ TEST_F(FolderItems, AreListedByNameWhateverTheirCase)
     EXPECT_TRUE(Item("missing").Children().empty());
 }
 
-TEST_F(FolderItems, TellAnAliasFromWhatItLeadsTo)
-{
-    const fs::path target = folder.Folder("real/target");
-    const FolderItem links(folder.Folder("links"));
-    const std::tuple<const char*, fs::path, fs::path> rows[] = {
-        {"a link to a folder", target, target},
-        {"a link by a way of its own", "../real/./target/", target},
-        {"a dead link", "../real/nothing", folder.Path() / "real/nothing"},
-        {"a link to a dead link", "a dead link", folder.Path() / "real/nothing"},
-        {"a circle", "a circle", folder.Path() / "links/a circle"},
-    };
-    for (const auto& [name, leadsTo, destination] : rows) {
-        SCOPED_TRACE(name);
-        fs::create_symlink(leadsTo, links.Path() / name);
-        const String wanted = Encodings::UTF8.Decode(name);
-        const FolderItem alias = links.Child(wanted, false).value();
-        EXPECT_EQ(alias.Path(), links.Path() / name);
-        EXPECT_TRUE(alias.IsAlias() && alias.Exists() && !alias.IsFolder());
-        EXPECT_EQ(links.Child(wanted)->Path(), destination);
-        EXPECT_EQ(links.Child(wanted)->IsFolder(), destination == target);
-    }
-}
-
 TEST_F(FolderItems, ReplaceNothing)
 {
     for (const auto& [name, content] : {std::pair("file", "new"), {"inner/file", "old"}, {"tree/leaf", "leaf"}})

@@ -1,6 +1,5 @@
 #include "tests/TemporaryFolder.h"
 #include "toolkit/core/FolderItem.h"
-#include "toolkit/core/System.h"
 
 #include <gtest/gtest.h>
 
@@ -40,32 +39,6 @@ TEST(SpecialFolders, LieInTheHomeFolder)
         EXPECT_FALSE(SpecialFolder::Preferences()) << (nowhere ? nowhere : "no home");
     }
     EXPECT_FALSE(std::filesystem::exists("/nonexistent-home"));
-}
-
-TEST(Drives, AreTheRootAndTheVolumes)
-{
-    const TemporaryFolder folder;
-    for (const char* name : {"Volumes/vm", "Volumes/Data"})
-        (void)folder.Folder(name);
-    FolderItem::SetVolumesFolder(folder.Path() / "Volumes");
-    String names;
-    for (const FolderItem& drive : FolderItem::Drives())
-        names += drive.Name() + U" in " + (drive.Parent() ? drive.Parent()->Name() : U"nothing") + U", ";
-    EXPECT_EQ(names, U"Linux in nothing, Data in Volumes, vm in Volumes, ");
-    FolderItem::SetVolumesFolder(folder.Path() / "missing");
-    EXPECT_FALSE(FolderItem::VolumesFolder());
-    EXPECT_EQ(FolderItem::Drives().size(), 1U);
-    FolderItem::SetVolumesFolder(std::nullopt);
-}
-
-TEST(Translations, AreTakenFromTheResources)
-{
-    const StringView key = U"Localisation.Btn_Annuler", french = U"Annuler";
-    EXPECT_EQ(SystemGetLocalizedString(key, french, U"de"), U"Abbrechen");
-    EXPECT_EQ(SystemGetLocalizedString(key, french, U"PT-BR"), U"Cancelar") << "the country plays no part";
-    for (const StringView unknown : {U"xx", U"d", U"/../translations/tarnivel_de", U"../translations/tarnivel_de"})
-        EXPECT_EQ(SystemGetLocalizedString(key, french, unknown), french);
-    EXPECT_EQ(SystemGetLocalizedString(U"Localisation.None", french, U"de"), french);
 }
 
 } // namespace

@@ -52,7 +52,6 @@ TEST(Text, IsSearchedInTimeEvenWhenItRepeatsItself)
 {
     const String text(1'000'000, U'A');
     EXPECT_EQ(IndexOf(text, String(100'000, U'a') + U'b'), -1);
-    EXPECT_EQ(IndexOf(text, U'b' + String(100'000, U'a')), -1);
     EXPECT_EQ(CountFields(text, U"a"), 1'000'001);
 }
 
@@ -82,6 +81,7 @@ TEST(Text, IsCutIntoFields)
 TEST(Text, ChangesItsParts)
 {
     EXPECT_EQ(ReplaceAll(U"&a&&b", U"&", U"&&"), U"&&a&&&&b");
+    EXPECT_EQ(Join({}, U"--"), U"");
     EXPECT_EQ(ReplaceLineEndings(U"1\r\n2\r3\n\n4\r\r\n\n\r", U"\n"), U"1\n2\n3\n\n4\n\n\n\n");
     EXPECT_EQ(Left(U"abc", 2), U"ab");
     EXPECT_EQ(Left(U"abc", -1), U"");
