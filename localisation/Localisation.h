@@ -112,7 +112,7 @@ inline constexpr Text Dit_ModelePasEnregistre{U"Dit_ModelePasEnregistre",
     U"Le modèle affiché n'est pas encore enregistré : enregistrez-le d'abord"};
 inline constexpr Text Err_PasDeReponse{U"Err_PasDeReponse", U"Pas de réponse complète en 10 secondes"};
 inline constexpr Text Err_ReponseTropLongue{U"Err_ReponseTropLongue",
-    U"La réponse a plus de 8 Mio ou de 250000 lignes"};
+    U"La réponse a plus de 8 Mio ou de 250 000 lignes"};
 inline constexpr Text Err_ReponseCoupee{U"Err_ReponseCoupee", U"La réponse a été coupée"};
 inline constexpr Text Dit_Introuvable{U"Dit_Introuvable", U"“¿%” introuvable"};
 inline constexpr Text Dit_SeulTrouve{U"Dit_SeulTrouve", U"“¿%” : pas d'autre occurrence"};
@@ -209,7 +209,7 @@ inline constexpr Text Txt_DropQueDoss{U"Txt_DropQueDoss", U"Vous ne pouvez gliss
 inline constexpr Text Dit_AliasMort{U"Dit_AliasMort", U"Cet alias ne mène nulle part."};
 inline constexpr Text Dit_PasGestionnaire{U"Dit_PasGestionnaire", U"Aucun gestionnaire de fichiers ne répond."};
 inline constexpr Text Dit_PasDeLien{U"Dit_PasDeLien", U"Aucun programme n'ouvre ce lien : ¿%"};
-inline constexpr Text Dit_ParBouton{U"Dit_ParBouton", U"Un bouton ferme cette fenêtre."};
+inline constexpr Text Dit_ParBouton{U"Dit_ParBouton", U"Cette fenêtre se ferme par l'un de ses boutons."};
 inline constexpr Text Txt_NomNonGarde{U"Txt_NomNonGarde",
     U"Le nom de cet élément ne peut pas être gardé : il n'est pas en UTF-8, ou un autre élément a presque le même."};
 inline constexpr Text Txt_ChoisirUnFich{U"Txt_ChoisirUnFich", U"Choisir un fichier :"};
@@ -280,7 +280,8 @@ inline constexpr Text Menu_CherchPrec{U"Menu_CherchPrec", U"Chercher le précéd
 inline constexpr Text Menu_Ajouter{U"Menu_Ajouter", U"Ajouter les dossiers absents du texte"};
 inline constexpr Text Menu_DesactSansDoss{U"Menu_DesactSansDoss", U"Désactiver les lignes sans dossier"};
 inline constexpr Text Nb_Ajoutees{U"Nb_Ajoutees", U"ligne ajoutée|lignes ajoutées"};
-inline constexpr Text Dit_PasPlusLoin{U"Dit_PasPlusLoin", U"Pas plus loin"};
+inline constexpr Text Dit_PasPlusLoin{U"Dit_PasPlusLoin", U"Impossible de déplacer plus loin"};
+inline constexpr Text Dit_PasDeLigne{U"Dit_PasDeLigne", U"Il n'y a pas de ligne ici"};
 inline constexpr Text Dit_SansDossiers{U"Dit_SansDossiers", U"Le dossier Custom Scenery n'est pas accessible"};
 inline constexpr Text Dit_PasDeRapport{U"Dit_PasDeRapport", U"Rien à signaler"};
 inline constexpr Text WinPref_Title{U"WinPref_Title", U"Préférences"};

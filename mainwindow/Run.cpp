@@ -60,6 +60,7 @@ void WinMain::BtnRun_Pressed()
         if (RadGrpSrc.SelectedIndex() == 0 && isOnScreenOnly)
             return Fncts::Refuser(Localisation::Dit_ModelePasEnregistre());
         TextAreaAff.SetFocus();
+        Fncts::Dire({}); // what was said of an earlier run
         run_ = RunState::Asked;
         App::Current().EnableMenuBoutons(false);
         TimerDebRun.SetRunMode(Timer::RunModes::Single);
@@ -128,8 +129,6 @@ void WinMain::EndRun()
 {
     run_ = RunState::None;
     App::Current().EnableMenuBoutons(true);
-    // A disabled text area has lost the focus that it got when the run began.
-    TextAreaAff.SetFocus();
 }
 
 void WinMain::InRun(const std::function<void()>& step)
@@ -149,8 +148,7 @@ String WinMain::Reorder(SceneryTexts& texts, const FolderItem& dossier)
     CreerSpack(texts, dossier, std::bind_front(&ReportSeries::Add, &reports));
     reports.Finish();
     lastReport_ = reports.All();
-    if (BeginsWith(texts.TextDestSpack, ErrorMarker))
-        return Filled(Dit_ModeleRefuse(), {NthField(lastReport_, EndOfLine::Native, 1)});
+    if (BeginsWith(texts.TextDestSpack, ErrorMarker)) return Filled(Dit_ModeleRefuse(), {OnOneLine(lastReport_)});
     const auto lines = CountFields(texts.TextDestSpack, TxtEoF) - 1; // each has its line end
     const auto marked = std::ssize(texts.CoulDestSpack);
     return Filled(Dit_Reordonne(), {Join({{Counted(lines, Nb_Lignes()), Counted(marked, Nb_SansEquiv()),

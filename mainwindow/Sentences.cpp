@@ -3,6 +3,8 @@
 #include "localisation/Localisation.h"
 #include "toolkit/URLConnection.h"
 
+#include <algorithm>
+
 using namespace Localisation;
 
 String Counted(Int64 number, StringView forms)
@@ -18,6 +20,17 @@ String StatusSentence(Int64 line, bool marked, const LineCounts& counts)
            Join({{Counted(counts.lines, Nb_Lignes()), Counted(counts.enabled, Nb_Activees()),
                   Counted(counts.disabled, Nb_Desactivees()), Counted(counts.marked, Nb_SansEquiv())}},
                 U", ");
+}
+
+String OnOneLine(StringView section)
+{
+    constexpr StringView itemMark = U"\n - ";
+    constexpr Int64 mostItems = 3;
+    const Int64 items = CountFields(section, itemMark) - 1;
+    String line(NthField(section, itemMark, 1));
+    for (Int64 i = 1; i <= std::min(items, mostItems); ++i)
+        line.append(i == 1 ? U" " : U", ").append(NthField(section, itemMark, i + 1));
+    return items > mostItems ? line + U"…" : line;
 }
 
 String WhyNoAnswer(const RuntimeException& error)

@@ -17,5 +17,8 @@ String Unmatched();
 /// "Line 3, unmatched · 12 lines, 7 enabled, 2 disabled, 1 unmatched", the first only of a line that is `marked`.
 String StatusSentence(Int64 line, bool marked, const LineCounts& counts);
 
+/// A heading with items in lines of their own, "Twice:\n - Alps", as "Twice: Alps"; of more than three items the first.
+String OnOneLine(StringView section);
+
 /// Why a fetch failed, in the user's language where that is ours to say.
 String WhyNoAnswer(const RuntimeException& error);

@@ -20,8 +20,12 @@ void WinMain::BindTextMenu()
     menus.TexteRapport.Action = [this] { ShowLastReport(); };
     menus.TexteMonter.Action = [this] { MoveLines(false); };
     menus.TexteDescendre.Action = [this] { MoveLines(true); };
-    menus.TexteDoubler.Action = [this] { TextAreaAff.DoubleLines(); };
-    menus.TexteSupprimer.Action = [this] { TextAreaAff.DeleteLines(); };
+    menus.TexteDoubler.Action = [this] {
+        if (!TextAreaAff.DoubleLines()) Fncts::Refuser(Dit_PasDeLigne());
+    };
+    menus.TexteSupprimer.Action = [this] {
+        if (!TextAreaAff.DeleteLines()) Fncts::Refuser(Dit_PasDeLigne());
+    };
     menus.TexteMarqueSuiv.Action = [this] { GoToMark(true); };
     menus.TexteMarquePrec.Action = [this] { GoToMark(false); };
     menus.TexteCherchSuiv.Action = [this] { SearchFromAnywhere(SearchWay::Next); };

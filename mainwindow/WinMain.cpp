@@ -18,6 +18,7 @@
 #include "toolkit/Desktop.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace Localisation;
 
@@ -171,6 +172,8 @@ void WinMain::BindMenus()
 
 void WinMain::EnableControls(bool idle)
 {
+    // A disabled control hands the focus on.
+    if (!idle && !focusWhenIdle_) focusWhenIdle_ = Focus();
     for (DesktopUIControl* const control :
          std::initializer_list<DesktopUIControl*>{&RadGrpSrc,          &TextFieldMod1,    &BtnSelFichModel,
                                                   &TextFieldMod2,      &BtnOuvUrlModel,   &ChBoxArchiv,
@@ -181,6 +184,7 @@ void WinMain::EnableControls(bool idle)
                                                   &PushButtInitCherch, &PushButtCherch,   &StaticTextVersion,
                                                   &SegButtSpecA})
         control->SetEnabled(idle);
+    if (idle && focusWhenIdle_) std::exchange(focusWhenIdle_, nullptr)->SetFocus();
     BtnRun.SetCaption(idle ? Btn_Generer() : Btn_Arreter());
     if (SegButtSpecA.Selected(0) && winSpecA_) winSpecA_->EnableControls(idle);
 }

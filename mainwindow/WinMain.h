@@ -208,6 +208,8 @@ private:
     /// After a press by the mouse the keyboard is the text's again; a button that the Tab key led to keeps it.
     void ReturnFocus(const DesktopUIControl& button);
 
+    /// What had the focus before the controls were disabled.
+    DesktopUIControl* focusWhenIdle_ = nullptr;
     std::map<std::filesystem::path, Held> asRead_;
     /// Counts the runs; their texts have it as the number of their origin.
     Int64 runs_ = 0;

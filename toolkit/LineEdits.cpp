@@ -55,6 +55,12 @@ void Remove(QTextCursor& cursor, int start, int end)
     cursor.removeSelectedText();
 }
 
+/// The CRs of the line at a position, which may have become the last one, or isn't it any more.
+void MendReturns(TextDocument::Body& body, QTextCursor& cursor, int position)
+{
+    body.MendReturns(cursor, body.WrongReturns(position, position));
+}
+
 } // namespace
 
 /// The line beside the selected ones goes to their other side: as small an edit as can be.
@@ -77,6 +83,8 @@ bool DesktopTextArea::MoveLines(bool down, Int64 fixedLines)
         copy.InsertAt(cursor);
         if (down) cursor.insertText(QStringLiteral("\n"), QTextCharFormat());
         const int by = down ? length : -length, last = editor().Body().End();
+        MendReturns(editor().Body(), cursor, down ? start : end);
+        MendReturns(editor().Body(), cursor, end + by);
         return TextEditor::Range{std::min(anchor + by, last), std::min(caret + by, last)};
     });
 }
@@ -91,6 +99,7 @@ bool DesktopTextArea::DoubleLines()
         cursor.setPosition(lines.End());
         cursor.insertText(QStringLiteral("\n"), QTextCharFormat());
         copy.InsertAt(cursor);
+        MendReturns(editor().Body(), cursor, lines.End());
         return selected;
     });
 }

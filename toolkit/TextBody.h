@@ -50,6 +50,9 @@ public:
     void Replace(StringView text, std::span<const Int64> marks);
     /// Ascending changes, none overlapping, within an edit of the caller.
     void Change(QTextCursor& cursor, std::span<const TextChange> changes);
+    /// Where a CR of these lines isn't drawn as what it is by now.
+    [[nodiscard]] std::vector<int> WrongReturns(int from, int to) const;
+    void MendReturns(QTextCursor& cursor, const std::vector<int>& places) const;
     /// Whether a line shows the colour of a mark.
     [[nodiscard]] bool ShowsMark(const QTextBlock& block) const;
 
@@ -123,8 +126,6 @@ private:
     }
     [[nodiscard]] std::optional<ColorGroup> WholeColor(StringView text) const;
     static void Paint(QTextCursor& cursor, std::vector<Repaint>& repaints);
-    /// Where a CR of these lines isn't drawn as what it is by now.
-    [[nodiscard]] std::vector<int> WrongReturns(int from, int to) const;
     void Collect(int from, int to, std::vector<Repaint>& repaints);
     void Collect(const QTextBlock& block, std::vector<Repaint>& repaints);
     void ForgetStatesToCome();

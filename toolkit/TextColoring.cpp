@@ -148,7 +148,13 @@ void TextDocument::Body::Recolor()
     QTextCursor cursor(this);
     cursor.joinPreviousEditBlock();
     Paint(cursor, repaints);
-    for (const int at : wrongReturns) {
+    MendReturns(cursor, wrongReturns);
+    cursor.endEditBlock();
+}
+
+void TextDocument::Body::MendReturns(QTextCursor& cursor, const std::vector<int>& places) const
+{
+    for (const int at : places) {
         // The new one goes in behind the old one, so that a caret beside it stays there.
         cursor.setPosition(at + 1);
         cursor.insertText(ReturnUnit(characterAt(at + 1) == QChar::ParagraphSeparator && at + 1 < End()),
@@ -156,7 +162,6 @@ void TextDocument::Body::Recolor()
         cursor.setPosition(at);
         cursor.deleteChar();
     }
-    cursor.endEditBlock();
 }
 
 std::vector<int> TextDocument::Body::WrongReturns(int from, int to) const

@@ -275,7 +275,7 @@ Packs nachher</translation>
     </message>
     <message id="Localisation.Dit_Enregistre">
         <source>Enregistré : ¿%</source>
-        <translation>Gesichert: ¿%</translation>
+        <translation>Gespeichert: ¿%</translation>
     </message>
     <message id="Localisation.Dit_Archive">
         <source>ancien fichier : ¿%</source>
@@ -294,8 +294,8 @@ Packs nachher</translation>
         <translation>Keine vollständige Antwort in 10 Sekunden</translation>
     </message>
     <message id="Localisation.Err_ReponseTropLongue">
-        <source>La réponse a plus de 8 Mio ou de 250000 lignes</source>
-        <translation>Die Antwort hat mehr als 8 MiB oder 250000 Zeilen</translation>
+        <source>La réponse a plus de 8 Mio ou de 250 000 lignes</source>
+        <translation>Die Antwort hat mehr als 8 MiB oder 250.000 Zeilen</translation>
     </message>
     <message id="Localisation.Err_ReponseCoupee">
         <source>La réponse a été coupée</source>
@@ -319,7 +319,7 @@ Packs nachher</translation>
     </message>
     <message id="Localisation.Dit_RienChercher">
         <source>Rien à chercher : le champ de recherche est vide</source>
-        <translation>Nichts zu suchen: Das Suchfeld ist leer</translation>
+        <translation>Nichts zu suchen: das Suchfeld ist leer</translation>
     </message>
     <message id="Localisation.Dit_AucuneMarque">
         <source>Aucune ligne sans équivalent dans ce texte</source>
@@ -335,7 +335,7 @@ Packs nachher</translation>
     </message>
     <message id="Localisation.Dit_Occupe">
         <source>Un traitement est en cours : arrêtez-le d'abord</source>
-        <translation>Das Programm arbeitet: erst anhalten</translation>
+        <translation>Das Programm arbeitet: halten Sie es erst an</translation>
     </message>
     <message id="Localisation.Txt_ProbLignPresDxFois">
         <source>Problème, la ligne ci-dessous est présente plus d'une fois :</source>
@@ -391,7 +391,7 @@ Packs nachher</translation>
     </message>
     <message id="Localisation.Dit_PropArretee">
         <source>Arrêté : aucun modèle n'a été proposé</source>
-        <translation>Abgebrochen: Es wurde kein Modell vorgeschlagen</translation>
+        <translation>Angehalten: es wurde kein Modell vorgeschlagen</translation>
     </message>
     <message id="Localisation.Dit_OffreModele">
         <source>le menu “Texte” peut en proposer un</source>
@@ -584,8 +584,8 @@ Rückgabewert: 0 alles stimmt überein, 1 etwas wurde gemeldet,
         <translation>Kein Programm öffnet diesen Link: ¿%</translation>
     </message>
     <message id="Localisation.Dit_ParBouton">
-        <source>Un bouton ferme cette fenêtre.</source>
-        <translation>Dieses Fenster schließt eine Schaltfläche.</translation>
+        <source>Cette fenêtre se ferme par l'un de ses boutons.</source>
+        <translation>Dieses Fenster lässt sich nur mit einer Schaltfläche schließen.</translation>
     </message>
     <message id="Localisation.Txt_NomNonGarde">
         <source>Le nom de cet élément ne peut pas être gardé : il n'est pas en UTF-8, ou un autre élément a presque le même.</source>
@@ -809,8 +809,12 @@ Rückgabewert: 0 alles stimmt überein, 1 etwas wurde gemeldet,
         <translation>Zeile hinzugefügt|Zeilen hinzugefügt</translation>
     </message>
     <message id="Localisation.Dit_PasPlusLoin">
-        <source>Pas plus loin</source>
-        <translation>Nicht weiter</translation>
+        <source>Impossible de déplacer plus loin</source>
+        <translation>Lässt sich nicht weiter verschieben</translation>
+    </message>
+    <message id="Localisation.Dit_PasDeLigne">
+        <source>Il n'y a pas de ligne ici</source>
+        <translation>Hier ist keine Zeile</translation>
     </message>
     <message id="Localisation.Dit_SansDossiers">
         <source>Le dossier Custom Scenery n'est pas accessible</source>

@@ -291,11 +291,11 @@ Packs after</translation>
     </message>
     <message id="Localisation.Err_PasDeReponse">
         <source>Pas de réponse complète en 10 secondes</source>
-        <translation>No whole answer within 10 seconds</translation>
+        <translation>No complete answer within 10 seconds</translation>
     </message>
     <message id="Localisation.Err_ReponseTropLongue">
-        <source>La réponse a plus de 8 Mio ou de 250000 lignes</source>
-        <translation>The answer has more than 8 MiB or 250000 lines</translation>
+        <source>La réponse a plus de 8 Mio ou de 250 000 lignes</source>
+        <translation>The answer has more than 8 MiB or 250,000 lines</translation>
     </message>
     <message id="Localisation.Err_ReponseCoupee">
         <source>La réponse a été coupée</source>
@@ -584,8 +584,8 @@ Exit status: 0 all agrees, 1 something was reported,
         <translation>No program opens this link: ¿%</translation>
     </message>
     <message id="Localisation.Dit_ParBouton">
-        <source>Un bouton ferme cette fenêtre.</source>
-        <translation>A button closes this window.</translation>
+        <source>Cette fenêtre se ferme par l'un de ses boutons.</source>
+        <translation>Close this window with one of its buttons.</translation>
     </message>
     <message id="Localisation.Txt_NomNonGarde">
         <source>Le nom de cet élément ne peut pas être gardé : il n'est pas en UTF-8, ou un autre élément a presque le même.</source>
@@ -809,8 +809,12 @@ Exit status: 0 all agrees, 1 something was reported,
         <translation>line added|lines added</translation>
     </message>
     <message id="Localisation.Dit_PasPlusLoin">
-        <source>Pas plus loin</source>
-        <translation>No further</translation>
+        <source>Impossible de déplacer plus loin</source>
+        <translation>Can't be moved any further</translation>
+    </message>
+    <message id="Localisation.Dit_PasDeLigne">
+        <source>Il n'y a pas de ligne ici</source>
+        <translation>There is no line here</translation>
     </message>
     <message id="Localisation.Dit_SansDossiers">
         <source>Le dossier Custom Scenery n'est pas accessible</source>

@@ -294,8 +294,8 @@ Packs después</translation>
         <translation>Sin respuesta completa en 10 segundos</translation>
     </message>
     <message id="Localisation.Err_ReponseTropLongue">
-        <source>La réponse a plus de 8 Mio ou de 250000 lignes</source>
-        <translation>La respuesta tiene más de 8 MiB o de 250000 líneas</translation>
+        <source>La réponse a plus de 8 Mio ou de 250 000 lignes</source>
+        <translation>La respuesta tiene más de 8 MiB o de 250 000 líneas</translation>
     </message>
     <message id="Localisation.Err_ReponseCoupee">
         <source>La réponse a été coupée</source>
@@ -307,7 +307,7 @@ Packs después</translation>
     </message>
     <message id="Localisation.Dit_SeulTrouve">
         <source>“¿%” : pas d'autre occurrence</source>
-        <translation>“¿%”: no hay más apariciones</translation>
+        <translation>“¿%” no aparece más veces</translation>
     </message>
     <message id="Localisation.Dit_RepriseDebut">
         <source>Reprise au début du texte</source>
@@ -584,8 +584,8 @@ Estado de salida: 0 todo concuerda, 1 se ha señalado algo,
         <translation>Ningún programa abre este enlace: ¿%</translation>
     </message>
     <message id="Localisation.Dit_ParBouton">
-        <source>Un bouton ferme cette fenêtre.</source>
-        <translation>Un botón cierra esta ventana.</translation>
+        <source>Cette fenêtre se ferme par l'un de ses boutons.</source>
+        <translation>Cierre esta ventana con uno de sus botones.</translation>
     </message>
     <message id="Localisation.Txt_NomNonGarde">
         <source>Le nom de cet élément ne peut pas être gardé : il n'est pas en UTF-8, ou un autre élément a presque le même.</source>
@@ -809,8 +809,12 @@ Estado de salida: 0 todo concuerda, 1 se ha señalado algo,
         <translation>línea añadida|líneas añadidas</translation>
     </message>
     <message id="Localisation.Dit_PasPlusLoin">
-        <source>Pas plus loin</source>
-        <translation>No más allá</translation>
+        <source>Impossible de déplacer plus loin</source>
+        <translation>No se puede mover más allá</translation>
+    </message>
+    <message id="Localisation.Dit_PasDeLigne">
+        <source>Il n'y a pas de ligne ici</source>
+        <translation>Aquí no hay ninguna línea</translation>
     </message>
     <message id="Localisation.Dit_SansDossiers">
         <source>Le dossier Custom Scenery n'est pas accessible</source>

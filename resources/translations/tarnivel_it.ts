@@ -294,8 +294,8 @@ Pack dopo</translation>
         <translation>Nessuna risposta completa in 10 secondi</translation>
     </message>
     <message id="Localisation.Err_ReponseTropLongue">
-        <source>La réponse a plus de 8 Mio ou de 250000 lignes</source>
-        <translation>La risposta ha più di 8 MiB o di 250000 righe</translation>
+        <source>La réponse a plus de 8 Mio ou de 250 000 lignes</source>
+        <translation>La risposta ha più di 8 MiB o di 250.000 righe</translation>
     </message>
     <message id="Localisation.Err_ReponseCoupee">
         <source>La réponse a été coupée</source>
@@ -335,7 +335,7 @@ Pack dopo</translation>
     </message>
     <message id="Localisation.Dit_Occupe">
         <source>Un traitement est en cours : arrêtez-le d'abord</source>
-        <translation>Il programma è occupato: prima fermarlo</translation>
+        <translation>Il programma è occupato: fermatelo prima</translation>
     </message>
     <message id="Localisation.Txt_ProbLignPresDxFois">
         <source>Problème, la ligne ci-dessous est présente plus d'une fois :</source>
@@ -584,8 +584,8 @@ Stato di uscita: 0 tutto concorda, 1 qualcosa è stato segnalato,
         <translation>Nessun programma apre questo link: ¿%</translation>
     </message>
     <message id="Localisation.Dit_ParBouton">
-        <source>Un bouton ferme cette fenêtre.</source>
-        <translation>Un pulsante chiude questa finestra.</translation>
+        <source>Cette fenêtre se ferme par l'un de ses boutons.</source>
+        <translation>Chiudete questa finestra con uno dei suoi pulsanti.</translation>
     </message>
     <message id="Localisation.Txt_NomNonGarde">
         <source>Le nom de cet élément ne peut pas être gardé : il n'est pas en UTF-8, ou un autre élément a presque le même.</source>
@@ -809,8 +809,12 @@ Stato di uscita: 0 tutto concorda, 1 qualcosa è stato segnalato,
         <translation>riga aggiunta|righe aggiunte</translation>
     </message>
     <message id="Localisation.Dit_PasPlusLoin">
-        <source>Pas plus loin</source>
-        <translation>Non oltre</translation>
+        <source>Impossible de déplacer plus loin</source>
+        <translation>Non si può spostare oltre</translation>
+    </message>
+    <message id="Localisation.Dit_PasDeLigne">
+        <source>Il n'y a pas de ligne ici</source>
+        <translation>Qui non c'è nessuna riga</translation>
     </message>
     <message id="Localisation.Dit_SansDossiers">
         <source>Le dossier Custom Scenery n'est pas accessible</source>

@@ -275,7 +275,7 @@ Packs na</translation>
     </message>
     <message id="Localisation.Dit_Enregistre">
         <source>Enregistré : ¿%</source>
-        <translation>Bewaard: ¿%</translation>
+        <translation>Opgeslagen: ¿%</translation>
     </message>
     <message id="Localisation.Dit_Archive">
         <source>ancien fichier : ¿%</source>
@@ -294,8 +294,8 @@ Packs na</translation>
         <translation>Geen volledig antwoord binnen 10 seconden</translation>
     </message>
     <message id="Localisation.Err_ReponseTropLongue">
-        <source>La réponse a plus de 8 Mio ou de 250000 lignes</source>
-        <translation>Het antwoord heeft meer dan 8 MiB of 250000 regels</translation>
+        <source>La réponse a plus de 8 Mio ou de 250 000 lignes</source>
+        <translation>Het antwoord heeft meer dan 8 MiB of 250.000 regels</translation>
     </message>
     <message id="Localisation.Err_ReponseCoupee">
         <source>La réponse a été coupée</source>
@@ -307,7 +307,7 @@ Packs na</translation>
     </message>
     <message id="Localisation.Dit_SeulTrouve">
         <source>“¿%” : pas d'autre occurrence</source>
-        <translation>“¿%”: niet nogmaals gevonden</translation>
+        <translation>“¿%” komt verder niet voor</translation>
     </message>
     <message id="Localisation.Dit_RepriseDebut">
         <source>Reprise au début du texte</source>
@@ -584,8 +584,8 @@ Afsluitstatus: 0 alles stemt overeen, 1 er is iets gemeld,
         <translation>Geen programma opent deze link: ¿%</translation>
     </message>
     <message id="Localisation.Dit_ParBouton">
-        <source>Un bouton ferme cette fenêtre.</source>
-        <translation>Een knop sluit dit venster.</translation>
+        <source>Cette fenêtre se ferme par l'un de ses boutons.</source>
+        <translation>Sluit dit venster met een van de knoppen.</translation>
     </message>
     <message id="Localisation.Txt_NomNonGarde">
         <source>Le nom de cet élément ne peut pas être gardé : il n'est pas en UTF-8, ou un autre élément a presque le même.</source>
@@ -809,8 +809,12 @@ Afsluitstatus: 0 alles stemt overeen, 1 er is iets gemeld,
         <translation>regel toegevoegd|regels toegevoegd</translation>
     </message>
     <message id="Localisation.Dit_PasPlusLoin">
-        <source>Pas plus loin</source>
-        <translation>Niet verder</translation>
+        <source>Impossible de déplacer plus loin</source>
+        <translation>Kan niet verder worden verplaatst</translation>
+    </message>
+    <message id="Localisation.Dit_PasDeLigne">
+        <source>Il n'y a pas de ligne ici</source>
+        <translation>Hier staat geen regel</translation>
     </message>
     <message id="Localisation.Dit_SansDossiers">
         <source>Le dossier Custom Scenery n'est pas accessible</source>

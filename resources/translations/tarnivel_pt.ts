@@ -294,8 +294,8 @@ Packs depois</translation>
         <translation>Sem resposta completa em 10 segundos</translation>
     </message>
     <message id="Localisation.Err_ReponseTropLongue">
-        <source>La réponse a plus de 8 Mio ou de 250000 lignes</source>
-        <translation>A resposta tem mais de 8 MiB ou de 250000 linhas</translation>
+        <source>La réponse a plus de 8 Mio ou de 250 000 lignes</source>
+        <translation>A resposta tem mais de 8 MiB ou de 250 000 linhas</translation>
     </message>
     <message id="Localisation.Err_ReponseCoupee">
         <source>La réponse a été coupée</source>
@@ -584,8 +584,8 @@ Estado de saída: 0 tudo coincide, 1 algo foi assinalado,
         <translation>Nenhum programa abre esta ligação: ¿%</translation>
     </message>
     <message id="Localisation.Dit_ParBouton">
-        <source>Un bouton ferme cette fenêtre.</source>
-        <translation>Um botão fecha esta janela.</translation>
+        <source>Cette fenêtre se ferme par l'un de ses boutons.</source>
+        <translation>Feche esta janela com um dos seus botões.</translation>
     </message>
     <message id="Localisation.Txt_NomNonGarde">
         <source>Le nom de cet élément ne peut pas être gardé : il n'est pas en UTF-8, ou un autre élément a presque le même.</source>
@@ -809,8 +809,12 @@ Estado de saída: 0 tudo coincide, 1 algo foi assinalado,
         <translation>linha adicionada|linhas adicionadas</translation>
     </message>
     <message id="Localisation.Dit_PasPlusLoin">
-        <source>Pas plus loin</source>
-        <translation>Não mais longe</translation>
+        <source>Impossible de déplacer plus loin</source>
+        <translation>Não se pode mover mais</translation>
+    </message>
+    <message id="Localisation.Dit_PasDeLigne">
+        <source>Il n'y a pas de ligne ici</source>
+        <translation>Aqui não há nenhuma linha</translation>
     </message>
     <message id="Localisation.Dit_SansDossiers">
         <source>Le dossier Custom Scenery n'est pas accessible</source>

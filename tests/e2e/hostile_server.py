@@ -36,7 +36,7 @@ def drip():
 
 forever = itertools.repeat
 # Qt's own words are in the language of the program.
-CUT, LATE, PACKED_TOO_MUCH, LONG = "###2 .+", "###4 .+ 10 .+", "###299 .+", "###299 .+ 8 Mi?[oB] .+ 250000 .+"
+CUT, LATE, PACKED_TOO_MUCH, LONG = "###2 .+", "###4 .+ 10 .+", "###299 .+", "###299 .+ 8 Mi?[oB] .+ 250.000 .+"
 ROWS = [  # the head, the pieces behind it, and how the model on screen ends; where the pieces end, so does the connection
     ("endless pieces", CHUNKED, forever(b"100000\r\n%s\r\n" % bytes(MIB)), LONG),
     ("endless lines", PLAIN, forever(b"\n" * MIB), LONG),

@@ -1,9 +1,11 @@
 """The main job: a run with its reports and colours, lines switched on and off with and without keys and taken back, a
 save with an archive by the button and by keys, and an edit that isn't lost."""
 
+import signal
 import sys
 
-from desktop import Program, private_environment
+from choosing import open_chooser, press_beside
+from desktop import Program, has, private_environment, xdotool
 from sample import DISABLED, ENABLED, pack, sample
 
 BLACK, GREEN, RED, ORANGE = "0,0,0", "0,200,0", "255,0,0", "255,127,0"
@@ -77,6 +79,11 @@ def save(program, files, text, ask):
 
 def main(command):
     with sample() as files, Program([command], private_environment(files.home)) as program:
+        program.wait_for("an active window", lambda: has(program.window(), "active"))
+        program.process.send_signal(signal.SIGSTOP)  # so that both presses come at once
+        xdotool("key", "F5", "F5")
+        program.process.send_signal(signal.SIGCONT)
+        program.find("notification", "Arrêté : rien n'a été réordonné")
         reports = program.run()
         assert len(reports) == 1, reports
         check_report(reports[0], files)
@@ -100,6 +107,11 @@ def main(command):
         save(program, files, result + added, lambda: program.keys("ctrl+s"))
         program.focus(area)
         program.keys("Return")
+        press_beside(program, "scenery_packs.ini")
+        open_chooser(program)
+        program.keys("Return")
+        assert program.answer() == [MODIFIED]
+        program.wait_for("the kept text", lambda: program.text(area) == result + added + "\n")
         program.choose("Spack Modèle")
         model = program.find("text", "Spack Modèle")
         assert program.text(model).rstrip("\n").split("\n") == files.model

@@ -49,7 +49,7 @@ def check_lines(editor):
     editor.until(up)
     for _ in range(2):
         editor.keys("alt+Up")
-    editor.keys("alt+Up", "Pas plus loin")
+    editor.keys("alt+Up", "Impossible de déplacer plus loin")
     for _ in range(2):
         editor.keys("alt+Down")
     for key, lines in (("alt+Down", before), ("ctrl+d", [*before[:6], *before[5:]]), ("ctrl+shift+k", before)):
@@ -58,6 +58,9 @@ def check_lines(editor):
     while editor.lines() != before:
         editor.keys("ctrl+z")
     editor.until(before)
+    for key in ("ctrl+d", "ctrl+shift+k"):
+        editor.keys("ctrl+End")
+        editor.keys(key, "Il n'y a pas de ligne ici")
 
 
 def check_marks(editor, marked):

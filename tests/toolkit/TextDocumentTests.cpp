@@ -140,6 +140,18 @@ TEST_F(Documents, LinesPutInHaveTheirOwnColours)
     EXPECT_EQ(Colours(*editor->document()), "...\nrr..\n..rr\noooo");
 }
 
+TEST_F(Documents, AReturnIsDrawnByWhatStandsBehindItNow)
+{
+    document.SetText(U"a\r\nb\r");
+    area.Select(4, 0);
+    for (const bool down : {false, true}) {
+        EXPECT_TRUE(area.MoveLines(down, 0));
+        EXPECT_EQ(editor->document()->toRawText(), down ? u"a\u206F\u2029b\u2028" : u"b\u206F\u2029a\u2028");
+    }
+    EXPECT_TRUE(area.DoubleLines());
+    EXPECT_EQ(editor->document()->toRawText(), u"a\u206F\u2029b\u206F\u2029b\u2028");
+}
+
 TEST_F(Documents, ZoomKeepsThePlaceInEachDocument)
 {
     document.SetText(Numbered(300));
