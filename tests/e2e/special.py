@@ -105,6 +105,12 @@ def main(command):
             program.find("notification", f"Écrit : first.txt, second.txt, dans {files.home}.")
             assert tuple((files.home / name).read_text("utf-8") for name in ("first.txt", "second.txt")) == expected
             assert original.read_text("utf-8") == "ALPHA, beta and alpha é\n"
+            program.keys("ctrl+shift+a")
+            program.front = "Tarnivel"
+            text = program.find("text", "Spack Après")
+            program.wait_for("the focus where it was before the treatment", lambda: has(text, "focused"))
+            program.keys("ctrl+shift+a")
+            program.front = "Spécial A"
             program.press("Quitter")
             assert (program.wait_for_end(), program.stderr()) == (0, "")
         assert "TabSpecAdest2 :@: second.txt\ttwo\tB\tB\ttwo\n" in files.preferences.read_text("utf-8")

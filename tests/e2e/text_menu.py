@@ -7,6 +7,7 @@ from gi.repository import Atspi
 from sample import DISABLED, ENABLED, sample
 
 ORANGE, FIRST = "255,127,0", "SCENERY_PACK Custom Scenery/{}/"
+NO_FURTHER, NO_LINE = "Impossible de déplacer plus loin", "Il n'y a pas de ligne ici"
 
 
 def status(program, area):
@@ -49,7 +50,7 @@ def check_lines(editor):
     editor.until(up)
     for _ in range(2):
         editor.keys("alt+Up")
-    editor.keys("alt+Up", "Impossible de déplacer plus loin")
+    editor.keys("alt+Up", NO_FURTHER)
     for _ in range(2):
         editor.keys("alt+Down")
     for key, lines in (("alt+Down", before), ("ctrl+d", [*before[:6], *before[5:]]), ("ctrl+shift+k", before)):
@@ -58,9 +59,10 @@ def check_lines(editor):
     while editor.lines() != before:
         editor.keys("ctrl+z")
     editor.until(before)
-    for key in ("ctrl+d", "ctrl+shift+k"):
-        editor.keys("ctrl+End")
-        editor.keys(key, "Il n'y a pas de ligne ici")
+    editor.program.keys("ctrl+End")
+    for key, said in (("ctrl+d", NO_LINE), ("alt+Down", NO_FURTHER), ("ctrl+shift+k", NO_LINE)):
+        editor.program.keys(key)
+        editor.program.find("notification", said)
 
 
 def check_marks(editor, marked):
