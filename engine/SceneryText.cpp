@@ -2,6 +2,8 @@
 
 #include "localisation/Localisation.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr std::size_t starsOfError = 89;
@@ -44,7 +46,10 @@ String ReasonOfRefusal(StringView raw)
 {
     if (raw.empty()) return Localisation::Dit_Vide();
     if (raw.starts_with(U'\uFEFF')) return Localisation::Dit_Bom();
-    if (BeginsWith(raw, ErrorMarker)) return String(NthField(Middle(raw, std::ssize(ErrorMarker)), U"\n", 1));
+    if (BeginsWith(raw, ErrorMarker)) {
+        const StringView error = NthField(Middle(raw, std::ssize(ErrorMarker)), U"\n", 1);
+        return String(error.substr(std::min(error.find_first_not_of(U"0123456789 "), error.size())));
+    }
     const bool differsInLineEnds = BeginsWith(ReplaceAll(Left(raw, 2 * LgTxtDebSpack), U"\r\n", U"\n"), TxtDebSpack);
     return differsInLineEnds ? Localisation::Dit_FinsWindows() : Localisation::Dit_SansEntete();
 }

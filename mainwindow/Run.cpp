@@ -85,7 +85,7 @@ void WinMain::TimerDebRun_Action()
     const String url = TextFieldMod2.Text();
     if (BeginsWith(url, U"http://") || BeginsWith(url, U"https://")) return URLCnctLirePage.Send(url, fetchTimeout);
     Tell(Localisation::Txt_UrlDoitCommencer());
-    RunSuite({});
+    RunSuite({.failure = Localisation::Txt_UrlDoitCommencer()});
 }
 
 Fncts::Reading WinMain::ReadFile(const std::optional<FolderItem>& file)

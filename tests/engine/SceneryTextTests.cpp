@@ -19,7 +19,7 @@ TEST(SceneryText, AcceptanceOrTheReasonOfARefusal)
         {"all line ends behind the header become LF", header + U"\r\n\r\na\rb\n\rc\n", header + U"\n\na\nb\n\nc\n",
          U""},
         {"a byte-order mark", U"\uFEFFI\r\n1000 version\r\nSCENERY", U"", U"marque d'ordre d'octets (BOM)"},
-        {"the connection's error", U"### Error ###3 Host not found\nmore", U"", U"3 Host not found"},
+        {"the connection's error", U"### Error ###3 Host not found\nmore", U"", U"Host not found"},
         {"NULs are characters", header + String(U"\n\0\r\0", 4), header + String(U"\n\0\n\0", 4), U""},
     };
     const String refusal =
