@@ -59,6 +59,15 @@ TEST_F(MainWindow, ARunDisablesTheOtherWindowToo)
     }
 }
 
+TEST_F(MainWindow, AStartThatFailsIsHeardAndToldAndEnds)
+{
+    probe.ScreenSize = {{780, 459}};
+    Open();
+    EXPECT_EQ(probe.Beeps, 1);
+    EXPECT_EQ(probe.Asked.size(), 1U);
+    EXPECT_EQ(app->Run(), 1);
+}
+
 TEST_F(MainWindow, AModelAddressThatIsNoneIsTold)
 {
     Open("\xEF\xBB\xBFSource Model :@: 1\nSourceUrl :@: ftp://server/model\n");

@@ -180,6 +180,12 @@ TEST_F(SpecialA, StaysAliveInALongTreatment)
     EXPECT_EQ(Asked(), std::vector<String>());
     EXPECT_EQ(Said(), U"Traitement arrêté, rien n'a été écrit.");
     EXPECT_EQ(window->PushButtTrait.Caption(), U"Traiter");
+
+    app.DrapOkQuit = true;
+    watch.Action = [this] { app.Quit(0); };
+    watch.SetRunMode(Timer::RunModes::Single);
+    window->PushButtTrait_Pressed();
+    EXPECT_EQ(Asked(), std::vector<String>()) << "it ends with the program";
 }
 
 TEST_F(SpecialA, HasNoUseForWhatIsNoFile)
