@@ -6,7 +6,8 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
 
 folder=build/$1
 shift
-tools/screen.sh ctest --test-dir "$folder" --output-on-failure -j "$(nproc)" "$@" | tee "$folder/test.log"
+tests=$(($(nproc) + 1)) # at once: those of whole windows mostly wait
+tools/screen.sh ctest --test-dir "$folder" --output-on-failure -j "$tests" "$@" | tee "$folder/test.log"
 result=${PIPESTATUS[0]}
 echo
 grep -a '^skipped: ' "$folder/Testing/Temporary/LastTest.log"

@@ -39,11 +39,13 @@ def choose(program, name, path):
 def dropped(program, command, node, *items, over=lambda: None):
     """Drags items from another window onto a node, calls `over`, and drops them; what that brings is waited for."""
     with subprocess.Popen([pathlib.Path(command).parent / "drag_source", *items]) as source:
-        number = xdotool("search", "--sync", "--onlyvisible", "--name", "Drag source").split()[0]
-        xdotool("windowmove", "--sync", number, 1000, 600)
-        left, top, _, height = program.extents(node)
-        drag((1100, 700), (left + 50, top + height // 2))
-        over()
-        xdotool("mouseup", 1)
-        yield
-        source.kill()
+        try:
+            number = xdotool("search", "--sync", "--onlyvisible", "--name", "Drag source").split()[0]
+            xdotool("windowmove", "--sync", number, 1000, 600)
+            left, top, _, height = program.extents(node)
+            drag((1100, 700), (left + 50, top + height // 2))
+            over()
+            xdotool("mouseup", 1)
+            yield
+        finally:
+            source.kill()

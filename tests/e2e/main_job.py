@@ -87,7 +87,6 @@ def main(command):
         reports = program.run()
         assert len(reports) == 1, reports
         check_report(reports[0], files)
-        program.screenshot("main_job.png")
 
         area = program.find("text", "Spack Après")
         result = program.text(area)

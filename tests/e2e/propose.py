@@ -33,7 +33,6 @@ def stop(program, files, model):
     bar = next(node for node in nodes(program.window()) if node.get_role_name() == "progress bar")
     propose(program, model)
     program.wait_for("the progress", lambda: has(bar, "showing"))
-    program.screenshot("propose_progress.png")
     xdotool("mousemove", left + width // 2, top + height // 2, "click", 1)
     program.wait_for("the end", lambda: not has(bar, "showing"))
     assert program.find(name=STOPPED)
@@ -54,7 +53,6 @@ def main(command):
 
             propose(program, model)
             program.dialog()
-            program.screenshot("propose.png")
             report = "\n".join(program.answer("Ok"))
             assert "Surcouches (overlays) : 8" in report and "Côte d'Émeraude (rien n'y dit ce que c'est)" in report, report
             assert program.text(program.find("text", "Fichier modèle")) == "Linux" + str(model).replace("/", ":")

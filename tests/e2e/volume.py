@@ -127,9 +127,8 @@ def main(command):
             program.run()
             recorder = Recorder(server)
             search(program, 1)
-            loud, faint, none = ([*loudness(program, recorder, percent)] for percent in (100, 20, 0))
-            assert none == [0, 0] and all(1 < a < b for a, b in zip(faint, loud)), (loud, faint, none)
-            set_volume(program, 100)
+            none, faint, loud = (loudness(program, recorder, percent) for percent in (0, 20, 100))
+            assert none == (0, 0) and all(1 < a < b for a, b in zip(faint, loud, strict=True)), (none, faint, loud)
             voices = lambda number: recorder.record(lambda: search(program, number))  # noqa: E731
             assert any(voices(2) > 1.25 * voices(1) for _ in range(5)), "no second voice"
             recorder.close()
