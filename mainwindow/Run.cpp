@@ -120,6 +120,7 @@ void WinMain::RunSuite(Fncts::Reading model)
         texts.TextDestSpack = ErrorMarker;
         lastReport_ = sentence = Join(std::vector<StringView>(refusals.begin(), refusals.end()), U" ; ");
     }
+    if (DesktopApplication::EndRequested()) return; // nobody sees it any more
     ShowRun(texts, {rowModel, rowSource, rowDest}, modelIsCleaned, sourceIsCleaned);
     EndRun();
     Fncts::Dire(sentence + FormsOf({{field.Text(), model.form}, {TextFieldSpack.Text(), source.form}}));
