@@ -92,6 +92,10 @@ protected:
             event->accept();
             return owner_.ItemDropped(ItemIn(*event->mimeData()));
         }
+        if (owner_.Tidied && event->mimeData()->urls().size() == 1) {
+            event->acceptProposedAction(); // a link is a whole address, wherever in the old one it was let go
+            return Replace(TidyOf(event->mimeData()->urls().constFirst().toString()));
+        }
         QLineEdit::dropEvent(event);
         Tidy();
     }

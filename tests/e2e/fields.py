@@ -160,6 +160,8 @@ def check_dropped(program, command, files):
         with dropped(program, command, spack, *items):
             program.find("notification", "Vous ne pouvez glisser déposer qu'un fichier contenant du texte ici.")
         assert (program.text(spack), program.text(area)) == before
+    with dropped(program, command, program.find("text", URL), files.model_file):
+        holds(program, program.find("text", URL), files.model_file.as_uri())
     with dropped(program, command, model, files.model_file):
         holds(program, area, "")
     assert program.text(model) == path_form(files.model_file)

@@ -1,5 +1,6 @@
 #include "mainwindow/ArchiveName.h"
 #include "mainwindow/Colouring.h"
+#include "mainwindow/Sentences.h"
 #include "tests/mainwindow/SearchLaws.h"
 #include "tests/mainwindow/ToggleLaws.h"
 #include "toolkit/core/TextEncoding.h"
@@ -24,6 +25,12 @@ TEST(Colouring, KeywordsAnywhereInALine)
 TEST(ArchiveNames, TheMomentStandsBeforeTheExtension)
 {
     EXPECT_EQ(ArchiveName(U"e\u0301.e\u0301", U".e\u0301", {12, 1, 2, 3, 4, 59}), U"é_0012-01-02_03'04'59.é");
+}
+
+TEST(Sentences, NameTheFirstItemsOfASection)
+{
+    EXPECT_EQ(OnOneLine(U"Twice:\n - a"), U"Twice: a");
+    EXPECT_EQ(OnOneLine(U"Twice:\n - a\n - b\n - c\n - d"), U"Twice: a, b, c…");
 }
 
 TEST(RandomTexts, AreSearchedAndToggledByTheLaws)
