@@ -9,7 +9,7 @@ from sample import ENABLED, pack, sample
 TOGGLE, ORANGE, GREEN = "Activer / Désactiver", "255,127,0", "0,200,0"
 
 
-def check_bouncing_return(program):
+def check_bouncing_return(program, files):
     program.press("Générer")
     report = program.dialog()
     program.wait_for("an active dialog", lambda: has(report, "active"))
@@ -19,6 +19,8 @@ def check_bouncing_return(program):
     area = program.find("text", "Spack Après")
     program.wait_for("the focus in the text", lambda: has(area, "focused"))
     text = program.text(area)
+    assert files.is_in_model_order(text) and len(text.split("\n")) == len(files.source) + 1, "Return went into the text"
+    assert not program.windows(dialogs=True), "Return began another run"
     program.type("x")
     program.wait_for("what was typed", lambda: program.text(area) == "x" + text)
     program.keys("ctrl+z")
@@ -194,7 +196,7 @@ def check_special(program, files):
 def main(command):
     with sample() as files, Program([command], private_environment(files.home)) as program:
         program.front = "Tarnivel"
-        area = check_bouncing_return(program)
+        area = check_bouncing_return(program, files)
         check_menus(program, area)
         edited = check_toggle(program, area)
         area = check_views(program, area, edited)
