@@ -1,8 +1,7 @@
-#include "tests/TemporaryFolder.h"
 #include "tests/toolkit/WidgetTest.h"
 #include "toolkit/Dialogs.h"
 
-#include <QFileDialog>
+#include <QDialog>
 #include <QPointer>
 #include <QScreen>
 #include <QScrollBar>
@@ -123,26 +122,6 @@ TEST(MessageDialog, HangsOnItsWindow)
     window->Show();
     WhenUp([&](QDialog&) { window.reset(); });
     EXPECT_EQ(dialog.ShowModal(window.get()), Button::None) << "the window is gone";
-}
-
-TEST(Chooser, GivesAnAliasAsItself)
-{
-    const TemporaryFolder folder;
-    folder.File("packs.ini", "1");
-    folder.Folder("Alpes");
-    const FolderItem start(folder.Path());
-    for (const std::string target : {"packs.ini", "Alpes"}) {
-        const std::string typed = "alias to " + target;
-        std::filesystem::create_symlink(target, folder.Path() / typed);
-        WhenUp([&](QDialog& dialog) {
-            dialog.findChild<QLineEdit*>("fileNameEdit")->setText(QString::fromStdString(typed));
-            QMetaObject::invokeMethod(&dialog, "accept");
-        });
-        const auto chosen = target != "Alpes"
-                                ? OpenFileDialog{U"Choose:", start, U".txt;.ini", U"Text", U"All"}.ShowModal()
-                                : SelectFolderDialog{U"Choose:", start}.ShowModal();
-        EXPECT_EQ(chosen.value_or(start).Path(), folder.Path() / typed);
-    }
 }
 
 } // namespace
