@@ -9,7 +9,6 @@
 #include <QDesktopServices>
 #include <QFile>
 #include <QFileInfo>
-#include <QPalette>
 #include <QScreen>
 #include <QUrl>
 
@@ -77,5 +76,3 @@ bool OpenItem(const FolderItem& item)
 }
 
 bool IsPackage(const FolderItem& item) { return QFileInfo(QFile::decodeName(item.Path().c_str())).isBundle(); }
-
-bool IsDarkMode() { return QGuiApplication::palette().color(QPalette::Window).lightness() < 128; }

@@ -34,9 +34,6 @@ namespace Clipboard {
 void SetText(StringView text);
 } // namespace Clipboard
 
-/// Whether the desktop's windows are dark.
-bool IsDarkMode();
-
 /// Opens the item with the desktop's program for it: a folder in the file manager.
 /// False where the desktop has no such program.
 bool OpenItem(const FolderItem& item);

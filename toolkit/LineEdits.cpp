@@ -1,6 +1,7 @@
 #include "toolkit/DesktopTextArea.h"
 #include "toolkit/TextEditor.h"
 
+#include <QTextDocumentFragment>
 #include <algorithm>
 
 namespace {
@@ -27,26 +28,12 @@ Lines SelectedBy(const QTextCursor& cursor)
 }
 
 /// Lines with their formats, and no end behind the last of them.
-class Copy {
-public:
-    explicit Copy(const Lines& lines)
-    {
-        for (QTextBlock block = lines.first;; block = block.next()) {
-            for (auto at = block.begin(); !at.atEnd(); ++at)
-                pieces_.emplace_back(at.fragment().text(), at.fragment().charFormat());
-            if (block == lines.last) return;
-            pieces_.emplace_back(QStringLiteral("\n"), QTextCharFormat());
-        }
-    }
-    void InsertAt(QTextCursor& cursor) const
-    {
-        for (const auto& [text, format] : pieces_)
-            cursor.insertText(text, format);
-    }
-
-private:
-    std::vector<std::pair<QString, QTextCharFormat>> pieces_;
-};
+QTextDocumentFragment Copy(const Lines& lines)
+{
+    QTextCursor cursor(lines.first);
+    cursor.setPosition(lines.End(), QTextCursor::KeepAnchor);
+    return cursor.selection();
+}
 
 void Remove(QTextCursor& cursor, int start, int end)
 {
@@ -72,7 +59,7 @@ bool DesktopTextArea::MoveLines(bool down, Int64 fixedLines)
     if (!other.isValid() || IsRest(other) || IsRest(lines.last)) return false;
     if (std::min(lines.first.blockNumber(), other.blockNumber()) < fixedLines) return false;
     return editor().Edit([&, anchor = anchor, caret = caret](QTextCursor& cursor) {
-        const Copy copy({other, other});
+        const QTextDocumentFragment copy = Copy({other, other});
         const int length = other.length(), start = lines.Start(), end = lines.End();
         if (down)
             Remove(cursor, end, end + length);
@@ -80,7 +67,7 @@ bool DesktopTextArea::MoveLines(bool down, Int64 fixedLines)
             Remove(cursor, start - length, start);
         cursor.setPosition(down ? start : end - length);
         if (!down) cursor.insertText(QStringLiteral("\n"), QTextCharFormat());
-        copy.InsertAt(cursor);
+        cursor.insertFragment(copy);
         if (down) cursor.insertText(QStringLiteral("\n"), QTextCharFormat());
         const int by = down ? length : -length, last = editor().Body().End();
         MendReturns(editor().Body(), cursor, down ? start : end);
@@ -95,10 +82,10 @@ bool DesktopTextArea::DoubleLines()
     const Lines lines = SelectedBy(editor().textCursor());
     if (IsRest(lines.last)) return false;
     return editor().Edit([&](QTextCursor& cursor) {
-        const Copy copy(lines);
+        const QTextDocumentFragment copy = Copy(lines);
         cursor.setPosition(lines.End());
         cursor.insertText(QStringLiteral("\n"), QTextCharFormat());
-        copy.InsertAt(cursor);
+        cursor.insertFragment(copy);
         MendReturns(editor().Body(), cursor, lines.End());
         return selected;
     });
