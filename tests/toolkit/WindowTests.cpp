@@ -12,6 +12,7 @@ TEST(Window, KeepsTheSizesOfItsContent)
     style.maximumWidth = 800, style.hasMenuBar = style.hasStatusBar = true;
     DesktopWindow window(style);
     DesktopTextField field(window, {158, 13, 460, 22, Lock::Left | Lock::Top | Lock::Right});
+    const DesktopButton button(window, {620, 13, 80, 22, Lock::Left | Lock::Top}, U"Ok");
     const QWidget& content = *WidgetOf(field).parentWidget();
     window.SetLeft(40);
     window.SetTop(60);
@@ -26,6 +27,7 @@ TEST(Window, KeepsTheSizesOfItsContent)
         EXPECT_EQ(content.size(), expected);
         EXPECT_EQ(QSize(window.Width(), window.Height()), expected);
         EXPECT_EQ(WidgetOf(field).width(), expected.width() - 300);
+        EXPECT_EQ(button.Left(), 620);
     }
     EXPECT_EQ(content.window()->maximumWidth(), 800) << "for the user too";
 }
