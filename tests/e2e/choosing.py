@@ -4,7 +4,7 @@ import contextlib
 import pathlib
 import subprocess
 
-from desktop import drag, has, xdotool
+from desktop import drag, has, pixel, xdotool
 
 
 def path_form(path):
@@ -42,6 +42,7 @@ def dropped(program, command, node, *items, over=lambda: None):
         try:
             number = xdotool("search", "--sync", "--onlyvisible", "--name", "Drag source").split()[0]
             xdotool("windowmove", "--sync", number, 1000, 600)
+            program.wait_for("the other window", lambda: pixel(1150, 750) != pixel(1270, 890))
             left, top, _, height = program.extents(node)
             drag((1100, 700), (left + 50, top + height // 2))
             over()

@@ -1,11 +1,11 @@
-"""What moves and grows with the window, and all that is set by hand there again after a quit and a kill."""
+"""What moves and grows with the window, and all that is set there again after a quit and a kill."""
 
 import collections
 import pathlib
 import sys
 import tempfile
 
-from choosing import choose
+from choosing import path_form
 from desktop import Program, has, private_environment, xdotool
 from sample import sample
 
@@ -50,7 +50,7 @@ def main(command):
         with Program([command], private_environment(home)) as program:
             program.front = "Tarnivel"
             for name, item in ((MODEL, files.model_file), (SPACK, files.source_file), (ARCHIVE, files.archives)):
-                choose(program, name, item)
+                program.set_text(program.find("text", name), path_form(item))
             program.press(URL, "radio button")
             program.press(ARCHIVE, "check box")
             program.set_text(program.find("text", URL), "http://127.0.0.1:9/a :@: b")
