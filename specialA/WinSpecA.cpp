@@ -18,8 +18,11 @@ constexpr FieldStyle onlyRead{.readOnly = true, .color = {0x5E5E5E}}, fileName{.
 /// Stripes, so that the eye stays in its row.
 bool PaintStripe(Graphics& graphics, int row, int width, int height)
 {
-    graphics.SetDrawingColor({0xF3F6FA});
-    if (row % 2 == 0) graphics.FillRectangle(0, 0, width, height);
+    constexpr ColorGroup darkEven{0x292626}, darkOdd{0x211E1E}, lightEven{0xF3F6FA};
+    const bool even = row % 2 == 0, dark = IsDarkMode();
+    if (!even && !dark) return false;
+    graphics.SetDrawingColor(!dark ? lightEven : even ? darkEven : darkOdd);
+    graphics.FillRectangle(0, 0, width, height);
     return false;
 }
 

@@ -9,6 +9,7 @@
 #include <QDesktopServices>
 #include <QFile>
 #include <QFileInfo>
+#include <QPalette>
 #include <QScreen>
 #include <QUrl>
 
@@ -76,3 +77,5 @@ bool OpenItem(const FolderItem& item)
 }
 
 bool IsPackage(const FolderItem& item) { return QFileInfo(QFile::decodeName(item.Path().c_str())).isBundle(); }
+
+bool IsDarkMode() { return QGuiApplication::palette().color(QPalette::Window).lightness() < 128; }

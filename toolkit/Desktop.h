@@ -34,6 +34,9 @@ namespace Clipboard {
 void SetText(StringView text);
 } // namespace Clipboard
 
+/// Whether the program's windows are dark: on no desktop today, since the program has one look, the light one.
+bool IsDarkMode();
+
 /// Opens the item with the desktop's program for it: a folder in the file manager.
 /// False where the desktop has no such program.
 bool OpenItem(const FolderItem& item);

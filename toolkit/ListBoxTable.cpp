@@ -83,7 +83,7 @@ void ListBoxTable::Begin(const std::vector<CellRow>& rows)
 void ListBoxTable::CommitCell()
 {
     for (auto* const editor : viewport()->findChildren<CellEditor*>())
-        commitData(editor);
+        if (!editor->isHidden()) commitData(editor); // a closed one is deleted later
 }
 
 bool ListBoxTable::Apply(std::vector<CellRow> rows)
