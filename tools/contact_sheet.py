@@ -1,7 +1,7 @@
 """One picture of all windows and dialogs: a row for each language and appearance, the main window as small as it gets.
 
-Usage: tools/screen.sh /usr/bin/python3 tools/contact_sheet.py PROGRAM FOLDER
-FOLDER gets the sheet in half its size, and the rows and single pictures in full. Takes some five minutes.
+Usage: tools/screen.sh /usr/bin/python3 tools/contact_sheet.py PROGRAM FOLDER [LANGUAGE...]
+FOLDER gets the sheet in half its size, and the rows and single pictures in full. All languages take some five minutes.
 """
 
 import pathlib
@@ -29,9 +29,9 @@ def append(how, pictures, path):
     return path
 
 
-def main(command, folder):
+def main(command, folder, *languages):
     pathlib.Path(folder).mkdir(parents=True, exist_ok=True)
-    rows = [row(command, folder, language, look) for look in ("light", "dark") for language in LANGUAGES]
+    rows = [row(command, folder, language, look) for look in ("light", "dark") for language in languages or LANGUAGES]
     append("-append", [f"{path}[50%]" for path in rows], f"{folder}/sheet.png")
 
 

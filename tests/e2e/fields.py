@@ -185,7 +185,7 @@ def main(command):
             check_written(program, files)
             check_dropped(program, command, files)
             assert program.close() == 0
-    with sample() as files, Program([command], private_environment(files.home, LC_ALL="", LANGUAGE="pl:de")) as program:
+    with sample() as files, Program([command], private_environment(files.home, LC_ALL="", LANGUAGE="tlh:de")) as program:
         program.find("push button", "Erzeugen")
         program.keys("ctrl+o")
         assert {"Abbrechen", "Alle Dateien"} <= {text_of(node) for node in nodes(open_chooser(program))}

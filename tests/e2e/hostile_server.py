@@ -1,5 +1,6 @@
 """Models from hostile servers: each is told as an error or can be stopped, within the limits of time and memory."""
 
+import contextlib
 import gzip
 import itertools
 import pathlib
@@ -38,6 +39,7 @@ forever = itertools.repeat
 # Qt's own words are in the language of the program.
 CUT, LATE, PACKED_TOO_MUCH, LONG = "###2 .+", "###4 .+ 10 .+", "###299 .+", "###299 .+ 8 Mi?[oB] .+ 250.000 .+"
 ROWS = [  # the head, the pieces behind it, and how the model on screen ends; where the pieces end, so does the connection
+    ("an endless body", PLAIN, forever(b"x" * MIB), LONG),
     ("endless pieces", CHUNKED, forever(b"100000\r\n%s\r\n" % bytes(MIB)), LONG),
     ("endless lines", PLAIN, forever(b"\n" * MIB), LONG),
     ("1 GiB of blanks", f"{OK}Content-Length: {1024 * MIB}\r\n\r\n", forever(b" " * MIB), LONG),
@@ -46,6 +48,7 @@ ROWS = [  # the head, the pieces behind it, and how the model on screen ends; wh
     ("binary", PLAIN, [bytes(range(256)) * 256], ""),
     ("garbage", "", forever(b"\0\xff" * MIB), CUT),
     ("an endless head", OK, forever(b"X: y\r\n" * MIB), LATE),
+    ("more announced than sent", f"{OK}Content-Length: 9\r\n\r\n", [b"hello"], CUT),
     ("less announced than sent", f"{OK}Content-Length: 5\r\n\r\n", forever(b"hello" * MIB), r"\*\nhello"),
     ("a redirection in a circle", MOVED + "/\r\n\r\n", [], "###10 .+"),
     ("a redirection to a file", MOVED + "file:///etc/passwd\r\n\r\n", [], "###301 .+"),
@@ -101,12 +104,33 @@ def check_stop(program, server, area):
     assert program.text(area) == ""
 
 
-def check_encrypted(program, server):
-    server.encrypt()
-    program.set_text(program.find("text", "Url modèle"), server.url(scheme="https"))
-    run(program, server, PLAIN, [b"encrypted"])
+@contextlib.contextmanager
+def swallow(port):
+    """A port of the IPv6 address that takes no connection and refuses none, as its queue is full."""
+    with contextlib.ExitStack() as stack:
+        listener, *queued = (stack.enter_context(socket.socket(socket.AF_INET6)) for _ in range(3))
+        listener.bind(("::1", port))
+        listener.listen(0)
+        for client in queued:
+            client.setblocking(False)
+            client.connect_ex(("::1", port))
+        yield
+
+
+def check_fetch(program, server, address, content):
+    program.set_text(program.find("text", "Url modèle"), address)
+    run(program, server, PLAIN, [content])
     program.find("push button", "Générer")
-    assert program.text(program.find("text", "Spack Modèle")).endswith("*\nencrypted")
+    assert program.text(program.find("text", "Spack Modèle")).endswith("*\n" + content.decode())
+
+
+def check_other_ways(program, server):
+    with swallow(server.server_port):
+        start = time.monotonic()
+        check_fetch(program, server, f"http://localhost:{server.server_port}/", b"by the other address")
+        assert time.monotonic() - start < 5, "an address that doesn't answer held up the other one"
+    server.encrypt()
+    check_fetch(program, server, server.url(scheme="https"), b"encrypted")
 
 
 def silent_name_server(command, files):
@@ -147,7 +171,7 @@ def main(command):
             run(program, server, f"{OK}Content-Length: {8 * MIB}\r\n\r\n", [b"\t" * (8 * MIB)])
             program.find("push button", "Générer")
             check_peak(program, "8 MiB of tabs on screen", SHOW)
-            check_encrypted(program, server)
+            check_other_ways(program, server)
             assert program.close() == 0
         silent_name_server(command, files)
     server.shutdown()

@@ -32,14 +32,15 @@ TEST_P(Translations, HoldEachTextInTheShapeOfTheFrenchOne)
     for (const auto& [name, text] : allTexts) {
         const String ours = text(language), original = text(french);
         EXPECT_TRUE(ours != original || international.contains(name)) << name << " is missing";
-        // Places for values, lines, and lines of a blank alone.
-        for (const StringView part : {U"¿%", U"\n", U"\n \n"})
+        // Places for values, forms for one and for many, lines, and lines of a blank alone.
+        for (const StringView part : {U"¿%", U"|", U"\n", U"\n \n"})
             EXPECT_EQ(CountFields(ours, part), CountFields(original, part)) << name;
         const String id = Encodings::UTF8.Decode("<message id=\"Localisation." + name + "\">\n        <source>");
         EXPECT_NE(file.find(id + original + U"</source>"), String::npos) << name << " has another French text";
     }
     EXPECT_EQ(CountFields(file, U"<message id="), std::ssize(allTexts) + 1) << "a text that the program doesn't have";
     EXPECT_EQ(IndexOf(file, U"unfinished"), -1);
+    EXPECT_GT(IndexOf(file, U" language=\"" + language), -1);
 }
 
 TEST_P(Translations, TheHelpNamesTheControlsByTheirCaptions)
@@ -88,9 +89,9 @@ TEST(UserLanguage, DecidesWhatIsRead)
          {User{"LANG alone decides", "de_DE.UTF-8", "", U"Datei"},
           {"LANGUAGE comes before LANG", "de_DE.UTF-8", "nl", U"Bestand"},
           {"a country's variant reads its language", "pt_BR.UTF-8", "", U"Ficheiro"},
-          {"and so it does in a list", "en_US.UTF-8", "pl:pt_BR:de", U"Ficheiro"},
-          {"and so is a variant of French, which has no translation", "en_US.UTF-8", "pl:fr_CA:de", U"Fichier"},
-          {"an unknown language reads French", "sv_SE.UTF-8", "", U"Fichier"},
+          {"and so it does in a list", "en_US.UTF-8", "tlh:pt_BR:de", U"Ficheiro"},
+          {"and so is a variant of French, which has no translation", "en_US.UTF-8", "tlh:fr_CA:de", U"Fichier"},
+          {"an unknown language reads French", "tlh_US.UTF-8", "", U"Fichier"},
           {"no language reads French", "C", "", U"Fichier"}})
         EXPECT_EXIT(LookUpAndExit(user), testing::ExitedWithCode(0), "") << user.name;
 }
