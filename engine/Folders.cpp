@@ -108,13 +108,16 @@ bool FitsLine(StringView folder) { return folder.find_first_of(U"/\n\r\uFFFD") =
 
 String LineFor(StringView folder) { return String(EnabledPrefix).append(CustomScenery).append(folder).append(U"/"); }
 
-String UnlistedLines(StringView text, const FolderItem& dossier)
+UnlistedFolders FindUnlisted(StringView text, const FolderItem& dossier)
 {
-    String lines;
+    UnlistedFolders found;
     for (const String& folder : CompareFolders(LinesOf(text), dossier).unlisted) {
-        if (FitsLine(folder)) lines.append(LineFor(folder)).append(TxtEoF);
+        if (FitsLine(folder))
+            found.lines.append(LineFor(folder)).append(TxtEoF);
+        else
+            found.leftOut.push_back(folder);
     }
-    return lines;
+    return found;
 }
 
 Int64 FirstPlace(StringView text)

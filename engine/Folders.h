@@ -42,11 +42,16 @@ bool FitsLine(StringView folder);
 /// The line that lists a folder as enabled, without a line end.
 String LineFor(StringView folder);
 
-/// The lines that would list, enabled and by name, the folders in `dossier` that `text` doesn't, each with its line
-/// end; "" when there are none. A folder whose name fits no line is left out.
-String UnlistedLines(StringView text, const FolderItem& dossier);
+/// The folders that a text doesn't list, by name.
+struct UnlistedFolders {
+    /// A line for each, enabled, with its line end.
+    String lines;
+    /// Those whose names fit no line.
+    std::vector<String> leftOut;
+};
+UnlistedFolders FindUnlisted(StringView text, const FolderItem& dossier);
 
-/// The offset behind the header and the blank line there: where `UnlistedLines` belong. A text that ends with its
+/// The offset behind the header and the blank line there: where unlisted lines belong. A text that ends with its
 /// header has no line end there yet.
 Int64 FirstPlace(StringView text);
 

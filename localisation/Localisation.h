@@ -122,7 +122,7 @@ inline constexpr Text Dit_RienChercher{U"Dit_RienChercher", U"Rien à chercher :
 inline constexpr Text Dit_AucuneMarque{U"Dit_AucuneMarque", U"Aucune ligne sans équivalent dans ce texte"};
 inline constexpr Text Dit_PasLa{U"Dit_PasLa", U"N'existe pas : ¿%"};
 inline constexpr Text Dit_PasDossier{U"Dit_PasDossier", U"Cette ligne ne nomme pas de dossier de Custom Scenery"};
-inline constexpr Text Dit_Occupe{U"Dit_Occupe", U"Un traitement est en cours : arrêtez-le d'abord"};
+inline constexpr Text Dit_Occupe{U"Dit_Occupe", U"Un traitement ou un dialogue est en cours : terminez-le d'abord"};
 inline constexpr Text Txt_ProbLignPresDxFois{U"Txt_ProbLignPresDxFois",
     U"Problème, la ligne ci-dessous est présente plus d'une fois :"};
 inline constexpr Text Txt_ProbLignEquiv{U"Txt_ProbLignEquiv", U"Problème, les lignes ci-dessous sont équivalentes :"};

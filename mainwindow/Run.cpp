@@ -105,7 +105,8 @@ void WinMain::RunSuite(Fncts::Reading model)
     const bool isMissing = model.text.empty() || BeginsWith(model.text, ErrorMarker);
     std::vector<String> refusals;
     Accept(model, Localisation::Dit_ModeleRefuse(), refusals);
-    if (isMissing) refusals.back().append(U" (").append(Localisation::Dit_OffreModele()).append(U")");
+    if (!refusals.empty()) refusals.back() += UsedSource();
+    if (isMissing) refusals.push_back(Localisation::Dit_OffreModele());
     const std::optional<FolderItem> spack = Fncts::GetFitemAbsPath(TextFieldSpack.Text(), false);
     Fncts::Reading source = ReadFile(spack);
     const bool sourceIsCleaned = source.cleanedLines > 0;
@@ -142,6 +143,12 @@ void WinMain::InRun(const std::function<void()>& step)
     }
 }
 
+String WinMain::UsedSource() const
+{
+    using namespace Localisation;
+    return U" (" + (RadGrpSrc.SelectedIndex() == 0 ? RdButtSourceA() : RdButtSourceB()) + U")";
+}
+
 String WinMain::Reorder(SceneryTexts& texts, const FolderItem& dossier)
 {
     using namespace Localisation;
@@ -149,11 +156,12 @@ String WinMain::Reorder(SceneryTexts& texts, const FolderItem& dossier)
     CreerSpack(texts, dossier, std::bind_front(&ReportSeries::Add, &reports));
     reports.Finish();
     lastReport_ = reports.All();
-    if (BeginsWith(texts.TextDestSpack, ErrorMarker)) return Filled(Dit_ModeleRefuse(), {OnOneLine(lastReport_)});
+    if (BeginsWith(texts.TextDestSpack, ErrorMarker))
+        return Filled(Dit_ModeleRefuse(), {OnOneLine(lastReport_)}) + UsedSource();
     const auto lines = CountFields(texts.TextDestSpack, TxtEoF) - 1; // each has its line end
     const auto marked = std::ssize(texts.CoulDestSpack);
     return Filled(Dit_Reordonne(), {Join({{Counted(lines, Nb_Lignes()), Counted(marked, Nb_SansEquiv()),
                                            Counted(reports.Count(), Nb_Remarques())}},
                                          U", ")}) +
-           U" (" + (RadGrpSrc.SelectedIndex() == 0 ? RdButtSourceA() : RdButtSourceB()) + U")";
+           UsedSource();
 }

@@ -93,7 +93,7 @@ void WinMain::AddUnlistedFolders()
     const std::optional<FolderItem> folder = SceneryFolder();
     if (!folder) return;
     const String text = TextAreaAff.Text();
-    String lines = UnlistedLines(text, *folder);
+    auto [lines, leftOut] = FindUnlisted(text, *folder);
     const Int64 added = CountFields(lines, TxtEoF) - 1, place = FirstPlace(text);
     if (added > 0) {
         const bool needsEnd = place > 0 && Middle(text, place - 1, 1) != TxtEoF;
@@ -103,7 +103,11 @@ void WinMain::AddUnlistedFolders()
         TextAreaAff.Change({&change, 1}, place, length);
         TextAreaAff.ScrollTo(place, linesAbove);
     }
-    Fncts::Dire(Counted(added, Nb_Ajoutees()));
+    String sentence = Counted(added, Nb_Ajoutees());
+    if (!leftOut.empty())
+        sentence +=
+            U". " + Filled(Txt_PropSansLigne(), {Join(std::vector<StringView>(leftOut.begin(), leftOut.end()), U", ")});
+    Fncts::Dire(OnOneLine(sentence));
 }
 
 void WinMain::DisableWithoutFolder()

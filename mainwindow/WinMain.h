@@ -131,6 +131,8 @@ private:
     Fncts::Reading ReadFile(const std::optional<FolderItem>& file);
     /// The run itself; what came of it, in a sentence.
     String Reorder(SceneryTexts& texts, const FolderItem& dossier);
+    /// Where the model comes from, in brackets.
+    [[nodiscard]] String UsedSource() const;
     void EndRun();
     /// Does a step of the run; an exception ends the run.
     void InRun(const std::function<void()>& step);

@@ -41,6 +41,7 @@ void WinSpecA::ActButtSource(std::optional<FolderItem> item)
 {
     if (!item) item = Fncts::MyDialogLoad(FichOrg, Txt_ChoisirUnFich(), FileTypes::TextPlain, this);
     if (!item) return;
+    if (!Fncts::ComesBack(*item)) return Fncts::Refuser(Txt_NomNonGarde());
     if (item->IsFolder() || item->IsAlias())
         Tell(Txt_SelectQueFichTxt());
     else

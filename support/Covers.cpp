@@ -1,7 +1,8 @@
 #include "support/Covers.h"
 
+#include "localisation/Localisation.h"
 #include "support/Diagnostics.h"
-#include "support/Sounds.h"
+#include "support/Status.h"
 #include "toolkit/Desktop.h"
 #include "toolkit/Dialogs.h"
 #include "toolkit/core/System.h"
@@ -100,7 +101,7 @@ bool CmLabBlockUI(CoverAct act, DesktopWindow* win)
     if (act == CoverAct::Remember) {
         MemFenetr = win;
     } else if (MemFenetr != nullptr && MemFenetr != win) {
-        if (System::Ticks() - TpDerTicks > ticksOfOneAct) BeepNbT(1);
+        if (System::Ticks() - TpDerTicks > ticksOfOneAct) Refuser(Localisation::Dit_Occupe());
         MemFenetr->Show();
     }
     TpDerTicks = System::Ticks();

@@ -334,8 +334,8 @@ Packs nachher</translation>
         <translation>Diese Zeile nennt keinen Ordner von Custom Scenery</translation>
     </message>
     <message id="Localisation.Dit_Occupe">
-        <source>Un traitement est en cours : arrêtez-le d'abord</source>
-        <translation>Das Programm arbeitet: halten Sie es erst an</translation>
+        <source>Un traitement ou un dialogue est en cours : terminez-le d'abord</source>
+        <translation>Ein Lauf oder ein Dialog ist offen: beenden Sie ihn erst</translation>
     </message>
     <message id="Localisation.Txt_ProbLignPresDxFois">
         <source>Problème, la ligne ci-dessous est présente plus d'une fois :</source>

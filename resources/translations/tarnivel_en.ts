@@ -334,8 +334,8 @@ Packs after</translation>
         <translation>This line names no folder of Custom Scenery</translation>
     </message>
     <message id="Localisation.Dit_Occupe">
-        <source>Un traitement est en cours : arrêtez-le d'abord</source>
-        <translation>The program is busy: stop it first</translation>
+        <source>Un traitement ou un dialogue est en cours : terminez-le d'abord</source>
+        <translation>A run or a dialog is open: end it first</translation>
     </message>
     <message id="Localisation.Txt_ProbLignPresDxFois">
         <source>Problème, la ligne ci-dessous est présente plus d'une fois :</source>

@@ -334,8 +334,8 @@ Packs después</translation>
         <translation>Esta línea no nombra ninguna carpeta de Custom Scenery</translation>
     </message>
     <message id="Localisation.Dit_Occupe">
-        <source>Un traitement est en cours : arrêtez-le d'abord</source>
-        <translation>El programa está ocupado: deténgalo primero</translation>
+        <source>Un traitement ou un dialogue est en cours : terminez-le d'abord</source>
+        <translation>Hay un proceso o un diálogo abierto: termínelo primero</translation>
     </message>
     <message id="Localisation.Txt_ProbLignPresDxFois">
         <source>Problème, la ligne ci-dessous est présente plus d'une fois :</source>

@@ -334,8 +334,8 @@ Pack dopo</translation>
         <translation>Questa riga non indica alcuna cartella di Custom Scenery</translation>
     </message>
     <message id="Localisation.Dit_Occupe">
-        <source>Un traitement est en cours : arrêtez-le d'abord</source>
-        <translation>Il programma è occupato: fermatelo prima</translation>
+        <source>Un traitement ou un dialogue est en cours : terminez-le d'abord</source>
+        <translation>Un’elaborazione o una finestra di dialogo è aperta: terminatela prima</translation>
     </message>
     <message id="Localisation.Txt_ProbLignPresDxFois">
         <source>Problème, la ligne ci-dessous est présente plus d'une fois :</source>

@@ -334,8 +334,8 @@ Packs na</translation>
         <translation>Deze regel noemt geen map van Custom Scenery</translation>
     </message>
     <message id="Localisation.Dit_Occupe">
-        <source>Un traitement est en cours : arrêtez-le d'abord</source>
-        <translation>Het programma is bezig: stop het eerst</translation>
+        <source>Un traitement ou un dialogue est en cours : terminez-le d'abord</source>
+        <translation>Er is een bewerking of een dialoogvenster open: sluit dat eerst af</translation>
     </message>
     <message id="Localisation.Txt_ProbLignPresDxFois">
         <source>Problème, la ligne ci-dessous est présente plus d'une fois :</source>

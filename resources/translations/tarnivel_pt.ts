@@ -334,8 +334,8 @@ Packs depois</translation>
         <translation>Esta linha não indica nenhuma pasta de Custom Scenery</translation>
     </message>
     <message id="Localisation.Dit_Occupe">
-        <source>Un traitement est en cours : arrêtez-le d'abord</source>
-        <translation>O programa está ocupado: pare-o primeiro</translation>
+        <source>Un traitement ou un dialogue est en cours : terminez-le d'abord</source>
+        <translation>Há um tratamento ou um diálogo aberto: termine-o primeiro</translation>
     </message>
     <message id="Localisation.Txt_ProbLignPresDxFois">
         <source>Problème, la ligne ci-dessous est présente plus d'une fois :</source>

@@ -58,7 +58,9 @@ TEST(Folders, LinesThatTheTextLacksAndThoseThatLackAFolder)
     };
     for (const auto& [name, text, place, lines] : rows) {
         EXPECT_EQ(FirstPlace(text), place) << name;
-        EXPECT_EQ(UnlistedLines(text, dossier), lines) << name;
+        const UnlistedFolders found = FindUnlisted(text, dossier);
+        EXPECT_EQ(found.lines, lines) << name;
+        EXPECT_EQ(found.leftOut, std::vector<String>{U"c/d"}) << name;
     }
     String found;
     const String text = U"SCENERY_PACK /x/\n" + TextFor({U"z", U"b", U"-y", U"B", U"m/n"});

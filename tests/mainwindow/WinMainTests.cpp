@@ -87,8 +87,9 @@ TEST_F(MainWindow, FromTheFourthOfItsKindOnReportsAreGathered)
     Open();
     std::string model = header, source = header;
     for (const std::string name : {"0", "1", "2", "3", "4"}) {
-        model += name + "\nSCENERY_PACK /" + name + "\n";
-        source += name + "\n" + name + "\nSCENERY_PACK /" + name + "\nSCENERY_PACK_DISABLED /" + name + "\n";
+        const std::string pack = "\nSCENERY_PACK /" + name, disabled = "\nSCENERY_PACK_DISABLED /" + name;
+        model.append(name).append(pack).append("\n");
+        source.append(name).append("\n").append(name).append(pack).append(disabled).append("\n");
     }
     Run(model, source);
     EXPECT_NE(probe.Said.back().find(U" 11 remarques"), String::npos);
@@ -157,7 +158,7 @@ TEST_F(MainWindow, AStoppedRunLeavesNothingBehindButASourceThatItHasNotTouched)
     probe.Beeps = 0;
     window->Close();
     EXPECT_EQ(probe.Beeps, 1) << "a run refuses the close";
-    EXPECT_EQ(probe.Said.back(), U"Un traitement est en cours : arrêtez-le d'abord");
+    EXPECT_EQ(probe.Said.back(), U"Un traitement ou un dialogue est en cours : terminez-le d'abord");
     window->BtnRun_Pressed();
     for (const int row : {2, 1, 0})
         EXPECT_EQ(View(row), U"");
@@ -190,7 +191,8 @@ TEST_F(MainWindow, AProposalNeedsASceneryAndARunWithoutAModelOffersOne)
     EXPECT_EQ(probe.Said, std::vector<String>{U"scenery_packs.ini refusé : vide ou illisible"});
     Choose(window->TextFieldSpack, folder.File("Custom Scenery/scenery_packs.ini", header));
     Run();
-    EXPECT_EQ(probe.Said.back(), U"Modèle refusé : vide ou illisible (le menu “Texte” peut en proposer un)");
+    EXPECT_EQ(probe.Said.back(),
+              U"Modèle refusé : vide ou illisible (Fichier modèle) ; le menu “Texte” peut en proposer un");
 
     folder.File("Custom Scenery/scenery_packs.ini", header + std::string("SCENERY_PACK L\xE9man/\n"));
     probe.Answers = {1, FolderItem(folder.Path() / "m.ini"), 1, 1, 2};

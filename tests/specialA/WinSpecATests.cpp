@@ -255,13 +255,15 @@ TEST_F(SpecialA, ChoosesAndRevealsItsOriginal)
     window->PushButtSource_Pressed();
     EXPECT_EQ(probe.Beeps, 1) << "nothing to reveal";
     probe.ShiftKey = false;
-    probe.Answers = {text, FolderItem(folder.Path()), 1, FolderItem(folder.Path() / "link"), 1, std::nullopt};
-    for (int time = 0; time < 4; ++time)
+    probe.Answers = {text, FolderItem(folder.Path()),           1,           FolderItem(folder.Path() / "link"),
+                     1,    FolderItem(folder.File("\xFF.txt")), std::nullopt};
+    for (int time = 0; time < 5; ++time)
         window->PushButtSource_Pressed();
     const String choose = U"Choisir un fichier :",
                  refused = U"Vous pouvez seulement sélectionner un fichier texte.[Ok]";
-    EXPECT_EQ(Asked(), (std::vector{choose, choose, refused, choose, refused, choose}));
-    EXPECT_EQ(probe.Beeps, 3) << "one for each that is refused";
+    EXPECT_EQ(Asked(), (std::vector{choose, choose, refused, choose, refused, choose, choose}));
+    EXPECT_EQ(Said(), Localisation::Txt_NomNonGarde());
+    EXPECT_EQ(probe.Beeps, 4) << "one for each that is refused";
     EXPECT_EQ(window->TextFieldOrg.Text(), U"text.txt") << "none of the others was taken";
     probe.ShiftKey = true;
     window->PushButtSource_Pressed();

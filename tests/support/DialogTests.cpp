@@ -101,6 +101,7 @@ TEST_F(Dialogs, AnActivatedWindowSendsTheUserBackWithOneBeep)
     activate();
     activate();
     EXPECT_EQ(probe_.Beeps, 1);
+    EXPECT_EQ(probe_.Said, std::vector<String>{Localisation::Dit_Occupe()});
     Fncts::CmLabBlockUI(Fncts::CoverAct::Remember, nullptr);
 }
 

@@ -36,7 +36,7 @@ void CopyPermissions(const char* from, int to)
     const ssize_t size = ::getxattr(from, list, rights.data(), rights.size());
     // Without its list the group would have what is the most that the list gives to anybody.
     if (size > 0 && ::fsetxattr(to, list, rights.data(), static_cast<std::size_t>(size), 0) != 0)
-        Check(::fchmod(to, status.st_mode & ACCESSPERMS & ~S_IRWXG) == 0);
+        Check(::fchmod(to, status.st_mode & ACCESSPERMS & ~mode_t{S_IRWXG}) == 0);
 #endif
 }
 
