@@ -1,3 +1,4 @@
+#include "localisation/Localisation.h"
 #include "support/Covers.h"
 #include "support/DialogHelpers.h"
 #include "support/Fncts.h"
