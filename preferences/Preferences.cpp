@@ -74,16 +74,14 @@ bool Read(std::optional<String>& field, StringView value)
 
 String Write(bool field) { return field ? U"True" : U"False"; }
 String Write(Int16 field) { return ToText(field); }
-String Write(const String& field) { return field; }
+/// A line end in it would break the file into other lines.
+String Write(const String& field) { return ReplaceLineEndings(field, U""); }
 String Write(const std::vector<String>& field)
 {
-    return Join(std::vector<StringView>(field.begin(), field.end()), tab);
+    return Write(Join(std::vector<StringView>(field.begin(), field.end()), tab));
 }
 String Write(const std::optional<int>& field) { return ToText(field.value_or(0)); }
-
-/// A pasted line end would break the file into other lines.
-String Write(const std::optional<String>& field) { return ReplaceLineEndings(field.value_or(String()), U""); }
-
+String Write(const std::optional<String>& field) { return Write(field.value_or(String())); }
 String Write(const WindowGeometry& field)
 {
     return Join({{ToText(field.left), ToText(field.top), ToText(field.width), ToText(field.height)}}, U",");

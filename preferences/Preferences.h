@@ -48,8 +48,8 @@ bool TablesClash(const Preferences& ours, const Preferences& oursBefore, const P
 Preferences MergedPreferences(const Preferences& ours, const Preferences& oursBefore, const Preferences& theirs,
                               const Preferences& theirsBefore);
 
-/// The whole file: a line for each setting, in a fixed order. Line ends inside the four paths and addresses of the main
-/// window are left out; the old key of `AffHelpTag` is not written.
+/// The whole file: a line for each setting, in a fixed order. Line ends inside a text are left out; the old key of
+/// `AffHelpTag` is not written.
 String WritePreferences(const Preferences& preferences);
 
 /// The stored place if a window of at least that size fits there, and else the whole screen but for a margin: 30 points

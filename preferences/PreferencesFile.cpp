@@ -16,20 +16,10 @@ constexpr StringView fileName = U"Tarnivel Prefs.txt";
 /// Bytes; far above any setting made by hand. A list of more empty texts than that would fill the memory.
 constexpr std::size_t longestLine = 8 << 20;
 
-/// A name beside the file that nothing has yet.
-String FreeName(const FolderItem& folder)
-{
-    for (Int64 number = 1;; ++number) {
-        String name = U"Tarnivel Prefs " + ToText(number) + U".txt";
-        if (!folder.Child(name, false)->Exists()) return name;
-    }
-}
-
 } // namespace
 
 PreferencesFile::PreferencesFile(const FolderItem& folder)
     : file_(folder.Child(fileName).value())
-    , otherName_(FreeName(file_.Parent().value()))
     , read_(ReadFile(file_))
 {
     if (!read_.IsWhole()) TellProblem(read_);
@@ -65,9 +55,17 @@ PreferencesFile::Read PreferencesFile::ReadFile(const FolderItem& file)
     return read;
 }
 
+String PreferencesFile::FreeName() const
+{
+    for (Int64 number = 1;; ++number) {
+        String name = U"Tarnivel Prefs " + ToText(number) + U".txt";
+        if (!file_.Parent()->Child(name, false)->Exists()) return name;
+    }
+}
+
 void PreferencesFile::TellProblem(const Read& read) const
 {
-    const String path = file_.NativePath(), kept = Localisation::Filled(Localisation::Txt_PrefsGardees(), {otherName_});
+    const String path = file_.NativePath(), kept = Localisation::Filled(Localisation::Txt_PrefsGardees(), {FreeName()});
     if (!read.reading.failure.empty()) {
         Fncts::BeepNbT(3);
         TellAuthorsShortly(
@@ -92,7 +90,7 @@ Fncts::Outcome PreferencesFile::Write(const Preferences& settings) const
     const bool clash = merges && TablesClash(settings, shown_, present.settings, read_.settings);
     try {
         if (clash || (read_.IsWhole() && !present.IsWhole())) TellProblem(present);
-        if (isThere && (clash || !merges)) file_.Rename(otherName_);
+        if (isThere && (clash || !merges)) file_.Rename(FreeName());
     } catch (const std::exception& error) {
         return {Fncts::DefAppEncod.Decode(error.what())};
     }

@@ -34,11 +34,11 @@ private:
         [[nodiscard]] bool IsWhole() const { return reading.failure.empty() && reading.cleanedLines + refused == 0; }
     };
     static Read ReadFile(const FolderItem& file);
+    /// A name beside the file that nothing has yet, for what can't stay as it is.
+    [[nodiscard]] String FreeName() const;
     void TellProblem(const Read& read) const;
 
     FolderItem file_;
-    /// The name that a file has from then on that can't be kept as it is.
-    String otherName_;
     Read read_;
     Preferences shown_;
     bool isWritable_ = true;

@@ -28,8 +28,10 @@ void Fuzz(Input& input)
                                &Preferences::spackFile};
     for (const auto field : typed)
         preferences.*field = input.Text();
+    preferences.PathSpecA = input.Text();
     const Preferences again = Read(WritePreferences(preferences));
     for (const auto field : typed)
         EXPECT_EQ(again.*field, ReplaceLineEndings(*(preferences.*field), U""));
+    EXPECT_EQ(again.PathSpecA, ReplaceLineEndings(preferences.PathSpecA, U""));
     EXPECT_EQ(WritePreferences(again), WritePreferences(preferences)) << "no text disturbs another line";
 }

@@ -73,7 +73,9 @@ TEST_F(File, OfTwoCopiesEachKeepsWhatTheOtherChanged)
     EXPECT_TRUE(first.Write(ours));
     EXPECT_EQ(Written().TabSpecAorg, ours.TabSpecAorg) << "the columns of a table go together";
     EXPECT_NE(folder.Content(other).find("\tx\ty"), std::string::npos) << "of two tables the other's is kept";
-    EXPECT_EQ(probe.Asked.size(), 1U);
+    EXPECT_TRUE(second.Write(theirs));
+    EXPECT_NE(folder.Content("Tarnivel Prefs 2.txt").find("\tc"), std::string::npos) << "and the next one's too";
+    EXPECT_EQ(probe.Asked.size(), 2U);
 }
 
 TEST_F(File, WhatCouldNotBeReadAsItIsStaysUnderAnotherName)

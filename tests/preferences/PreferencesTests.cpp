@@ -32,7 +32,9 @@ TEST(Preferences, EachKeyGoesToItsSettingAndIsWrittenAsItWasRead)
     Preferences preferences = Read(golden);
     EXPECT_EQ(WritePreferences(preferences), golden);
     preferences.modelUrl = U"https\r\n://\rmodel\n";
-    EXPECT_EQ(WritePreferences(preferences), golden) << "a pasted line end breaks no line";
+    preferences.PathSpecA = U"Linux:\np\r\n";
+    preferences.TabSpecAorg[1] = U"\ra";
+    EXPECT_EQ(WritePreferences(preferences), golden) << "a line end inside a text breaks no line";
 }
 
 TEST(Preferences, WhatAHandHasWrittenDoesNoHarm)
