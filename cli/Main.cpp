@@ -5,7 +5,9 @@
 #include "toolkit/core/Exceptions.h"
 #include "toolkit/core/TextInputStream.h"
 
+#include <cerrno>
 #include <clocale>
+#include <cstdio>
 #include <iostream>
 #include <iterator>
 
@@ -28,7 +30,11 @@ String ShownName(std::string_view name) { return U"“" + Encodings::UTF8.Decode
 
 Bytes ReadAll(std::string_view name)
 {
-    if (name == standardInput) return {std::istreambuf_iterator<char>(std::cin), {}};
+    if (name == standardInput) {
+        Bytes bytes(std::istreambuf_iterator<char>(std::cin), {});
+        if (std::ferror(stdin) != 0) throw Refusal{Encodings::UTF8.Decode(std::generic_category().message(errno))};
+        return bytes;
+    }
     try {
         return TextInputStream::Open(FolderItem(std::filesystem::absolute(name))).ReadAll();
     } catch (const IOException& error) {

@@ -73,6 +73,8 @@ def test_what_it_is_given(program, folder):
         assert code == status, (name, code, err)
         assert out == (good.read_bytes() if status == AGREES else b""), (name, out)
         assert err.decode().startswith(told) and bool(err) == bool(told), (name, err)
+    code, out, err = run("sh", "-c", f"'{program}' - good.ini < .")
+    assert (code, out, err) == (REFUSED, b"", "“-”: Is a directory\n".encode()), "a failed read is no end"
     assert run(program, "--help", language="de")[1].startswith(b"Aufruf: tarnivel-order")
     assert run(program, "--version") == (AGREES, b"tarnivel-order 1.1.3\n", b"")
 
