@@ -25,14 +25,14 @@ struct MenuBar1 {
 
     DesktopMenuItem TexteGenerer{U"TexteGenerer", Localisation::Btn_Generer(), U"F5"};
     DesktopMenuItem TexteRapport{U"TexteRapport", Localisation::Menu_Rapport()};
-    DesktopMenuItem TexteMonter{U"TexteMonter", Localisation::Menu_Monter(), U"Alt+Up"};
-    DesktopMenuItem TexteDescendre{U"TexteDescendre", Localisation::Menu_Descendre(), U"Alt+Down"};
-    DesktopMenuItem TexteDoubler{U"TexteDoubler", Localisation::Menu_Doubler(), U"Ctrl+D"};
-    DesktopMenuItem TexteSupprimer{U"TexteSupprimer", Localisation::Menu_Supprimer(), U"Ctrl+Shift+K"};
-    DesktopMenuItem TexteMarqueSuiv{U"TexteMarqueSuiv", Localisation::Menu_MarqueSuiv(), U"F8"};
-    DesktopMenuItem TexteMarquePrec{U"TexteMarquePrec", Localisation::Menu_MarquePrec(), U"Shift+F8"};
-    DesktopMenuItem TexteCherchSuiv{U"TexteCherchSuiv", Localisation::Menu_CherchSuiv(), U"F3"};
-    DesktopMenuItem TexteCherchPrec{U"TexteCherchPrec", Localisation::Menu_CherchPrec(), U"Shift+F3"};
+    DesktopRepeatingMenuItem TexteMonter{U"TexteMonter", Localisation::Menu_Monter(), U"Alt+Up"};
+    DesktopRepeatingMenuItem TexteDescendre{U"TexteDescendre", Localisation::Menu_Descendre(), U"Alt+Down"};
+    DesktopRepeatingMenuItem TexteDoubler{U"TexteDoubler", Localisation::Menu_Doubler(), U"Ctrl+D"};
+    DesktopRepeatingMenuItem TexteSupprimer{U"TexteSupprimer", Localisation::Menu_Supprimer(), U"Ctrl+Shift+K"};
+    DesktopRepeatingMenuItem TexteMarqueSuiv{U"TexteMarqueSuiv", Localisation::Menu_MarqueSuiv(), U"F8"};
+    DesktopRepeatingMenuItem TexteMarquePrec{U"TexteMarquePrec", Localisation::Menu_MarquePrec(), U"Shift+F8"};
+    DesktopRepeatingMenuItem TexteCherchSuiv{U"TexteCherchSuiv", Localisation::Menu_CherchSuiv(), U"F3"};
+    DesktopRepeatingMenuItem TexteCherchPrec{U"TexteCherchPrec", Localisation::Menu_CherchPrec(), U"Shift+F3"};
     DesktopMenuItem TexteAjouter{U"TexteAjouter", Localisation::Menu_Ajouter()};
     DesktopMenuItem TexteDesactSansDoss{U"TexteDesactSansDoss", Localisation::Menu_DesactSansDoss()};
     DesktopMenuItem TexteProposer{U"TexteProposer", Localisation::Menu_TexteProposer()};

@@ -34,9 +34,7 @@ void System::Beep(const Sound* standIn)
 {
     if (Probe* const probe = Probe::Current())
         ++probe->Beeps;
-    else if (standIn && QGuiApplication::platformName() != QLatin1String("cocoa"))
-        standIn->Play();
-    else
+    else if (!standIn || QGuiApplication::platformName() == QLatin1String("cocoa") || !standIn->Play())
         QApplication::beep();
 }
 

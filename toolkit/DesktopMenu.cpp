@@ -94,6 +94,7 @@ private:
         action->setObjectName(ToQt(item.Name));
         action->setShortcuts(QKeySequence::listFromString(ToQt(item.Shortcut)));
         action->setMenuRole(RoleOf(item));
+        action->setAutoRepeat(item.Edit != EditCommand::None || dynamic_cast<DesktopRepeatingMenuItem*>(&item));
         connect(action, &QAction::triggered, this, [this, &item] { Trigger(item); });
     }
 

@@ -27,6 +27,12 @@ public:
     std::function<void()> Action;
 };
 
+/// An item that acts again and again while its shortcut is held, as those with an `edit` command do.
+class DesktopRepeatingMenuItem : public DesktopMenuItem {
+public:
+    using DesktopMenuItem::DesktopMenuItem;
+};
+
 /// Asks the application to quit, unless it has an action of its own.
 class DesktopQuitMenuItem : public DesktopMenuItem {
 public:

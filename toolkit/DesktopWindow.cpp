@@ -165,7 +165,8 @@ WindowPlace DesktopWindow::Shell::Place(bool restored) const
 
 void DesktopWindow::Shell::HandKeyboardOn() const
 {
-    if (isBlocked) QApplication::activeModalWidget()->activateWindow();
+    QWidget* const dialog = isBlocked ? QApplication::activeModalWidget() : nullptr;
+    if (dialog) dialog->activateWindow(); // the platform's own is no widget
 }
 
 bool DesktopWindow::Shell::event(QEvent* event)

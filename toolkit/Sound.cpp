@@ -37,14 +37,15 @@ Sound::Sound(FolderItem file)
 {
 }
 
-void Sound::Play() const
+bool Sound::Play() const
 {
     if (Probe* const probe = Probe::Current()) {
         probe->Sounds.push_back(file_.Name());
-        return;
+        return true;
     }
     static SoundPlayer* const play = LoadPlayer();
     if (play) play(QUrl::fromLocalFile(ToQt(file_.NativePath())), static_cast<float>(volume_) / 100);
+    return play != nullptr;
 }
 
 void Sound::SetVolume(int percent) { volume_ = std::clamp(percent, 0, 100); }

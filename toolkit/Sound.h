@@ -14,7 +14,8 @@ public:
     static std::unique_ptr<Sound> OpenAsSound(const FolderItem& file);
 
     /// Starts a voice of its own, whatever plays; without a sound device, or with a broken file, nothing happens.
-    void Play() const;
+    /// False where the module that plays is missing.
+    bool Play() const;
 
     /// Percent, 0 to 100, from the next `Play` on.
     [[nodiscard]] int Volume() const { return volume_; }

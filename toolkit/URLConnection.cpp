@@ -11,7 +11,9 @@
 #include <sys/socket.h>
 #include <utility>
 
-/// Breaks the connections to a server: Qt reads a head without an end in a thread that heeds nothing else.
+/// Breaks the connections to a server: Qt reads a head without an end in a thread that heeds nothing else. They are
+/// known by the server's port, as Qt tells no reply's address: a display that is reached by that very port over the
+/// network would be lost too.
 static void Break(const QUrl& url)
 {
     const auto port = static_cast<in_port_t>(url.port(url.scheme() == QLatin1String("https") ? 443 : 80));

@@ -37,8 +37,9 @@ TEST_F(MenuTest, ShortcutsAreThoseOfTheTextAndEachItemHasAKey)
 {
     QString keys;
     for (const char* item : {"Open", "Archive", "Quit", "Preferences", "Clear"})
-        keys += Item(item).text() + " " + Item(item).shortcut().toString(QKeySequence::PortableText) + " ";
-    EXPECT_EQ(keys, "&Ouvrir… Ctrl+Shift+O &Archive… Ctrl+Alt+O &Quit Ctrl+Q &Préférences… Ctrl+, &Effacer  ");
+        keys += Item(item).text() + " " + Item(item).shortcut().toString(QKeySequence::PortableText) +
+                (Item(item).autoRepeat() ? " repeats " : " ");
+    EXPECT_EQ(keys, "&Ouvrir… Ctrl+Shift+O &Archive… Ctrl+Alt+O &Quit Ctrl+Q &Préférences… Ctrl+, &Effacer  repeats ");
 }
 
 TEST_F(MenuTest, EditItemsServeTheControlWithTheFocus)
