@@ -104,6 +104,7 @@ def check_choosers(program, files):
         shown = {text_of(node) for node in nodes(dialog)}
         assert {str(item)} <= shown if item.is_dir() else {str(item.parent), item.name} <= shown, shown
         assert {"Annuler", "Voir dans :"} <= shown, shown
+        assert any(text.startswith("Fichiers texte (*.") for text in shown) != item.is_dir(), shown
         program.keys("Escape")
         program.wait_until_gone(dialog)
     assert before == [content(program, name) for name in (MODEL, ARCHIVE, SPACK, RESULT)]
@@ -118,6 +119,10 @@ def check_chosen(program, files):
     for row in (RESULT, "Spack Avant"):
         program.choose(row)
         assert content(program, row) == "", row
+        program.focus(program.find("text", row))
+        program.keys("ctrl+z", "x")
+        program.wait_for("a history that begins here", lambda here=row: content(program, here) == "x")
+        program.keys("ctrl+z")
     program.choose("Spack Modèle")
     assert content(program, "Spack Modèle")
     choose(program, MODEL, other)

@@ -1,8 +1,9 @@
 """The window "Spécial A": a file dragged there, cells edited by hand, a treatment, and clicks on a covered window."""
 
+import pathlib
 import sys
 
-from choosing import dropped
+from choosing import dropped, open_chooser
 from desktop import Program, drag, has, nodes, pixel, private_environment, text_of, xdotool
 from gi.repository import Atspi
 from sample import sample
@@ -95,6 +96,11 @@ def main(command):
             left, top, width, height = program.extents(program.find("push button", "Ouvrir Url"))
             program.press("Spécial A", "check box")
             program.front = "Spécial A"
+            program.press("Choisir fichier…")
+            dialog = open_chooser(program)  # with neither an original nor documents it begins beside the program
+            assert str(pathlib.Path(command).resolve().parent) in {text_of(node) for node in nodes(dialog)}
+            program.keys("Escape")
+            program.wait_until_gone(dialog)
             drop(program, command, original)
             program.set_text(program.find("text", "Dest 1 :"), "first.txt")
             program.set_text(program.find("text", "Dest 2 :"), "second.txt")

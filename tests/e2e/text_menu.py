@@ -88,10 +88,11 @@ def check_search(editor):
     program.keys("ctrl+Home", "ctrl+f")
     program.wait_for("the search field", lambda: has(field, "focused") and not has(area, "focused"))
     program.type(word)
-    for place in [*places, places[0]]:
-        program.keys("Return")
-        program.wait_for(f"the match at {place}", lambda wanted=place: program.selection(area) == wanted)
-        assert has(field, "focused")
+    for key, place in [*(("Return", place) for place in [*places, places[0]]), ("F3", places[1]), ("shift+Return", places[0])]:
+        with program.held(*key.split("+")[:-1]):
+            program.keys(key.split("+")[-1])
+            program.wait_for(f"{key}: {place}", lambda wanted=place: program.selection(area) == wanted)
+        assert has(field, "focused"), key
     program.keys("Escape")
     program.wait_for("the focus in the text", lambda: has(area, "focused") and program.selection(area) == places[0])
     for key, place in (("F3", 1), ("shift+F3", 0), ("shift+F3", -1), ("F3", 0)):

@@ -37,8 +37,12 @@ TEST_F(MainWindow, ARefusedTextStandsWhereItsViewIs)
         EXPECT_TRUE(said.find(row.forms[0]) != String::npos && said.ends_with(row.forms[1]));
         EXPECT_EQ(said.starts_with(U"Réordonné : 4 lignes, 1 sans équivalent, "), row.model == header);
         EXPECT_EQ(CountFields(said, U"simple texte"), 1 + !row.forms[0].empty() + !row.forms[1].empty());
-        for (const int view : {0, 1, 2})
+        for (const int view : {0, 1, 2}) {
             EXPECT_EQ(View(view), row.views[view]);
+            app->MenuBarSelected();
+            for (const DesktopMenuItem* item : {&app->Menus.TexteAjouter, &app->Menus.TexteDesactSansDoss})
+                EXPECT_EQ(item->Enabled, view != 0) << "the model has no folders";
+        }
         EXPECT_EQ(probe.Beeps, 1) << "the refusal, or what the reading lost";
     }
 }
