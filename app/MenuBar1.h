@@ -7,28 +7,28 @@
 /// The items, as members named like themselves. The main window says what its items do; the others are served by the
 /// platform: those of a text by the text control that has the focus.
 struct MenuBar1 {
-    DesktopMenuItem FichSelFichModel{U"FichSelFichModel", Localisation::Menu_FichSelFichMod(), U"Ctrl+Shift+O"};
-    DesktopMenuItem FichSelArchivDoss{U"FichSelArchivDoss", Localisation::Menu_FichSelDossArchiv(), U"Ctrl+Alt+O"};
-    DesktopMenuItem FichSelFichSpack{U"FichSelFichSpack", Localisation::Menu_FichSelFichScenPack(), U"Ctrl+O"};
-    DesktopMenuItem FichSaveFile{U"FichSaveFile", Localisation::Btn_SauvFichier(), U"Ctrl+S"};
-    DesktopQuitMenuItem FileQuit{U"FileQuit", Localisation::Btn_Quit(), U"Ctrl+Q"};
+    DesktopMenuItem FichSelFichModel{U"FichSelFichModel", Localisation::Menu_FichSelFichMod(), U"Cmd+Shift+O"};
+    DesktopMenuItem FichSelArchivDoss{U"FichSelArchivDoss", Localisation::Menu_FichSelDossArchiv(), U"Cmd+Option+O"};
+    DesktopMenuItem FichSelFichSpack{U"FichSelFichSpack", Localisation::Menu_FichSelFichScenPack(), U"Cmd+O"};
+    DesktopMenuItem FichSaveFile{U"FichSaveFile", Localisation::Btn_SauvFichier(), U"Cmd+S"};
+    DesktopQuitMenuItem FileQuit{U"FileQuit", Localisation::Btn_Quit(), U"Cmd+Cmd+Q"};
 
-    DesktopMenuItem EditUndo{U"EditUndo", Localisation::Menu_EditUndo(), U"Ctrl+Z", EditCommand::Undo};
-    DesktopMenuItem EditRedo{U"EditRedo", Localisation::Menu_EditRedo(), U"Ctrl+Shift+Z; Ctrl+Y", EditCommand::Redo};
-    DesktopMenuItem EditCut{U"EditCut", Localisation::Menu_EditCut(), U"Ctrl+X", EditCommand::Cut};
-    DesktopMenuItem EditCopy{U"EditCopy", Localisation::Menu_EditCopy(), U"Ctrl+C", EditCommand::Copy};
-    DesktopMenuItem EditPaste{U"EditPaste", Localisation::Menu_EditPaste(), U"Ctrl+V", EditCommand::Paste};
+    DesktopMenuItem EditUndo{U"EditUndo", Localisation::Menu_EditUndo(), U"Cmd+Z", EditCommand::Undo};
+    DesktopMenuItem EditRedo{U"EditRedo", Localisation::Menu_EditRedo(), U"Cmd+Shift+Z; Cmd+Y", EditCommand::Redo};
+    DesktopMenuItem EditCut{U"EditCut", Localisation::Menu_EditCut(), U"Cmd+X", EditCommand::Cut};
+    DesktopMenuItem EditCopy{U"EditCopy", Localisation::Menu_EditCopy(), U"Cmd+C", EditCommand::Copy};
+    DesktopMenuItem EditPaste{U"EditPaste", Localisation::Menu_EditPaste(), U"Cmd+V", EditCommand::Paste};
     DesktopMenuItem EditClear{U"EditClear", Localisation::Menu_EditClear(), U"", EditCommand::Clear};
-    DesktopMenuItem EditSelectAll{U"EditSelectAll", Localisation::Menu_EditSelectAll(), U"Ctrl+A",
+    DesktopMenuItem EditSelectAll{U"EditSelectAll", Localisation::Menu_EditSelectAll(), U"Cmd+A",
                                   EditCommand::SelectAll};
-    DesktopPreferencesMenuItem ApplePrefs{U"ApplePrefs", Localisation::Menu_Preferences(), U"Ctrl+,"};
+    DesktopPreferencesMenuItem ApplePrefs{U"ApplePrefs", Localisation::Menu_Preferences(), U"Cmd+,"};
 
     DesktopMenuItem TexteGenerer{U"TexteGenerer", Localisation::Btn_Generer(), U"F5"};
     DesktopMenuItem TexteRapport{U"TexteRapport", Localisation::Menu_Rapport()};
-    DesktopRepeatingMenuItem TexteMonter{U"TexteMonter", Localisation::Menu_Monter(), U"Alt+Up"};
-    DesktopRepeatingMenuItem TexteDescendre{U"TexteDescendre", Localisation::Menu_Descendre(), U"Alt+Down"};
-    DesktopRepeatingMenuItem TexteDoubler{U"TexteDoubler", Localisation::Menu_Doubler(), U"Ctrl+D"};
-    DesktopRepeatingMenuItem TexteSupprimer{U"TexteSupprimer", Localisation::Menu_Supprimer(), U"Ctrl+Shift+K"};
+    DesktopRepeatingMenuItem TexteMonter{U"TexteMonter", Localisation::Menu_Monter(), U"Option+Up"};
+    DesktopRepeatingMenuItem TexteDescendre{U"TexteDescendre", Localisation::Menu_Descendre(), U"Option+Down"};
+    DesktopRepeatingMenuItem TexteDoubler{U"TexteDoubler", Localisation::Menu_Doubler(), U"Cmd+D"};
+    DesktopRepeatingMenuItem TexteSupprimer{U"TexteSupprimer", Localisation::Menu_Supprimer(), U"Cmd+Shift+K"};
     DesktopRepeatingMenuItem TexteMarqueSuiv{U"TexteMarqueSuiv", Localisation::Menu_MarqueSuiv(), U"F8"};
     DesktopRepeatingMenuItem TexteMarquePrec{U"TexteMarquePrec", Localisation::Menu_MarquePrec(), U"Shift+F8"};
     DesktopRepeatingMenuItem TexteCherchSuiv{U"TexteCherchSuiv", Localisation::Menu_CherchSuiv(), U"F3"};

@@ -41,6 +41,7 @@ void WinMain::BindRun()
 {
     BtnRun.Pressed = [this] { BtnRun_Pressed(); };
     TimerDebRun.Action = [this] { InRun([&] { TimerDebRun_Action(); }); };
+    URLCnctLirePage.AllowCertificateValidation = false;
     // An error page is content like any other: the header test refuses it.
     URLCnctLirePage.ContentReceived = [this](const String& /*url*/, Int64 /*httpStatus*/, const Bytes& content) {
         InRun([&] { RunSuite(Fncts::TextOfBytes(content)); });
@@ -83,7 +84,8 @@ void WinMain::TimerDebRun_Action()
     ++runs_;
     if (RadGrpSrc.SelectedIndex() == 0) return RunSuite(ReadFile(Fncts::GetFitemAbsPath(TextFieldMod1.Text(), false)));
     const String url = TextFieldMod2.Text();
-    if (BeginsWith(url, U"http://") || BeginsWith(url, U"https://")) return URLCnctLirePage.Send(url, fetchTimeout);
+    if (BeginsWith(url, U"http://") || BeginsWith(url, U"https://"))
+        return URLCnctLirePage.Send(U"Get", url, fetchTimeout);
     Tell(Localisation::Txt_UrlDoitCommencer());
     RunSuite({.failure = Localisation::Txt_UrlDoitCommencer()});
 }

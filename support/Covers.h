@@ -33,8 +33,7 @@ enum class CoverAct {
     /// The dialog's window `win` is remembered, or forgotten (null).
     Remember,
     /// `win` was activated: the user is sent back to the dialog's window, with one beep and its reason unless the last
-    /// call is no more
-    /// than 12 ticks ago.
+    /// call is no more than 12 ticks ago.
     Activated,
 };
 

@@ -39,12 +39,18 @@ void TellOfException(const char* what) noexcept
 /// Ends an exception at the event that raised it, so that the program goes on with the next one; drops stray keys.
 class GuardedApplication final : public QApplication {
 public:
-    using QApplication::QApplication;
+    GuardedApplication(int& argc, char** argv)
+        : QApplication(argc, argv)
+    {
+        installEventFilter(this);
+    }
+
+    /// As a filter it leaves the menu bar's own: to that, Alt would have been pressed without any letter.
+    bool eventFilter(QObject* /*receiver*/, QEvent* event) override { return StrayKeys::IsOne(*event); }
 
     bool notify(QObject* receiver, QEvent* event) override
     {
         try {
-            if (StrayKeys::IsOne(*event)) return true;
             return QApplication::notify(receiver, event);
         } catch (const std::exception& error) {
             TellOfException(error.what());

@@ -22,6 +22,15 @@ DesktopMenuItem::DesktopMenuItem(String name, String text, String shortcut, Edit
 
 namespace {
 
+QList<QKeySequence> KeysOf(StringView shortcut)
+{
+    QString keys = ToQt(shortcut);
+    keys.replace(QStringLiteral("Cmd+Cmd"), QStringLiteral("Cmd"));
+    keys.replace(QStringLiteral("Cmd"), QStringLiteral("Ctrl"))
+        .replace(QStringLiteral("Option"), QStringLiteral("Alt"));
+    return QKeySequence::listFromString(keys);
+}
+
 /// Marks in each text that has no mark yet the first letter that no other one has for its key.
 void MarkKeys(const QList<QAction*>& actions)
 {
@@ -92,7 +101,7 @@ private:
         }
         QAction* action = list.addAction(ToQt(item.Text));
         action->setObjectName(ToQt(item.Name));
-        action->setShortcuts(QKeySequence::listFromString(ToQt(item.Shortcut)));
+        action->setShortcuts(KeysOf(item.Shortcut));
         action->setMenuRole(RoleOf(item));
         action->setAutoRepeat(item.Edit != EditCommand::None || dynamic_cast<DesktopRepeatingMenuItem*>(&item));
         connect(action, &QAction::triggered, this, [this, &item] { Trigger(item); });

@@ -13,8 +13,9 @@ enum class EditCommand { None, Undo, Redo, Cut, Copy, Paste, Clear, SelectAll };
 /// An item, or a line between items when its text is "-".
 class DesktopMenuItem {
 public:
-    /// `shortcut` in the form "Ctrl+Shift+O", where Ctrl is the platform's command key (Cmd on macOS); "; " stands
-    /// between several. An item with an `edit` command needs no handler.
+    /// `shortcut` in the form "Cmd+Shift+O", where Cmd is the platform's command key (Control on Linux) and Option its
+    /// Alt key; a doubled "Cmd+Cmd+Q" means the same key once; "; " stands between several. An item with an `edit`
+    /// command needs no handler.
     DesktopMenuItem(String name, String text, String shortcut = {}, EditCommand edit = EditCommand::None);
     virtual ~DesktopMenuItem() = default;
     DesktopMenuItem(const DesktopMenuItem&) = delete;

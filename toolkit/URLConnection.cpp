@@ -28,9 +28,11 @@ static void Break(const QUrl& url)
 URLConnection::URLConnection() = default;
 URLConnection::~URLConnection() { Disconnect(); }
 
-void URLConnection::Send(StringView url, int timeout)
+void URLConnection::Send(StringView method, StringView url, int timeout)
 {
     QNetworkRequest request(QUrl(ToQt(url).trimmed()));
+    // A method of its own means HTTP: Qt's plain "get" would open files too.
+    request.setAttribute(QNetworkRequest::CustomVerbAttribute, ToQt(method).toUpper().toLatin1());
     request.setRawHeader("User-Agent", "Tarnivel");
     // Of a connection that lives on, Qt now and then loses the answer to a redirection.
     request.setRawHeader("Connection", "close");
@@ -42,9 +44,10 @@ void URLConnection::Ask(const QNetworkRequest& request, const QDeadlineTimer& en
 {
     Disconnect();
     if (!manager_) manager_ = std::make_unique<QNetworkAccessManager>();
-    QNetworkReply* const reply = reply_ = manager_->sendCustomRequest(request, "GET"); // HTTP alone, no file
+    const QByteArray method = request.attribute(QNetworkRequest::CustomVerbAttribute).toByteArray();
+    QNetworkReply* const reply = reply_ = manager_->sendCustomRequest(request, method);
     reply->setReadBufferSize(2 * MaximumSize);
-    reply->ignoreSslErrors();
+    if (!AllowCertificateValidation) reply->ignoreSslErrors();
     const auto read = [this, reply, end] {
         if (reply == reply_ && (reply->isFinished() || reply->bytesAvailable() > MaximumSize)) Read(end);
     };

@@ -17,10 +17,13 @@ class URLConnection {
 public:
     URLConnection();
     ~URLConnection();
-    /// Gets a page. `timeout` is in seconds for the whole exchange; 50 redirects are followed, from a safe address to
-    /// safe ones only. Every certificate is accepted, self-signed ones included.
-    void Send(StringView url, int timeout);
+    /// `timeout` is in seconds for the whole exchange; 50 redirects are followed, from a safe address to safe ones
+    /// only.
+    void Send(StringView method, StringView url, int timeout);
     void Disconnect();
+
+    /// False accepts every certificate, self-signed ones included.
+    bool AllowCertificateValidation = true;
 
     /// The whole answer of the server, an error page included. Nothing tells a break from the end of one that was sent
     /// without its length or packed, though unpacked was asked for; one in pieces passed in 4 of 60 tries.

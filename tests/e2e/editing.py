@@ -65,6 +65,21 @@ def check_preferences(program, area):
         assert program.text(area) == text
 
 
+def click_from_field(program, area, button):
+    """By the mouse, with the focus in a field: it is in the text then, behind any dialogs."""
+    field = program.find("text", "Url modèle")
+    program.click(field)
+    program.wait_for("the focus in the field", lambda: has(field, "focused"))
+    program.click(program.find("push button", button))
+    if button == "Générer":
+        program.answer_until(button)
+    if button == "Sauv fichier":
+        program.answer(button)
+        (question,) = program.answer("Annuler")
+        assert "a changé sur le disque" in question, question
+    program.wait_for(f"the focus in the text after {button}", lambda: has(area, "focused"))
+
+
 def pick(program, view):
     """A view, by the mouse alone."""
     popup = program.find("combo box")
@@ -130,20 +145,15 @@ def check_run_is_taken_back(program, files, area, edited):
     with files.source_file.open("a") as source:
         source.write(ENABLED + "Custom Scenery/Later/\n")
     orange = orange_lines(program, area)
-    program.run()
-    area = program.find("text", "Spack Après")
+    click_from_field(program, area, "Générer")
     made = program.text(area)
     assert made != edited
     assert program.window().get_name() == "Tarnivel", "a result as the run left it is not modified"
-    program.wait_for("the focus in the text", lambda: has(area, "focused"))
     program.keys("ctrl+z")
     program.wait_for("the text before the run", lambda: program.text(area) == edited)
     assert orange_lines(program, area) == orange
-    program.keys("ctrl+s")
-    program.answer("Sauv fichier")
-    (question,) = program.answer("Annuler")
-    assert "a changé sur le disque" in question, question
-    program.focus(area)
+    for button in ("Chercher", "Sauv fichier"):
+        click_from_field(program, area, button)
     program.keys("ctrl+y")
     program.wait_for("the result", lambda: program.text(area) == made)
 
@@ -155,13 +165,12 @@ def check_typing(program, area):
     end = text.index(line) + len(line)
     program.select(area, end, end)
     program.focus(area)
-    program.keys("Return")
+    program.keys("Return", "alt+x")
     program.type(ENABLED + "New/")
     expected = text[:end] + "\n" + ENABLED + "New/" + text[end:]
     program.wait_for("the typed line", lambda: program.text(area) == expected)
     colors = [program.color_at(area, offset) for offset in (end - 1, end + 1, end + 1 + len(ENABLED))]
     assert colors == [ORANGE, GREEN, "0,0,0"], colors
-    program.keys("alt+x")
     program.keys("ctrl+z", "ctrl+z")
     program.wait_for("the text before", lambda: program.text(area) == text)
 

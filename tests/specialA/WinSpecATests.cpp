@@ -138,6 +138,12 @@ TEST_F(SpecialA, WritesWhatTheAnswersAllow)
     window->PushButtTrait_Pressed();
     EXPECT_TRUE(Asked().back().ends_with(U"fera perdre ces changements.[Ne pas remplacer][Remplacer]"));
     EXPECT_EQ(folder.Content(in / "original.txt"), "later");
+
+    app.TabSpecAdest1 = {U"one", String(1'000'000, U'x')};
+    Open(folder.File("grown/original.txt", std::string(100, 'a')));
+    window->PushButtTrait_Pressed();
+    EXPECT_EQ(Asked().back(), U"“one” deviendrait trop long et n'est pas écrit.[Ok]");
+    EXPECT_EQ(Said(), U"Rien n'a été écrit.");
 }
 
 TEST_F(SpecialA, AnOriginalThatLostCharactersIsAskedAbout)
@@ -156,7 +162,7 @@ TEST_F(SpecialA, AnOriginalThatLostCharactersIsAskedAbout)
 TEST_F(SpecialA, StaysAliveInALongTreatment)
 {
     std::string text;
-    for (int word = 0; word < 60'000; ++word)
+    for (int word = 0; word < 600'000; ++word)
         text += "w" + std::to_string(word % 5000) + ' ';
     for (int row = 1; row < 500; ++row)
         app.TabSpecAorg.push_back(U"w" + ToText(Int64{5} * row) + U" ");

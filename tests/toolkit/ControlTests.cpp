@@ -16,13 +16,6 @@ struct ControlTest : ::testing::Test {
     DesktopWindow window{{.title = U"Controls", .width = 400, .height = 300}};
 };
 
-TEST_F(ControlTest, ADarkDesktopChangesNoColour)
-{
-    const QPalette palette = QApplication::palette();
-    EXPECT_GT(palette.color(QPalette::Window).lightness(), 200);
-    EXPECT_LT(palette.color(QPalette::WindowText).lightness(), 100);
-}
-
 TEST_F(ControlTest, CaptionsAreLiteral)
 {
     for (StringView caption : {U"A & B", U"&Quit", U"&&", U"a&&&b", U"plain", U"", U"<b>no mark-up</b>"}) {

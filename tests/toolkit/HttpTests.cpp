@@ -49,7 +49,7 @@ struct Client : URLConnection {
     }
     void Fetch(const String& url, int timeout = 60)
     {
-        Send(url, timeout);
+        Send(U"Get", url, timeout);
         EXPECT_EQ(events, 0);
         EXPECT_TRUE(Reaches(1));
     }
@@ -138,17 +138,17 @@ TEST(URLConnection, IsSilentAfterDisconnectAndCanBeUsedAgainEvenByItsEvents)
     Client client;
     client.Disconnect();
     for (const String& url : {slow.url, U"no address"s, slow.url}) {
-        client.Send(url, 1);
+        client.Send(U"Get", url, 1);
         client.Disconnect();
     }
-    client.Send(slow.url, 1);
+    client.Send(U"Get", slow.url, 1);
     client.Error = [&](const RuntimeException&) {
         client.Disconnect();
-        client.Send(quick.url, 10);
+        client.Send(U"Get", quick.url, 10);
     };
     client.ContentReceived = [&](const String&, Int64, const Bytes& bytes) {
         EXPECT_EQ(bytes, "hello");
-        if (++client.events < 3) client.Send(quick.url, 10);
+        if (++client.events < 3) client.Send(U"Get", quick.url, 10);
     };
     EXPECT_TRUE(client.Reaches(3));
 }

@@ -40,7 +40,7 @@ TEST(CellText, IsReadAsSpreadsheetsWriteIt)
 
 struct ListBoxTest : ::testing::Test {
     DesktopWindow window{{.title = U"Table", .width = 300, .height = 200, .hasMenuBar = true}};
-    DesktopListBox table{window, {0, 0, 300, 100, Lock::Left | Lock::Top, 0}, 3};
+    DesktopListBox table{window, {0, 0, 300, 80, Lock::Left | Lock::Top, 0}, 3};
     const std::vector<CellRow> before = {{U"a", U"b", U"c"}, {U"d", U"e", U""}};
 
     void SetUp() override
@@ -90,6 +90,7 @@ TEST_F(ListBoxTest, TheKeysChangeTheTable)
         {"Tab goes on, behind the last cell to a new row", 1, 1, {"'x", "Tab", "'y", "Tab", "'z", "Tab"}, U"a|b|c/d|x|y/z||"},
         {"Shift+Tab goes back, in the first cell it stays", 0, 1, {"'x", "Shift+Backtab", "'y", "Shift+Backtab", "'z", "Return"}, U"z|x|c/d|e|"},
         {"Enter goes down, behind a row that isn't empty to a new one", 0, 2, {"'x", "Return", "'y", "Return", "Return", "Return"}, U"a|b|x/d|e|y/||"},
+        {"behind the last row that is accepted Tab stays", 1, 2, {"'x", "Tab", "Tab", "Tab", "Tab", "Tab", "Tab", "Tab", "'y", "Return"}, U"a|b|c/d|e|x/||/||y"},
         {"a cell is undone and redone", 0, 0, {"'x", "Return", "'y", "Return", "Ctrl+Z", "Ctrl+Z", "Ctrl+Z", "Ctrl+Shift+Z"}, U"x|b|c/d|e|"},
         {"undo goes on from an untouched cell", 0, 0, {"'x", "Tab", "Ctrl+Z"}, U"a|b|c/d|e|"},
         {"undo in a touched cell stays there", 0, 0, {"'x", "Tab", "'y", "Ctrl+Z", "Return"}, U"x|b|c/d|e|"},
@@ -119,11 +120,13 @@ TEST_F(ListBoxTest, GoesToWhatChanges)
     Start(0, 0);
     table.InsertRows(2, {CellRow(3), {U"x"}});
     EXPECT_EQ(table.SelectedRowIndex(), 2);
+    auto& widget = Find<QTableWidget>("table");
+    EXPECT_TRUE(widget.viewport()->rect().intersects(widget.visualItemRect(widget.item(3, 0))))
+        << "the last of them is seen";
     Press({"Home", "Ctrl+Z", "Ctrl+Shift+Z"});
     EXPECT_EQ(table.SelectedRowIndex(), 2);
     table.RemoveRowAt(2);
     EXPECT_EQ(table.SelectedRowIndex(), -1) << "another removal needs another choice";
-    auto& widget = Find<QTableWidget>("table");
     QTest::mouseClick(widget.verticalHeader()->viewport(), Qt::LeftButton, {}, {5, 30});
     Press({"Del"});
     EXPECT_EQ(Shown(table.Rows()), U"a|b|c/x||") << "the row's edge selects it all";

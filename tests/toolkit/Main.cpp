@@ -1,7 +1,5 @@
 #include "tests/toolkit/TestMenus.h"
 
-#include <QApplication>
-#include <QPalette>
 #include <gtest/gtest.h>
 
 int main(int argc, char** argv)
@@ -12,7 +10,6 @@ int main(int argc, char** argv)
     for (const char* const name : {"http_proxy", "https_proxy", "all_proxy", "HTTP_PROXY", "HTTPS_PROXY", "ALL_PROXY"})
         unsetenv(name);
     setenv("PULSE_SERVER", "unix:/nowhere", 1);
-    QApplication::setPalette(QPalette(Qt::black, Qt::black)); // as on a dark desktop
     DesktopApplication application(argc, argv, U"Tests", U"1.0");
     application.SetMenuBar(testMenus.bar);
     testApplication = &application;

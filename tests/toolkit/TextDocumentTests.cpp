@@ -115,6 +115,10 @@ TEST_F(Documents, AnEditOfTheProgramStaysWhereItIsSeen)
     area.Change({}, start, 0);
     Undo();
     EXPECT_NE(Top(), U"ab 0") << "what is undone out of sight is shown; a change of nothing was no step";
+    const Int64 mark[] = {IndexOf(Numbered(300), U"ab 200")};
+    document.SetText(Numbered(300), mark);
+    EXPECT_EQ(area.GoToMark(true, 0), DesktopTextArea::Jump::Ahead);
+    EXPECT_EQ(Top(), U"ab 200");
 }
 
 TEST_F(Documents, AfterARunTheViewStaysAtWhatIsEdited)
