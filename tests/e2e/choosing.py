@@ -46,7 +46,7 @@ def dropped(program, command, node, *items, over=lambda: None):
             left, top, _, height = program.extents(node)
             drag((1100, 700), (left + 50, top + height // 2))
             over()
-            xdotool("mouseup", 1)
+            xdotool("mousemove_relative", 1, 1, "sleep", 0.3, "mouseup", 1)  # once the last place is answered for
             yield
         finally:
             source.kill()
