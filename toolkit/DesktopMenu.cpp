@@ -2,6 +2,7 @@
 
 #include "toolkit/DesktopApplication.h"
 #include "toolkit/EditCommands.h"
+#include "toolkit/StrayKeys.h"
 #include "toolkit/core/QtText.h"
 
 #include <QApplication>
@@ -103,8 +104,10 @@ private:
         action->setObjectName(ToQt(item.Name));
         action->setShortcuts(KeysOf(item.Shortcut));
         action->setMenuRole(RoleOf(item));
-        action->setAutoRepeat(item.Edit != EditCommand::None || dynamic_cast<DesktopRepeatingMenuItem*>(&item));
-        connect(action, &QAction::triggered, this, [this, &item] { Trigger(item); });
+        const bool repeats = item.Edit != EditCommand::None || dynamic_cast<DesktopRepeatingMenuItem*>(&item);
+        connect(action, &QAction::triggered, this, [this, &item, repeats] {
+            if (repeats || !StrayKeys::IsHeld()) Trigger(item);
+        });
     }
 
     void Validate() const

@@ -13,6 +13,20 @@ constexpr int bounceTime = 400;
 QElapsedTimer sinceDialog;
 bool pressedInDialog = false;
 
+int releasedKey = 0;
+quint64 releasedAt = 0; // milliseconds
+bool isHeld = false;
+
+void FollowHeldKey(const QKeyEvent& key)
+{
+    if (key.type() == QEvent::KeyRelease) {
+        releasedKey = key.key();
+        releasedAt = key.timestamp();
+    }
+    isHeld = key.type() != QEvent::KeyRelease &&
+             (key.isAutoRepeat() || (key.key() == releasedKey && key.timestamp() == releasedAt));
+}
+
 bool ClosesDialogs(int key) { return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space; }
 
 bool IsFromDialog(const QKeyEvent& key)
@@ -47,7 +61,12 @@ void StrayKeys::DialogHasEnded()
 
 bool StrayKeys::IsOne(const QEvent& event)
 {
-    if (event.type() != QEvent::KeyPress) return false;
+    // The press of a key that acts in a menu is told as a question about it only.
+    const bool isPress = event.type() == QEvent::KeyPress;
+    if (!isPress && event.type() != QEvent::KeyRelease && event.type() != QEvent::ShortcutOverride) return false;
     const auto& key = static_cast<const QKeyEvent&>(event);
-    return IsFromDialog(key) || IsLetterWithAlt(key);
+    FollowHeldKey(key);
+    return isPress && (IsFromDialog(key) || IsLetterWithAlt(key));
 }
+
+bool StrayKeys::IsHeld() { return isHeld; }

@@ -12,4 +12,8 @@ void DialogHasEnded();
 /// of a dialog or come at once behind it, and a letter with Alt, which may open a menu but is no text.
 bool IsOne(const QEvent& event);
 
+/// Whether the key pressed last is one that is held down. X11 may tell that as a release and a press in the same
+/// millisecond, which a menu takes for a key pressed again.
+bool IsHeld();
+
 } // namespace StrayKeys
