@@ -96,7 +96,7 @@ void WinMain::AddUnlistedFolders()
     auto [lines, leftOut] = FindUnlisted(text, *folder);
     const Int64 added = CountFields(lines, TxtEoF) - 1, place = FirstPlace(text);
     if (added > 0) {
-        const bool needsEnd = place > 0 && Middle(text, place - 1, 1) != TxtEoF;
+        const bool needsEnd = Middle(text, place - 1, 1) != TxtEoF;
         if (needsEnd) lines.insert(0, TxtEoF);
         const Int64 length = std::ssize(lines);
         const TextChange change{place, 0, std::move(lines)};

@@ -89,6 +89,8 @@ def preferences(program, _server):
 def help_window(program, _server):
     program.press("Aide")
     program.wait_for("the help", lambda: window_named("^Aide$"))
+    program.front = "Aide"
+    assert not has(program.find("text", "Aide"), "editable")
 
 
 def message(program, server):

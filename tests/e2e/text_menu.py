@@ -137,6 +137,10 @@ def check_folders(editor, files):
     gone = [line for line in editor.lines() if any(line.startswith(FIRST.format(n)) for n in files.listed_without_folder())]
     program.pick("Texte", "Désactiver les lignes sans dossier")
     program.wait_for("disabled lines", lambda: not set(gone) & set(editor.lines()))
+    program.set_text(editor.area, "\n".join(before[:3]))
+    program.pick("Texte", "Ajouter les dossiers absents du texte")
+    program.wait_for("lines behind a bare header", lambda: len(editor.lines()) > 3 + len(missing))
+    assert editor.lines()[:3] == before[:3] and added[0] in editor.lines(), editor.lines()
 
 
 def main(command):
