@@ -130,7 +130,7 @@ def main(command):
             none, faint, loud = (loudness(program, recorder, percent) for percent in (0, 20, 100))
             assert none == (0, 0) and all(1 < a < b for a, b in zip(faint, loud, strict=True)), (none, faint, loud)
             voices = lambda number: recorder.record(lambda: search(program, number))  # noqa: E731
-            assert any(voices(2) > 1.25 * voices(1) for _ in range(5)), "no second voice"
+            assert any(voices(2) > 1.25 * voices(1) for _ in range(20)), "no second voice"
             recorder.close()
             assert program.close() == 0
         silent_server(command, files)
