@@ -46,7 +46,7 @@ public:
     }
 
     /// As a filter it leaves the menu bar's own: to that, Alt would have been pressed without any letter.
-    bool eventFilter(QObject* /*receiver*/, QEvent* event) override { return StrayKeys::IsOne(*event); }
+    bool eventFilter(QObject* receiver, QEvent* event) override { return StrayKeys::IsOne(*receiver, *event); }
 
     bool notify(QObject* receiver, QEvent* event) override
     {

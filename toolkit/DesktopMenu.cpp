@@ -2,7 +2,6 @@
 
 #include "toolkit/DesktopApplication.h"
 #include "toolkit/EditCommands.h"
-#include "toolkit/StrayKeys.h"
 #include "toolkit/core/QtText.h"
 
 #include <QApplication>
@@ -104,10 +103,8 @@ private:
         action->setObjectName(ToQt(item.Name));
         action->setShortcuts(KeysOf(item.Shortcut));
         action->setMenuRole(RoleOf(item));
-        const bool repeats = item.Edit != EditCommand::None || dynamic_cast<DesktopRepeatingMenuItem*>(&item);
-        connect(action, &QAction::triggered, this, [this, &item, repeats] {
-            if (repeats || !StrayKeys::IsHeld()) Trigger(item);
-        });
+        action->setAutoRepeat(item.Edit != EditCommand::None || dynamic_cast<DesktopRepeatingMenuItem*>(&item));
+        connect(action, &QAction::triggered, this, [this, &item] { Trigger(item); });
     }
 
     void Validate() const

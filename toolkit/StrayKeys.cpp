@@ -1,5 +1,6 @@
 #include "toolkit/StrayKeys.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QKeyEvent>
@@ -17,14 +18,22 @@ int releasedKey = 0;
 quint64 releasedAt = 0; // milliseconds
 bool isHeld = false;
 
+/// X11 tells a key that is held down as released and pressed in the same millisecond. Qt sees that one is the other's
+/// repetition only where both come at once.
 void FollowHeldKey(const QKeyEvent& key)
 {
     if (key.type() == QEvent::KeyRelease) {
         releasedKey = key.key();
         releasedAt = key.timestamp();
+    } else {
+        isHeld = key.key() == releasedKey && key.timestamp() == releasedAt;
     }
-    isHeld = key.type() != QEvent::KeyRelease &&
-             (key.isAutoRepeat() || (key.key() == releasedKey && key.timestamp() == releasedAt));
+}
+
+bool IsRepeatedAction(const QObject& receiver)
+{
+    const auto* const action = qobject_cast<const QAction*>(&receiver);
+    return isHeld && action && !action->autoRepeat();
 }
 
 bool ClosesDialogs(int key) { return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space; }
@@ -59,14 +68,20 @@ void StrayKeys::DialogHasEnded()
     if (std::exchange(pressedInDialog, false)) sinceDialog.start();
 }
 
-bool StrayKeys::IsOne(const QEvent& event)
+bool StrayKeys::IsOne(const QObject& receiver, const QEvent& event)
 {
-    // The press of a key that acts in a menu is told as a question about it only.
-    const bool isPress = event.type() == QEvent::KeyPress;
-    if (!isPress && event.type() != QEvent::KeyRelease && event.type() != QEvent::ShortcutOverride) return false;
+    switch (event.type()) {
+    case QEvent::Shortcut:
+        return IsRepeatedAction(receiver);
+    case QEvent::KeyRelease:
+    case QEvent::ShortcutOverride:
+        FollowHeldKey(static_cast<const QKeyEvent&>(event));
+        return false;
+    case QEvent::KeyPress:
+        break;
+    default:
+        return false;
+    }
     const auto& key = static_cast<const QKeyEvent&>(event);
-    FollowHeldKey(key);
-    return isPress && (IsFromDialog(key) || IsLetterWithAlt(key));
+    return IsFromDialog(key) || IsLetterWithAlt(key);
 }
-
-bool StrayKeys::IsHeld() { return isHeld; }

@@ -2,6 +2,7 @@
 #pragma once
 
 class QEvent;
+class QObject;
 
 namespace StrayKeys {
 
@@ -9,11 +10,8 @@ namespace StrayKeys {
 void DialogHasEnded();
 
 /// Whether an event is a key to be dropped. These are Return, Enter and the space bar, where they repeat after the end
-/// of a dialog or come at once behind it, and a letter with Alt, which may open a menu but is no text.
-bool IsOne(const QEvent& event);
-
-/// Whether the key pressed last is one that is held down. X11 may tell that as a release and a press in the same
-/// millisecond, which a menu takes for a key pressed again.
-bool IsHeld();
+/// of a dialog or come at once behind it, a letter with Alt, which may open a menu but is no text, and the key of an
+/// action that doesn't repeat, where it is held down.
+bool IsOne(const QObject& receiver, const QEvent& event);
 
 } // namespace StrayKeys
