@@ -52,9 +52,9 @@ std::optional<std::vector<Pack>> WinMain::LookAt(StringView text, const FolderIt
         App::Current().EnableMenuBoutons(true);
     });
     Progress progress;
-    auto packs = std::async(std::launch::async, LookAtPacks, text, dossier, std::ref(progress));
+    auto packs = std::async(LookAtPacks, text, dossier, std::ref(progress));
     const Int64 start = System::Ticks();
-    while (packs.wait_for(between) != std::future_status::ready) {
+    while (packs.wait_for(between) == std::future_status::timeout) {
         ProgressProposer.SetVisible(System::Ticks() - start >= ticksUnseen);
         const std::size_t all = std::max(progress.all.load(), std::size_t{1});
         ProgressProposer.SetValue(static_cast<int>(100 * std::min(progress.begun.load(), all) / all));

@@ -10,7 +10,6 @@
 #include <fcntl.h>
 #include <future>
 #include <map>
-#include <sys/stat.h>
 
 namespace fs = std::filesystem;
 
@@ -41,9 +40,6 @@ try {
     // What opens only when somebody writes to it must not stop the program.
     const Descriptor file(::open(tile.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     Check(file.number >= 0);
-    struct stat status = {};
-    Check(::fstat(file.number, &status) == 0);
-    if (!S_ISREG(status.st_mode)) throw SystemError(EINVAL);
     // The short beginning does for nearly all.
     for (const std::size_t size : {std::size_t{1} << 10, std::size_t{256} << 10}) {
         const PackFacts::Tile kind = TileKindOf(BeginningOf(file.number, size));
@@ -68,7 +64,7 @@ private:
     Item FolderOf(StringView path);
     PackFacts LookInside(const Item& folder);
 
-    const fs::path dossier_;
+    const Item dossier_;
     /// Where an item was searched under another spelling.
     std::map<fs::path, Items> listed_;
 };
@@ -86,11 +82,11 @@ Item Looker::Find(const Item& folder, StringView name)
 
 Item Looker::FolderOf(StringView path)
 {
-    Item folder(dossier_);
+    Item folder = dossier_;
     if (BeginsWith(path, CustomScenery))
         path.remove_prefix(CustomScenery.size());
     else
-        folder.assign(path.starts_with(U'/') ? "/" : dossier_.parent_path());
+        folder.assign(path.starts_with(U'/') ? "/" : dossier_.path().parent_path());
     for (const StringView name : Split(path, U"/"))
         if (!name.empty()) folder = Find(folder, name);
     return folder;
@@ -134,7 +130,7 @@ std::vector<Pack> LookAtPacks(StringView text, const FolderItem& dossier, Progre
         for (std::size_t i = progress.begun++; i < packs.size() && !progress.stopped; i = progress.begun++)
             if (packs[i].fitsLine) packs[i].facts = looker.LookAt(packs[i].line);
     };
-    std::future<void> other = std::async(std::launch::async, look);
+    std::future<void> other = std::async(look);
     look();
     other.get();
     return packs;
