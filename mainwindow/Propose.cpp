@@ -39,7 +39,8 @@ void WinMain::TexteProposer_Action()
     Fncts::MyDialogBox({.message = Txt_PropFait(), .explanation = proposal.report, .btnAction = Btn_Ok(), .win = this});
 }
 
-/// Nothing when the user stopped it. The disk may keep another thread waiting, but never the window.
+/// Nothing when the user stopped it. The disk may keep another thread waiting, but never the window, unless the machine
+/// has no thread to give.
 std::optional<std::vector<Pack>> WinMain::LookAt(StringView text, const FolderItem& dossier)
 {
     constexpr Int64 ticksUnseen = 30;

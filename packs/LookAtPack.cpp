@@ -64,7 +64,7 @@ private:
     Item FolderOf(StringView path);
     PackFacts LookInside(const Item& folder);
 
-    const Item dossier_;
+    const fs::path dossier_;
     /// Where an item was searched under another spelling.
     std::map<fs::path, Items> listed_;
 };
@@ -82,11 +82,11 @@ Item Looker::Find(const Item& folder, StringView name)
 
 Item Looker::FolderOf(StringView path)
 {
-    Item folder = dossier_;
+    Item folder(dossier_);
     if (BeginsWith(path, CustomScenery))
         path.remove_prefix(CustomScenery.size());
     else
-        folder.assign(path.starts_with(U'/') ? "/" : dossier_.path().parent_path());
+        folder.assign(path.starts_with(U'/') ? "/" : dossier_.parent_path());
     for (const StringView name : Split(path, U"/"))
         if (!name.empty()) folder = Find(folder, name);
     return folder;
@@ -130,7 +130,7 @@ std::vector<Pack> LookAtPacks(StringView text, const FolderItem& dossier, Progre
         for (std::size_t i = progress.begun++; i < packs.size() && !progress.stopped; i = progress.begun++)
             if (packs[i].fitsLine) packs[i].facts = looker.LookAt(packs[i].line);
     };
-    std::future<void> other = std::async(look);
+    std::future<void> other = std::async(look); // where no thread is to be had, this one does it all
     look();
     other.get();
     return packs;
